@@ -1,0 +1,3 @@
+# 32-bit Linux programs, built with the native compiler and its multilib.
+set(CMAKE_CXX_FLAGS_INIT "-m32 -msse2 -mfpmath=sse")
+set(CMAKE_C_FLAGS_INIT "-m32 -msse2 -mfpmath=sse")

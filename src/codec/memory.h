@@ -1,0 +1,24 @@
+// Memory of decoded records: every block that a record owns comes from CodecAlloc and goes back
+// through CodecFree.
+#pragma once
+
+#include <stddef.h>
+#include <stdint.h>
+
+namespace kelvra {
+
+// A zeroed block of `size` octets from the process heap, or null when the heap refuses it.
+void* CodecAlloc(size_t size);
+
+// Returns the block whose address stands in the pointer at `slot` and stores null there. Does nothing
+// when `slot`, or the pointer in it, is null. The slot may be unaligned. `sourcePath` and `line` tell
+// a diagnosing double who released the block; they have no other use.
+void CodecFree(void* slot, const char* sourcePath, int line);
+
+// Copies `count` octets; the areas must not overlap.
+void CodecCopy(void* destination, const void* source, size_t count);
+
+// Stores `value` into `count` octets and returns the destination.
+void* CodecFill(void* destination, uint8_t value, size_t count);
+
+}  // namespace kelvra

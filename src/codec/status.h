@@ -1,0 +1,22 @@
+// What a decoder reports. A status other than kDecoded travels up unchanged.
+#pragma once
+
+#include <stdint.h>
+
+namespace kelvra {
+
+using Status = uint8_t;
+
+inline constexpr Status kDecoded = 0;
+inline constexpr Status kMalformed = 1;           // an impossible value, such as a root index beyond the alternatives
+inline constexpr Status kExhausted = 2;           // the reader stood at its end on entry; nothing was read
+inline constexpr Status kUnsupportedVersion = 3;  // a registration message of an unknown H.225.0 version
+inline constexpr Status kRefused = 4;             // a heap block was refused; the reader stands at its end
+
+}  // namespace kelvra
+
+// Decodes one component and leaves the decoder with its status when that is not kDecoded.
+#define KELVRA_TRY(component)                                                              \
+  do {                                                                                     \
+    if (const ::kelvra::Status status_ = (component); status_ != ::kelvra::kDecoded) return status_; \
+  } while (false)

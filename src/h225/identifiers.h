@@ -1,0 +1,50 @@
+// Call identifiers and small shared choices.
+#pragma once
+
+#include <stdint.h>
+
+#include "../per/walk.h"
+#include "null_choice.h"
+
+namespace kelvra::h225 {
+
+#pragma pack(push, 1)
+
+struct CallIdentifier {
+  OctetStringValue guid;
+  uint32_t isExtended;
+
+  template <class Record, class Visitor>
+  static void Walk(Record& m, Visitor& v) {
+    WalkOctets(v, "guid", m.guid);
+  }
+};
+
+struct CallTypeNames {
+  static constexpr uint32_t kRoots = 4;
+  static constexpr const char* kAlternatives[] = {"pointToPoint", "oneToN", "nToOne", "nToN"};
+};
+using CallType = NullChoice<CallTypeNames>;
+
+struct PresentationIndicatorNames {
+  static constexpr uint32_t kRoots = 3;
+  static constexpr const char* kAlternatives[] = {"presentationAllowed", "presentationRestricted", "addressNotAvailable"};
+};
+using PresentationIndicator = NullChoice<PresentationIndicatorNames>;
+
+// ENUMERATED; `isExtended` is never set.
+struct ScreeningIndicator {
+  uint32_t value;
+  uint32_t isExtended;
+
+  template <class Record, class Visitor>
+  static void Walk(Record& m, Visitor& v) {
+    constexpr const char* kIdentifiers[] = {"userProvidedNotScreened", "userProvidedVerifiedAndPassed",
+                                            "userProvidedVerifiedAndFailed", "networkProvided"};
+    v.EnumeratedValue(m.value, m.value < 4 ? kIdentifiers[m.value] : nullptr);
+  }
+};
+
+#pragma pack(pop)
+
+}  // namespace kelvra::h225

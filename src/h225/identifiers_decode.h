@@ -1,0 +1,14 @@
+#pragma once
+
+#include "codec/status.h"
+#include "h225/identifiers.h"
+#include "per/reader.h"
+
+namespace kelvra::h225 {
+
+Status DecodeCallIdentifier(CallIdentifier& m, PerReader& r);
+Status DecodeCallType(CallType& m, PerReader& r);
+Status DecodePresentationIndicator(PresentationIndicator& m, PerReader& r);
+Status DecodeScreeningIndicator(ScreeningIndicator& m, PerReader& r);
+
+}  // namespace kelvra::h225

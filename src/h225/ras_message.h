@@ -1,0 +1,41 @@
+// RasMessage, the outermost record of the RAS family.
+#pragma once
+
+#include "gatekeeper_discovery.h"
+
+namespace kelvra::h225 {
+
+#pragma pack(push, 1)
+
+struct RasMessageNames {
+  static constexpr uint32_t kRoots = 25;
+  static constexpr const char* kAlternatives[] = {"gatekeeperRequest", "gatekeeperConfirm", "gatekeeperReject", "registrationRequest", "registrationConfirm", "registrationReject", "unregistrationRequest", "unregistrationConfirm", "unregistrationReject", "admissionRequest", "admissionConfirm", "admissionReject", "bandwidthRequest", "bandwidthConfirm", "bandwidthReject", "disengageRequest", "disengageConfirm", "disengageReject", "locationRequest", "locationConfirm", "locationReject", "infoRequest", "infoRequestResponse", "nonStandardMessage", "unknownMessageResponse", "requestInProgress", "resourcesAvailableIndicate", "resourcesAvailableConfirm", "infoRequestAck", "infoRequestNak", "serviceControlIndication", "serviceControlResponse"};
+};
+
+// Extension alternatives reuse the tags from 0, so look at `isExtension` before `choiceTag`. An
+// alternative beyond those of the union is passed over: only its tag is kept.
+struct RasMessageRecord {
+  uint8_t choiceTag;
+  union {
+    GatekeeperRequest gatekeeperRequest;
+    GatekeeperConfirm gatekeeperConfirm;
+    GatekeeperReject gatekeeperReject;
+    uint8_t reserved[905];
+  };
+  uint32_t isExtension;
+
+  template <class Record, class Visitor>
+  static void Walk(Record& m, Visitor& v) {
+    if (m.isExtension) return WalkNullChoice<RasMessageNames>(v, m.isExtension, m.choiceTag);
+    switch (m.choiceTag) {
+      case 0: return v.Record("gatekeeperRequest", m.gatekeeperRequest);
+      case 1: return v.Record("gatekeeperConfirm", m.gatekeeperConfirm);
+      case 2: return v.Record("gatekeeperReject", m.gatekeeperReject);
+      default: return WalkNullChoice<RasMessageNames>(v, m.isExtension, m.choiceTag);
+    }
+  }
+};
+
+#pragma pack(pop)
+
+}  // namespace kelvra::h225

@@ -1,0 +1,224 @@
+#include "h245/data_type_decode.h"
+
+#include "codec/release.h"
+#include "h245/decode.h"
+#include "h245/audio_capability_decode.h"
+#include "h245/data_application_decode.h"
+#include "h245/encryption_decode.h"
+#include "h245/multiplex_capability_decode.h"
+#include "h245/non_standard_decode.h"
+#include "h245/video_capability_decode.h"
+
+namespace kelvra::h245 {
+namespace {
+
+void DecodeFrameToThreadMapping(RTPH263VideoRedundancyEncoding::FrameToThreadMapping& m, PerReader& r) {
+  const uint32_t index = ReadChoice(m, r, 2);
+  if (m.isExtension) return PerSkipOpenTypes(r, 1);
+  switch (index) {
+    case 1:
+      m.custom.count = PerReadNumber<uint16_t>(r, 1, 256);
+      if (!DecodeList(r, Slot<RTPH263VideoRedundancyFrameMapping>(&m.custom.elements), m.custom.count, DecodeRTPH263VideoRedundancyFrameMapping)) return;
+      return;
+    default: return;
+  }
+}
+
+// The count of `secondary` is one aligned octet. Where its block is refused, the secondaryEncoding
+// decoded before is released at once.
+void DecodeRtpRedundancyEncoding(RedundancyEncoding& m, PerReader& r) {
+  RedundancyEncoding::RtpRedundancyEncoding& rtp = m.rtpRedundancyEncoding;
+  rtp.isExtended = PerReadBit(r);
+  rtp.hasPrimary = PerReadBit(r);
+  rtp.hasSecondary = PerReadBit(r);
+  if (rtp.hasPrimary) DecodeRedundancyEncodingElement(rtp.primary, r);
+  if (rtp.hasSecondary) {
+    rtp.secondaryCount = PerReadNumber<uint8_t>(r, 0, 255);
+    if (!DecodeList(r, Slot<RedundancyEncodingElement>(&rtp.secondary), rtp.secondaryCount,
+                    DecodeRedundancyEncodingElement)) {
+      ReleaseVisitor release("codec/h245func");
+      return release.Pointer("secondaryEncoding", Slot<DataType>(&m.secondaryEncoding));
+    }
+  }
+  if (rtp.isExtended) PerSkipExtensionAdditions(r);
+}
+
+void DecodeDifferentPort(FECData::Rfc2733::Mode::SeparateStream::DifferentPort& m, PerReader& r) {
+  m.isExtended = PerReadBit(r);
+  m.hasProtectedPayloadType = PerReadBit(r);
+  m.protectedSessionID = PerReadNumber<uint8_t>(r, 1, 255);
+  if (m.hasProtectedPayloadType) m.protectedPayloadType = PerReadNumber<uint8_t>(r, 0, 127);
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+}
+
+void DecodeSamePort(FECData::Rfc2733::Mode::SeparateStream::SamePort& m, PerReader& r) {
+  m.isExtended = PerReadBit(r);
+  m.protectedPayloadType = PerReadNumber<uint8_t>(r, 0, 127);
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+}
+
+void DecodeSeparateStream(FECData::Rfc2733::Mode::SeparateStream& m, PerReader& r) {
+  const uint32_t index = ReadChoice(m, r, 2);
+  if (m.isExtension) return PerSkipOpenTypes(r, 1);
+  switch (index) {
+    case 0: return DecodeDifferentPort(m.differentPort, r);
+    case 1: return DecodeSamePort(m.samePort, r);
+    default: return;
+  }
+}
+
+void DecodeMode(FECData::Rfc2733::Mode& m, PerReader& r) {
+  const uint32_t index = ReadChoice(m, r, 2);
+  if (m.isExtension) return PerSkipOpenTypes(r, 1);
+  switch (index) {
+    case 1: return DecodeSeparateStream(m.separateStream, r);
+    default: return;
+  }
+}
+
+void DecodeRfc2733(FECData::Rfc2733& m, PerReader& r) {
+  m.isExtended = PerReadBit(r);
+  DecodeMode(m.mode, r);
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+}
+
+void DecodeMediaType(H235Media::MediaType& m, PerReader& r) {
+  const uint32_t index = ReadChoice(m, r, 4);
+  if (m.isExtension) {
+    switch (index) {
+      case 0: return InOpenType(r, [&] { DecodeRedundancyEncoding(m.redundancyEncoding, r); });
+      case 1: return InOpenType(r, [&] { DecodeMultiplePayloadStream(m.multiplePayloadStream, r); });
+      case 2: return InOpenType(r, [&] { DecodeFECData(m.fec, r); });
+      default: return PerSkipOpenTypes(r, 1);
+    }
+  }
+  switch (index) {
+    case 0: return DecodeNonStandardParameter(m.nonStandard, r);
+    case 1: return DecodeVideoCapability(m.videoData, r);
+    case 2: return DecodeAudioCapability(m.audioData, r);
+    case 3: return DecodeDataApplicationCapability(m.data, r);
+    default: return;
+  }
+}
+
+}  // namespace
+
+void DecodeRTPH263VideoRedundancyFrameMapping(RTPH263VideoRedundancyFrameMapping& m, PerReader& r) {
+  m.isExtended = PerReadBit(r);
+  m.threadNumber = PerReadNumber<uint8_t>(r, 0, 15);
+  m.frameSequenceCount = PerReadNumber<uint16_t>(r, 1, 256);
+  if (!DecodeList(r, Slot<uint8_t>(&m.frameSequence), m.frameSequenceCount, [](uint8_t& value, PerReader& reader) { value = PerReadNumber<uint8_t>(reader, 0, 255); })) return;
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+}
+
+void DecodeRTPH263VideoRedundancyEncoding(RTPH263VideoRedundancyEncoding& m, PerReader& r) {
+  m.isExtended = PerReadBit(r);
+  m.hasContainedThreads = PerReadBit(r);
+  m.numberOfThreads = PerReadNumber<uint8_t>(r, 1, 16);
+  m.framesBetweenSyncPoints = PerReadNumber<uint16_t>(r, 1, 256);
+  DecodeFrameToThreadMapping(m.frameToThreadMapping, r);
+  if (m.hasContainedThreads) {
+    m.containedThreadsCount = PerReadNumber<uint16_t>(r, 1, 256);
+    if (!DecodeList(r, Slot<uint8_t>(&m.containedThreads), m.containedThreadsCount, [](uint8_t& value, PerReader& reader) { value = PerReadNumber<uint8_t>(reader, 0, 15); })) return;
+  }
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+}
+
+void DecodeRedundancyEncodingMethod(RedundancyEncodingMethod& m, PerReader& r) {
+  const uint32_t index = ReadChoice(m, r, 2);
+  if (m.isExtension) {
+    switch (index) {
+      case 0: return InOpenType(r, [&] { DecodeRTPH263VideoRedundancyEncoding(m.rtpH263VideoRedundancyEncoding, r); });
+      default: return PerSkipOpenTypes(r, 1);
+    }
+  }
+  switch (index) {
+    case 0: return DecodeNonStandardParameter(m.nonStandard, r);
+    default: return;
+  }
+}
+
+void DecodeRedundancyEncodingElement(RedundancyEncodingElement& m, PerReader& r) {
+  m.isExtended = PerReadBit(r);
+  m.hasPayloadType = PerReadBit(r);
+  DecodePointer(r, Slot<DataType>(&m.dataType), DecodeDataType);
+  if (m.hasPayloadType) m.payloadType = PerReadNumber<uint8_t>(r, 0, 127);
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+}
+
+void DecodeRedundancyEncoding(RedundancyEncoding& m, PerReader& r) {
+  m.isExtended = PerReadBit(r);
+  m.hasSecondaryEncoding = PerReadBit(r);
+  DecodeRedundancyEncodingMethod(m.redundancyEncodingMethod, r);
+  if (m.hasSecondaryEncoding) DecodePointer(r, Slot<DataType>(&m.secondaryEncoding), DecodeDataType);
+  if (!m.isExtended) return;
+
+  const uint8_t additions = PerReadBitmapLength8(r);
+  m.hasRtpRedundancyEncoding = PerReadAdditionBit(r, additions, 0);
+  const int32_t unknown = PerCountUnknownAdditions(r, additions, 1);
+  if (m.hasRtpRedundancyEncoding) InOpenType(r, [&] { DecodeRtpRedundancyEncoding(m, r); });
+  PerSkipOpenTypes(r, unknown);
+}
+
+void DecodeMultiplePayloadStreamElement(MultiplePayloadStreamElement& m, PerReader& r) {
+  m.isExtended = PerReadBit(r);
+  m.hasPayloadType = PerReadBit(r);
+  DecodePointer(r, Slot<DataType>(&m.dataType), DecodeDataType);
+  if (m.hasPayloadType) m.payloadType = PerReadNumber<uint8_t>(r, 0, 127);
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+}
+
+void DecodeMultiplePayloadStream(MultiplePayloadStream& m, PerReader& r) {
+  m.isExtended = PerReadBit(r);
+  if (!DecodeSequenceOf(r, &m.elementsCount, Slot<MultiplePayloadStreamElement>(&m.elements), DecodeMultiplePayloadStreamElement)) return;
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+}
+
+void DecodeFECData(FECData& m, PerReader& r) {
+  const uint32_t index = ReadRootChoice(m, r, 1);
+  switch (index) {
+    case 0: return DecodeRfc2733(m.rfc2733, r);
+    default: return;
+  }
+}
+
+void DecodeMultiplexedStreamParameter(MultiplexedStreamParameter& m, PerReader& r) {
+  m.isExtended = PerReadBit(r);
+  DecodeMultiplexFormat(m.multiplexFormat, r);
+  m.controlOnMuxStream = PerReadBit(r);
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+}
+
+void DecodeH235Media(H235Media& m, PerReader& r) {
+  m.isExtended = PerReadBit(r);
+  DecodeEncryptionAuthenticationAndIntegrity(m.encryptionAuthenticationAndIntegrity, r);
+  DecodeMediaType(m.mediaType, r);
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+}
+
+void DecodeDataType(DataType& m, PerReader& r) {
+  const RecursionLevel level(r);
+  if (level.TooDeep()) return PerMoveToEnd(r);
+  const uint32_t index = ReadChoice(m, r, 6);
+  if (m.isExtension) {
+    switch (index) {
+      case 0: return InOpenType(r, [&] { DecodeNonStandardParameter(m.h235Control, r); });
+      case 1: return InOpenType(r, [&] { DecodeH235Media(m.h235Media, r); });
+      case 2: return InOpenType(r, [&] { DecodeMultiplexedStreamParameter(m.multiplexedStream, r); });
+      case 3: return InOpenType(r, [&] { DecodeRedundancyEncoding(m.redundancyEncoding, r); });
+      case 4: return InOpenType(r, [&] { DecodeMultiplePayloadStream(m.multiplePayloadStream, r); });
+      case 5: return InOpenType(r, [&] { DecodeFECData(m.fec, r); });
+      default: return PerSkipOpenTypes(r, 1);
+    }
+  }
+  switch (index) {
+    case 0: return DecodeNonStandardParameter(m.nonStandard, r);
+    case 2: return DecodeVideoCapability(m.videoData, r);
+    case 3: return DecodeAudioCapability(m.audioData, r);
+    case 4: return DecodeDataApplicationCapability(m.data, r);
+    case 5: return DecodeEncryptionMode(m.encryptionData, r);
+    default: return;
+  }
+}
+
+}  // namespace kelvra::h245

@@ -1,0 +1,12 @@
+#include "h245/release.h"
+
+#include "codec/release.h"
+
+namespace kelvra::h245 {
+
+void ReleaseH245Message(H245MessageRecord& record) {
+  ReleaseVisitor release("codec/freeintr");
+  H245MessageRecord::Walk(record, release);
+}
+
+}  // namespace kelvra::h245
