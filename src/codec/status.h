@@ -16,7 +16,7 @@ inline constexpr Status kRefused = 4;             // a heap block was refused; t
 }  // namespace kelvra
 
 // Decodes one component and leaves the decoder with its status when that is not kDecoded.
-#define KELVRA_TRY(component)                                                              \
-  do {                                                                                     \
+#define KELVRA_TRY(component)                                                                        \
+  do {                                                                                               \
     if (const ::kelvra::Status status_ = (component); status_ != ::kelvra::kDecoded) return status_; \
   } while (false)

@@ -1,5 +1,4 @@
 #include "h225/addresses_decode.h"
-
 #include "h225/decode.h"
 #include "h225/identifiers_decode.h"
 #include "h225/non_standard_decode.h"
@@ -77,7 +76,8 @@ Status DecodeSystemId(ANSI41UIM::SystemId& m, PerReader& r) {
     case 1:
       PerReadTBCD(m.mid, r, PerReadNumber<uint32_t>(r, 1, 4));
       return kDecoded;
-    default: return kMalformed;
+    default:
+      return kMalformed;
   }
 }
 
@@ -88,18 +88,24 @@ Status DecodeTransportAddress(TransportAddress& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 7);
   if (m.isExtension) return SkipAlternative(r);
   switch (index) {
-    case 0: return DecodeIpAddress(m.ipAddress, r);
-    case 1: return DecodeIpSourceRoute(m, r);
-    case 2: return DecodeIpxAddress(m.ipxAddress, r);
-    case 3: return DecodeIp6Address(m.ip6Address, r);
+    case 0:
+      return DecodeIpAddress(m.ipAddress, r);
+    case 1:
+      return DecodeIpSourceRoute(m, r);
+    case 2:
+      return DecodeIpxAddress(m.ipxAddress, r);
+    case 3:
+      return DecodeIp6Address(m.ip6Address, r);
     case 4:
       PerReadFixedOctets(m.netBios, r, 16);
       return kDecoded;
     case 5:
       PerReadSizedOctets(m.nsap, r, 20, 1);
       return kDecoded;
-    case 6: return DecodeNonStandardParameter(m.nonStandardAddress, r);
-    default: return kMalformed;
+    case 6:
+      return DecodeNonStandardParameter(m.nonStandardAddress, r);
+    default:
+      return kMalformed;
   }
 }
 
@@ -125,18 +131,21 @@ Status DecodePartyNumber(PartyNumber& m, PerReader& r) {
     return SkipAlternative(r);
   }
   switch (index) {
-    case 0: return DecodePublicPartyNumber(m.e164Number, r);
+    case 0:
+      return DecodePublicPartyNumber(m.e164Number, r);
     case 1:
       PerReadDigits(m.dataPartyNumber, r, PerReadNumber<uint32_t>(r, 1, 128));
       return kDecoded;
     case 2:
       PerReadDigits(m.telexPartyNumber, r, PerReadNumber<uint32_t>(r, 1, 128));
       return kDecoded;
-    case 3: return DecodePrivatePartyNumber(m.privateNumber, r);
+    case 3:
+      return DecodePrivatePartyNumber(m.privateNumber, r);
     case 4:
       PerReadDigits(m.nationalStandardPartyNumber, r, PerReadNumber<uint32_t>(r, 1, 128));
       return kDecoded;
-    default: return kMalformed;
+    default:
+      return kMalformed;
   }
 }
 
@@ -197,9 +206,12 @@ Status DecodeMobileUIM(MobileUIM& m, PerReader& r) {
     return SkipAlternative(r);
   }
   switch (index) {
-    case 0: return DecodeANSI41UIM(m.ansi41Uim, r);
-    case 1: return DecodeGSMUIM(m.gsmUim, r);
-    default: return kMalformed;
+    case 0:
+      return DecodeANSI41UIM(m.ansi41Uim, r);
+    case 1:
+      return DecodeGSMUIM(m.gsmUim, r);
+    default:
+      return kMalformed;
   }
 }
 
@@ -208,12 +220,18 @@ Status DecodeAliasAddress(AliasAddress& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 2);
   if (m.isExtension) {
     switch (index) {
-      case 0: return InOpenType(r, [&] { return DecodeInternetName(m.urlID, r); });
-      case 1: return InOpenType(r, [&] { return DecodeTransportAddress(m.transportID, r); });
-      case 2: return InOpenType(r, [&] { return DecodeInternetName(m.emailID, r); });
-      case 3: return InOpenType(r, [&] { return DecodePartyNumber(m.partyNumber, r); });
-      case 4: return InOpenType(r, [&] { return DecodeMobileUIM(m.mobileUIM, r); });
-      default: return SkipAlternative(r);
+      case 0:
+        return InOpenType(r, [&] { return DecodeInternetName(m.urlID, r); });
+      case 1:
+        return InOpenType(r, [&] { return DecodeTransportAddress(m.transportID, r); });
+      case 2:
+        return InOpenType(r, [&] { return DecodeInternetName(m.emailID, r); });
+      case 3:
+        return InOpenType(r, [&] { return DecodePartyNumber(m.partyNumber, r); });
+      case 4:
+        return InOpenType(r, [&] { return DecodeMobileUIM(m.mobileUIM, r); });
+      default:
+        return SkipAlternative(r);
     }
   }
   switch (index) {
@@ -223,7 +241,8 @@ Status DecodeAliasAddress(AliasAddress& m, PerReader& r) {
     case 1:
       PerReadCharacters16(m.h323ID, r, PerReadNumber<uint32_t>(r, 1, 256));
       return kDecoded;
-    default: return kMalformed;
+    default:
+      return kMalformed;
   }
 }
 

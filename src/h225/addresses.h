@@ -86,27 +86,39 @@ struct TransportAddress {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) return v.UnknownExtension(m.choiceTag);
     switch (m.choiceTag) {
-      case 0: return v.Record("ipAddress", m.ipAddress);
-      case 1: return v.Record("ipSourceRoute", m.ipSourceRoute);
-      case 2: return v.Record("ipxAddress", m.ipxAddress);
-      case 3: return v.Record("ip6Address", m.ip6Address);
-      case 4: return WalkOctets(v, "netBios", m.netBios);
-      case 5: return WalkOctets(v, "nsap", m.nsap);
-      case 6: return v.Record("nonStandardAddress", m.nonStandardAddress);
-      default: return v.UnknownRoot(m.choiceTag);
+      case 0:
+        return v.Record("ipAddress", m.ipAddress);
+      case 1:
+        return v.Record("ipSourceRoute", m.ipSourceRoute);
+      case 2:
+        return v.Record("ipxAddress", m.ipxAddress);
+      case 3:
+        return v.Record("ip6Address", m.ip6Address);
+      case 4:
+        return WalkOctets(v, "netBios", m.netBios);
+      case 5:
+        return WalkOctets(v, "nsap", m.nsap);
+      case 6:
+        return v.Record("nonStandardAddress", m.nonStandardAddress);
+      default:
+        return v.UnknownRoot(m.choiceTag);
     }
   }
 };
 
 struct PublicTypeOfNumberNames {
   static constexpr uint32_t kRoots = 6;
-  static constexpr const char* kAlternatives[] = {"unknown", "internationalNumber", "nationalNumber", "networkSpecificNumber", "subscriberNumber", "abbreviatedNumber"};
+  static constexpr const char* kAlternatives[] = {"unknown",          "internationalNumber",
+                                                  "nationalNumber",   "networkSpecificNumber",
+                                                  "subscriberNumber", "abbreviatedNumber"};
 };
 using PublicTypeOfNumber = NullChoice<PublicTypeOfNumberNames>;
 
 struct PrivateTypeOfNumberNames {
   static constexpr uint32_t kRoots = 6;
-  static constexpr const char* kAlternatives[] = {"unknown", "level2RegionalNumber", "level1RegionalNumber", "pISNSpecificNumber", "localNumber", "abbreviatedNumber"};
+  static constexpr const char* kAlternatives[] = {
+      "unknown",     "level2RegionalNumber", "level1RegionalNumber", "pISNSpecificNumber",
+      "localNumber", "abbreviatedNumber"};
 };
 using PrivateTypeOfNumber = NullChoice<PrivateTypeOfNumberNames>;
 
@@ -147,12 +159,18 @@ struct PartyNumber {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) return v.UnknownExtension(m.choiceTag);
     switch (m.choiceTag) {
-      case 0: return v.Record("e164Number", m.e164Number);
-      case 1: return WalkOctets(v, "dataPartyNumber", m.dataPartyNumber, OctetNotation::kDigits);
-      case 2: return WalkOctets(v, "telexPartyNumber", m.telexPartyNumber, OctetNotation::kDigits);
-      case 3: return v.Record("privateNumber", m.privateNumber);
-      case 4: return WalkOctets(v, "nationalStandardPartyNumber", m.nationalStandardPartyNumber, OctetNotation::kDigits);
-      default: return v.UnknownRoot(m.choiceTag);
+      case 0:
+        return v.Record("e164Number", m.e164Number);
+      case 1:
+        return WalkOctets(v, "dataPartyNumber", m.dataPartyNumber, OctetNotation::kDigits);
+      case 2:
+        return WalkOctets(v, "telexPartyNumber", m.telexPartyNumber, OctetNotation::kDigits);
+      case 3:
+        return v.Record("privateNumber", m.privateNumber);
+      case 4:
+        return WalkOctets(v, "nationalStandardPartyNumber", m.nationalStandardPartyNumber, OctetNotation::kDigits);
+      default:
+        return v.UnknownRoot(m.choiceTag);
     }
   }
 };
@@ -170,9 +188,12 @@ struct ANSI41UIM {
     static void Walk(Record& m, Visitor& v) {
       if (m.isExtension) return v.UnknownExtension(m.choiceTag);
       switch (m.choiceTag) {
-        case 0: return WalkOctets(v, "sid", m.sid, OctetNotation::kCharacters);
-        case 1: return WalkOctets(v, "mid", m.mid, OctetNotation::kCharacters);
-        default: return v.UnknownRoot(m.choiceTag);
+        case 0:
+          return WalkOctets(v, "sid", m.sid, OctetNotation::kCharacters);
+        case 1:
+          return WalkOctets(v, "mid", m.mid, OctetNotation::kCharacters);
+        default:
+          return v.UnknownRoot(m.choiceTag);
       }
     }
   };
@@ -213,7 +234,8 @@ struct ANSI41UIM {
     v.Record("system-id", m.systemId);
     if (m.hasSystemMyTypeCode) WalkOctets(v, "systemMyTypeCode", m.systemMyTypeCode);
     if (m.hasSystemAccessType) WalkOctets(v, "systemAccessType", m.systemAccessType);
-    if (m.hasQualificationInformationCode) WalkOctets(v, "qualificationInformationCode", m.qualificationInformationCode);
+    if (m.hasQualificationInformationCode)
+      WalkOctets(v, "qualificationInformationCode", m.qualificationInformationCode);
     if (m.hasSesn) WalkOctets(v, "sesn", m.sesn, OctetNotation::kCharacters);
     if (m.hasSoc) WalkOctets(v, "soc", m.soc, OctetNotation::kCharacters);
   }
@@ -257,9 +279,12 @@ struct MobileUIM {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) return v.UnknownExtension(m.choiceTag);
     switch (m.choiceTag) {
-      case 0: return v.Record("ansi-41-uim", m.ansi41Uim);
-      case 1: return v.Record("gsm-uim", m.gsmUim);
-      default: return v.UnknownRoot(m.choiceTag);
+      case 0:
+        return v.Record("ansi-41-uim", m.ansi41Uim);
+      case 1:
+        return v.Record("gsm-uim", m.gsmUim);
+      default:
+        return v.UnknownRoot(m.choiceTag);
     }
   }
 };
@@ -281,18 +306,27 @@ struct AliasAddress {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) {
       switch (m.choiceTag) {
-        case 0: return WalkOctets(v, "url-ID", m.urlID, OctetNotation::kCharacters);
-        case 1: return v.Record("transportID", m.transportID);
-        case 2: return WalkOctets(v, "email-ID", m.emailID, OctetNotation::kCharacters);
-        case 3: return v.Record("partyNumber", m.partyNumber);
-        case 4: return v.Record("mobileUIM", m.mobileUIM);
-        default: return v.UnknownExtension(m.choiceTag);
+        case 0:
+          return WalkOctets(v, "url-ID", m.urlID, OctetNotation::kCharacters);
+        case 1:
+          return v.Record("transportID", m.transportID);
+        case 2:
+          return WalkOctets(v, "email-ID", m.emailID, OctetNotation::kCharacters);
+        case 3:
+          return v.Record("partyNumber", m.partyNumber);
+        case 4:
+          return v.Record("mobileUIM", m.mobileUIM);
+        default:
+          return v.UnknownExtension(m.choiceTag);
       }
     }
     switch (m.choiceTag) {
-      case 0: return WalkOctets(v, "dialedDigits", m.dialedDigits, OctetNotation::kDigits);
-      case 1: return v.Characters16("h323-ID", m.h323ID);
-      default: return v.UnknownRoot(m.choiceTag);
+      case 0:
+        return WalkOctets(v, "dialedDigits", m.dialedDigits, OctetNotation::kDigits);
+      case 1:
+        return v.Characters16("h323-ID", m.h323ID);
+      default:
+        return v.UnknownRoot(m.choiceTag);
     }
   }
 };

@@ -1,9 +1,8 @@
-#include "h225/answer_uuie_decode.h"
-
-#include "h225/decode.h"
 #include "h225/addresses_decode.h"
+#include "h225/answer_uuie_decode.h"
 #include "h225/circuits_decode.h"
 #include "h225/crypto_tokens_decode.h"
+#include "h225/decode.h"
 #include "h225/endpoint_type_decode.h"
 #include "h225/fast_start.h"
 #include "h225/generic_data_decode.h"
@@ -36,11 +35,25 @@ Status DecodeCallProceedingUUIE(CallProceedingUUIE& m, PerReader& r) {
   r.extensionPresentCount = PerCountUnknownAdditions(r, additions, 9);
   if (m.hasCallIdentifier) KELVRA_TRY(InOpenType(r, [&] { return DecodeCallIdentifier(m.callIdentifier, r); }));
   if (m.hasH245SecurityMode) KELVRA_TRY(InOpenType(r, [&] { return DecodeH245Security(m.h245SecurityMode, r); }));
-  if (m.hasTokens) KELVRA_TRY(InOpenType(r, [&] { return DecodeSequenceOf(r, &m.tokensCount, Slot<h235::ClearToken>(&m.tokens), h235::DecodeClearToken); }));
-  if (m.hasCryptoTokens) KELVRA_TRY(InOpenType(r, [&] { return DecodeSequenceOf(r, &m.cryptoTokensCount, Slot<CryptoH323Token>(&m.cryptoTokens), DecodeCryptoH323Token); }));
+  if (m.hasTokens)
+    KELVRA_TRY(InOpenType(r, [&] {
+      return DecodeSequenceOf(r, &m.tokensCount, Slot<h235::ClearToken>(&m.tokens), h235::DecodeClearToken);
+    }));
+  if (m.hasCryptoTokens)
+    KELVRA_TRY(InOpenType(r, [&] {
+      return DecodeSequenceOf(r, &m.cryptoTokensCount, Slot<CryptoH323Token>(&m.cryptoTokens), DecodeCryptoH323Token);
+    }));
   if (m.hasFastStart) KELVRA_TRY(InOpenType(r, [&] { return DecodeFastStart(r, &m.fastStartCount, &m.fastStart); }));
-  if (m.hasMultipleCalls) KELVRA_TRY(InOpenType(r, [&] { m.multipleCalls = PerReadBit(r); return kDecoded; }));
-  if (m.hasMaintainConnection) KELVRA_TRY(InOpenType(r, [&] { m.maintainConnection = PerReadBit(r); return kDecoded; }));
+  if (m.hasMultipleCalls)
+    KELVRA_TRY(InOpenType(r, [&] {
+      m.multipleCalls = PerReadBit(r);
+      return kDecoded;
+    }));
+  if (m.hasMaintainConnection)
+    KELVRA_TRY(InOpenType(r, [&] {
+      m.maintainConnection = PerReadBit(r);
+      return kDecoded;
+    }));
   if (m.hasFastConnectRefused) PerSkipOpenTypes(r, 1);
   if (m.hasFeatureSet) KELVRA_TRY(InOpenType(r, [&] { return DecodeFeatureSet(m.featureSet, r); }));
   PerSkipOpenTypes(r, r.extensionPresentCount);
@@ -60,8 +73,11 @@ Status DecodeProgressUUIE(ProgressUUIE& m, PerReader& r) {
   if (m.hasH245Address) KELVRA_TRY(DecodeTransportAddress(m.h245Address, r));
   KELVRA_TRY(DecodeCallIdentifier(m.callIdentifier, r));
   if (m.hasH245SecurityMode) KELVRA_TRY(DecodeH245Security(m.h245SecurityMode, r));
-  if (m.hasTokens) KELVRA_TRY(DecodeSequenceOf(r, &m.tokensCount, Slot<h235::ClearToken>(&m.tokens), h235::DecodeClearToken));
-  if (m.hasCryptoTokens) KELVRA_TRY(DecodeSequenceOf(r, &m.cryptoTokensCount, Slot<CryptoH323Token>(&m.cryptoTokens), DecodeCryptoH323Token));
+  if (m.hasTokens)
+    KELVRA_TRY(DecodeSequenceOf(r, &m.tokensCount, Slot<h235::ClearToken>(&m.tokens), h235::DecodeClearToken));
+  if (m.hasCryptoTokens)
+    KELVRA_TRY(
+        DecodeSequenceOf(r, &m.cryptoTokensCount, Slot<CryptoH323Token>(&m.cryptoTokens), DecodeCryptoH323Token));
   if (m.hasFastStart) KELVRA_TRY(DecodeFastStart(r, &m.fastStartCount, &m.fastStart));
   if (!m.isExtended) return kDecoded;
 
@@ -70,8 +86,16 @@ Status DecodeProgressUUIE(ProgressUUIE& m, PerReader& r) {
   m.hasMaintainConnection = PerReadAdditionBit(r, additions, 1);
   m.hasFastConnectRefused = PerReadAdditionBit(r, additions, 2);
   r.extensionPresentCount = PerCountUnknownAdditions(r, additions, 3);
-  if (m.hasMultipleCalls) KELVRA_TRY(InOpenType(r, [&] { m.multipleCalls = PerReadBit(r); return kDecoded; }));
-  if (m.hasMaintainConnection) KELVRA_TRY(InOpenType(r, [&] { m.maintainConnection = PerReadBit(r); return kDecoded; }));
+  if (m.hasMultipleCalls)
+    KELVRA_TRY(InOpenType(r, [&] {
+      m.multipleCalls = PerReadBit(r);
+      return kDecoded;
+    }));
+  if (m.hasMaintainConnection)
+    KELVRA_TRY(InOpenType(r, [&] {
+      m.maintainConnection = PerReadBit(r);
+      return kDecoded;
+    }));
   if (m.hasFastConnectRefused) PerSkipOpenTypes(r, 1);
   PerSkipOpenTypes(r, r.extensionPresentCount);
   return kDecoded;
@@ -104,16 +128,39 @@ Status DecodeAlertingUUIE(AlertingUUIE& m, PerReader& r) {
   r.extensionPresentCount = PerCountUnknownAdditions(r, additions, 14);
   if (m.hasCallIdentifier) KELVRA_TRY(InOpenType(r, [&] { return DecodeCallIdentifier(m.callIdentifier, r); }));
   if (m.hasH245SecurityMode) KELVRA_TRY(InOpenType(r, [&] { return DecodeH245Security(m.h245SecurityMode, r); }));
-  if (m.hasTokens) KELVRA_TRY(InOpenType(r, [&] { return DecodeSequenceOf(r, &m.tokensCount, Slot<h235::ClearToken>(&m.tokens), h235::DecodeClearToken); }));
-  if (m.hasCryptoTokens) KELVRA_TRY(InOpenType(r, [&] { return DecodeSequenceOf(r, &m.cryptoTokensCount, Slot<CryptoH323Token>(&m.cryptoTokens), DecodeCryptoH323Token); }));
+  if (m.hasTokens)
+    KELVRA_TRY(InOpenType(r, [&] {
+      return DecodeSequenceOf(r, &m.tokensCount, Slot<h235::ClearToken>(&m.tokens), h235::DecodeClearToken);
+    }));
+  if (m.hasCryptoTokens)
+    KELVRA_TRY(InOpenType(r, [&] {
+      return DecodeSequenceOf(r, &m.cryptoTokensCount, Slot<CryptoH323Token>(&m.cryptoTokens), DecodeCryptoH323Token);
+    }));
   if (m.hasFastStart) KELVRA_TRY(InOpenType(r, [&] { return DecodeFastStart(r, &m.fastStartCount, &m.fastStart); }));
-  if (m.hasMultipleCalls) KELVRA_TRY(InOpenType(r, [&] { m.multipleCalls = PerReadBit(r); return kDecoded; }));
-  if (m.hasMaintainConnection) KELVRA_TRY(InOpenType(r, [&] { m.maintainConnection = PerReadBit(r); return kDecoded; }));
-  if (m.hasAlertingAddress) KELVRA_TRY(InOpenType(r, [&] { return DecodeSequenceOf(r, &m.alertingAddressCount, Slot<AliasAddress>(&m.alertingAddress), DecodeAliasAddress); }));
-  if (m.hasPresentationIndicator) KELVRA_TRY(InOpenType(r, [&] { return DecodePresentationIndicator(m.presentationIndicator, r); }));
-  if (m.hasScreeningIndicator) KELVRA_TRY(InOpenType(r, [&] { return DecodeScreeningIndicator(m.screeningIndicator, r); }));
+  if (m.hasMultipleCalls)
+    KELVRA_TRY(InOpenType(r, [&] {
+      m.multipleCalls = PerReadBit(r);
+      return kDecoded;
+    }));
+  if (m.hasMaintainConnection)
+    KELVRA_TRY(InOpenType(r, [&] {
+      m.maintainConnection = PerReadBit(r);
+      return kDecoded;
+    }));
+  if (m.hasAlertingAddress)
+    KELVRA_TRY(InOpenType(r, [&] {
+      return DecodeSequenceOf(r, &m.alertingAddressCount, Slot<AliasAddress>(&m.alertingAddress), DecodeAliasAddress);
+    }));
+  if (m.hasPresentationIndicator)
+    KELVRA_TRY(InOpenType(r, [&] { return DecodePresentationIndicator(m.presentationIndicator, r); }));
+  if (m.hasScreeningIndicator)
+    KELVRA_TRY(InOpenType(r, [&] { return DecodeScreeningIndicator(m.screeningIndicator, r); }));
   if (m.hasFastConnectRefused) PerSkipOpenTypes(r, 1);
-  if (m.hasServiceControl) KELVRA_TRY(InOpenType(r, [&] { return DecodeSequenceOf(r, &m.serviceControlCount, Slot<ServiceControlSession>(&m.serviceControl), DecodeServiceControlSession); }));
+  if (m.hasServiceControl)
+    KELVRA_TRY(InOpenType(r, [&] {
+      return DecodeSequenceOf(r, &m.serviceControlCount, Slot<ServiceControlSession>(&m.serviceControl),
+                              DecodeServiceControlSession);
+    }));
   if (m.hasCapacity) KELVRA_TRY(InOpenType(r, [&] { return DecodeCallCapacity(m.capacity, r); }));
   if (m.hasFeatureSet) KELVRA_TRY(InOpenType(r, [&] { return DecodeFeatureSet(m.featureSet, r); }));
   PerSkipOpenTypes(r, r.extensionPresentCount);
@@ -149,17 +196,47 @@ Status DecodeConnectUUIE(ConnectUUIE& m, PerReader& r) {
   r.extensionPresentCount = PerCountUnknownAdditions(r, additions, 15);
   if (m.hasCallIdentifier) KELVRA_TRY(InOpenType(r, [&] { return DecodeCallIdentifier(m.callIdentifier, r); }));
   if (m.hasH245SecurityMode) KELVRA_TRY(InOpenType(r, [&] { return DecodeH245Security(m.h245SecurityMode, r); }));
-  if (m.hasTokens) KELVRA_TRY(InOpenType(r, [&] { return DecodeSequenceOf(r, &m.tokensCount, Slot<h235::ClearToken>(&m.tokens), h235::DecodeClearToken); }));
-  if (m.hasCryptoTokens) KELVRA_TRY(InOpenType(r, [&] { return DecodeSequenceOf(r, &m.cryptoTokensCount, Slot<CryptoH323Token>(&m.cryptoTokens), DecodeCryptoH323Token); }));
+  if (m.hasTokens)
+    KELVRA_TRY(InOpenType(r, [&] {
+      return DecodeSequenceOf(r, &m.tokensCount, Slot<h235::ClearToken>(&m.tokens), h235::DecodeClearToken);
+    }));
+  if (m.hasCryptoTokens)
+    KELVRA_TRY(InOpenType(r, [&] {
+      return DecodeSequenceOf(r, &m.cryptoTokensCount, Slot<CryptoH323Token>(&m.cryptoTokens), DecodeCryptoH323Token);
+    }));
   if (m.hasFastStart) KELVRA_TRY(InOpenType(r, [&] { return DecodeFastStart(r, &m.fastStartCount, &m.fastStart); }));
-  if (m.hasMultipleCalls) KELVRA_TRY(InOpenType(r, [&] { m.multipleCalls = PerReadBit(r); return kDecoded; }));
-  if (m.hasMultipleCalls) KELVRA_TRY(InOpenType(r, [&] { m.maintainConnection = PerReadBit(r); return kDecoded; }));
-  if (m.hasLanguage) KELVRA_TRY(InOpenType(r, [&] { return DecodeSequenceOf(r, &m.languageCount, Slot<OctetStringValue>(&m.language), [](OctetStringValue& value, PerReader& reader) -> Status { PerReadSizedOctets(value, reader, 32, 1); return kDecoded; }); }));
-  if (m.hasConnectedAddress) KELVRA_TRY(InOpenType(r, [&] { return DecodeSequenceOf(r, &m.connectedAddressCount, Slot<AliasAddress>(&m.connectedAddress), DecodeAliasAddress); }));
-  if (m.hasPresentationIndicator) KELVRA_TRY(InOpenType(r, [&] { return DecodePresentationIndicator(m.presentationIndicator, r); }));
-  if (m.hasScreeningIndicator) KELVRA_TRY(InOpenType(r, [&] { return DecodeScreeningIndicator(m.screeningIndicator, r); }));
+  if (m.hasMultipleCalls)
+    KELVRA_TRY(InOpenType(r, [&] {
+      m.multipleCalls = PerReadBit(r);
+      return kDecoded;
+    }));
+  if (m.hasMultipleCalls)
+    KELVRA_TRY(InOpenType(r, [&] {
+      m.maintainConnection = PerReadBit(r);
+      return kDecoded;
+    }));
+  if (m.hasLanguage)
+    KELVRA_TRY(InOpenType(r, [&] {
+      return DecodeSequenceOf(r, &m.languageCount, Slot<OctetStringValue>(&m.language),
+                              [](OctetStringValue& value, PerReader& reader) -> Status {
+                                PerReadSizedOctets(value, reader, 32, 1);
+                                return kDecoded;
+                              });
+    }));
+  if (m.hasConnectedAddress)
+    KELVRA_TRY(InOpenType(r, [&] {
+      return DecodeSequenceOf(r, &m.connectedAddressCount, Slot<AliasAddress>(&m.connectedAddress), DecodeAliasAddress);
+    }));
+  if (m.hasPresentationIndicator)
+    KELVRA_TRY(InOpenType(r, [&] { return DecodePresentationIndicator(m.presentationIndicator, r); }));
+  if (m.hasScreeningIndicator)
+    KELVRA_TRY(InOpenType(r, [&] { return DecodeScreeningIndicator(m.screeningIndicator, r); }));
   if (m.hasFastConnectRefused) PerSkipOpenTypes(r, 1);
-  if (m.hasServiceControl) KELVRA_TRY(InOpenType(r, [&] { return DecodeSequenceOf(r, &m.serviceControlCount, Slot<ServiceControlSession>(&m.serviceControl), DecodeServiceControlSession); }));
+  if (m.hasServiceControl)
+    KELVRA_TRY(InOpenType(r, [&] {
+      return DecodeSequenceOf(r, &m.serviceControlCount, Slot<ServiceControlSession>(&m.serviceControl),
+                              DecodeServiceControlSession);
+    }));
   if (m.hasCapacity) KELVRA_TRY(InOpenType(r, [&] { return DecodeCallCapacity(m.capacity, r); }));
   if (m.hasFeatureSet) KELVRA_TRY(InOpenType(r, [&] { return DecodeFeatureSet(m.featureSet, r); }));
   PerSkipOpenTypes(r, r.extensionPresentCount);

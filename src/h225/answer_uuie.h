@@ -155,7 +155,8 @@ struct AlertingUUIE {
     if (m.hasPresentationIndicator) v.Record("presentationIndicator", m.presentationIndicator);
     if (m.hasScreeningIndicator) v.Record("screeningIndicator", m.screeningIndicator);
     if (m.hasFastConnectRefused) v.Null("fastConnectRefused");
-    if (m.hasServiceControl) v.List("serviceControl", Slot<ServiceControlSession>(&m.serviceControl), m.serviceControlCount);
+    if (m.hasServiceControl)
+      v.List("serviceControl", Slot<ServiceControlSession>(&m.serviceControl), m.serviceControlCount);
     if (m.hasCapacity) v.Record("capacity", m.capacity);
     if (m.hasFeatureSet) v.Record("featureSet", m.featureSet);
   }
@@ -218,12 +219,15 @@ struct ConnectUUIE {
     if (m.hasFastStart) v.List("fastStart", Slot<h245::OpenLogicalChannel>(&m.fastStart), m.fastStartCount);
     if (m.hasMultipleCalls) v.Boolean("multipleCalls", m.multipleCalls);
     if (m.hasMaintainConnection) v.Boolean("maintainConnection", m.maintainConnection);
-    if (m.hasLanguage) v.OctetStrings("language", Slot<OctetStringValue>(&m.language), m.languageCount, OctetNotation::kCharacters);
-    if (m.hasConnectedAddress) v.List("connectedAddress", Slot<AliasAddress>(&m.connectedAddress), m.connectedAddressCount);
+    if (m.hasLanguage)
+      v.OctetStrings("language", Slot<OctetStringValue>(&m.language), m.languageCount, OctetNotation::kCharacters);
+    if (m.hasConnectedAddress)
+      v.List("connectedAddress", Slot<AliasAddress>(&m.connectedAddress), m.connectedAddressCount);
     if (m.hasPresentationIndicator) v.Record("presentationIndicator", m.presentationIndicator);
     if (m.hasScreeningIndicator) v.Record("screeningIndicator", m.screeningIndicator);
     if (m.hasFastConnectRefused) v.Null("fastConnectRefused");
-    if (m.hasServiceControl) v.List("serviceControl", Slot<ServiceControlSession>(&m.serviceControl), m.serviceControlCount);
+    if (m.hasServiceControl)
+      v.List("serviceControl", Slot<ServiceControlSession>(&m.serviceControl), m.serviceControlCount);
     if (m.hasCapacity) v.Record("capacity", m.capacity);
     if (m.hasFeatureSet) v.Record("featureSet", m.featureSet);
   }

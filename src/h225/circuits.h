@@ -119,17 +119,30 @@ struct CallCapacityInfo {
 
   template <class Record, class Visitor>
   static void Walk(Record& m, Visitor& v) {
-    if (m.hasVoiceGwCallsAvailable) v.List("voiceGwCallsAvailable", Slot<CallsAvailable>(&m.voiceGwCallsAvailable), m.voiceGwCallsAvailableCount);
-    if (m.hasH310GwCallsAvailable) v.List("h310GwCallsAvailable", Slot<CallsAvailable>(&m.h310GwCallsAvailable), m.h310GwCallsAvailableCount);
-    if (m.hasH320GwCallsAvailable) v.List("h320GwCallsAvailable", Slot<CallsAvailable>(&m.h320GwCallsAvailable), m.h320GwCallsAvailableCount);
-    if (m.hasH321GwCallsAvailable) v.List("h321GwCallsAvailable", Slot<CallsAvailable>(&m.h321GwCallsAvailable), m.h321GwCallsAvailableCount);
-    if (m.hasH322GwCallsAvailable) v.List("h322GwCallsAvailable", Slot<CallsAvailable>(&m.h322GwCallsAvailable), m.h322GwCallsAvailableCount);
-    if (m.hasH323GwCallsAvailable) v.List("h323GwCallsAvailable", Slot<CallsAvailable>(&m.h323GwCallsAvailable), m.h323GwCallsAvailableCount);
-    if (m.hasH324GwCallsAvailable) v.List("h324GwCallsAvailable", Slot<CallsAvailable>(&m.h324GwCallsAvailable), m.h324GwCallsAvailableCount);
-    if (m.hasT120OnlyGwCallsAvailable) v.List("t120OnlyGwCallsAvailable", Slot<CallsAvailable>(&m.t120OnlyGwCallsAvailable), m.t120OnlyGwCallsAvailableCount);
-    if (m.hasT38FaxAnnexbOnlyGwCallsAvailable) v.List("t38FaxAnnexbOnlyGwCallsAvailable", Slot<CallsAvailable>(&m.t38FaxAnnexbOnlyGwCallsAvailable), m.t38FaxAnnexbOnlyGwCallsAvailableCount);
-    if (m.hasTerminalCallsAvailable) v.List("terminalCallsAvailable", Slot<CallsAvailable>(&m.terminalCallsAvailable), m.terminalCallsAvailableCount);
-    if (m.hasMcuCallsAvailable) v.List("mcuCallsAvailable", Slot<CallsAvailable>(&m.mcuCallsAvailable), m.mcuCallsAvailableCount);
+    if (m.hasVoiceGwCallsAvailable)
+      v.List("voiceGwCallsAvailable", Slot<CallsAvailable>(&m.voiceGwCallsAvailable), m.voiceGwCallsAvailableCount);
+    if (m.hasH310GwCallsAvailable)
+      v.List("h310GwCallsAvailable", Slot<CallsAvailable>(&m.h310GwCallsAvailable), m.h310GwCallsAvailableCount);
+    if (m.hasH320GwCallsAvailable)
+      v.List("h320GwCallsAvailable", Slot<CallsAvailable>(&m.h320GwCallsAvailable), m.h320GwCallsAvailableCount);
+    if (m.hasH321GwCallsAvailable)
+      v.List("h321GwCallsAvailable", Slot<CallsAvailable>(&m.h321GwCallsAvailable), m.h321GwCallsAvailableCount);
+    if (m.hasH322GwCallsAvailable)
+      v.List("h322GwCallsAvailable", Slot<CallsAvailable>(&m.h322GwCallsAvailable), m.h322GwCallsAvailableCount);
+    if (m.hasH323GwCallsAvailable)
+      v.List("h323GwCallsAvailable", Slot<CallsAvailable>(&m.h323GwCallsAvailable), m.h323GwCallsAvailableCount);
+    if (m.hasH324GwCallsAvailable)
+      v.List("h324GwCallsAvailable", Slot<CallsAvailable>(&m.h324GwCallsAvailable), m.h324GwCallsAvailableCount);
+    if (m.hasT120OnlyGwCallsAvailable)
+      v.List("t120OnlyGwCallsAvailable", Slot<CallsAvailable>(&m.t120OnlyGwCallsAvailable),
+             m.t120OnlyGwCallsAvailableCount);
+    if (m.hasT38FaxAnnexbOnlyGwCallsAvailable)
+      v.List("t38FaxAnnexbOnlyGwCallsAvailable", Slot<CallsAvailable>(&m.t38FaxAnnexbOnlyGwCallsAvailable),
+             m.t38FaxAnnexbOnlyGwCallsAvailableCount);
+    if (m.hasTerminalCallsAvailable)
+      v.List("terminalCallsAvailable", Slot<CallsAvailable>(&m.terminalCallsAvailable), m.terminalCallsAvailableCount);
+    if (m.hasMcuCallsAvailable)
+      v.List("mcuCallsAvailable", Slot<CallsAvailable>(&m.mcuCallsAvailable), m.mcuCallsAvailableCount);
   }
 };
 

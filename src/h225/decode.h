@@ -36,7 +36,8 @@ Status InOpenType(PerReader& r, Decode decode) {
 
 // The elements of a list whose count is already kept.
 template <class Element>
-Status DecodeList(PerReader& r, Slot<Element> slot, uint32_t count, Status (*decode)(std::type_identity_t<Element>&, PerReader&)) {
+Status DecodeList(PerReader& r, Slot<Element> slot, uint32_t count,
+                  Status (*decode)(std::type_identity_t<Element>&, PerReader&)) {
   if (count == 0) return kDecoded;
   Element* elements = AllocateList(r, slot, count);
   if (elements == nullptr) return kRefused;

@@ -1,7 +1,6 @@
-#include "h225/endpoint_type_decode.h"
-
-#include "h225/decode.h"
 #include "h225/addresses_decode.h"
+#include "h225/decode.h"
+#include "h225/endpoint_type_decode.h"
 #include "h225/non_standard_decode.h"
 #include "h245/data_protocol_decode.h"
 
@@ -16,8 +15,10 @@ Status DecodeId(TunnelledProtocol::Id& m, PerReader& r) {
     case 0:
       PerReadObjectIdentifier(m.tunnelledProtocolObjectID, r);
       return kDecoded;
-    case 1: return DecodeTunnelledProtocolAlternateIdentifier(m.tunnelledProtocolAlternateID, r);
-    default: return kMalformed;
+    case 1:
+      return DecodeTunnelledProtocolAlternateIdentifier(m.tunnelledProtocolAlternateID, r);
+    default:
+      return kMalformed;
   }
 }
 
@@ -77,8 +78,15 @@ Status DecodeProtocolCaps(ProtocolCaps& m, PerReader& r) {
   m.hasDataRatesSupported = PerReadAdditionBit(r, additions, 0);
   m.hasSupportedPrefixes = PerReadAdditionBit(r, additions, 1);
   r.extensionPresentCount = PerCountUnknownAdditions(r, additions, 2);
-  if (m.hasDataRatesSupported) KELVRA_TRY(InOpenType(r, [&] { return DecodeSequenceOf(r, &m.dataRatesSupportedCount, Slot<DataRate>(&m.dataRatesSupported), DecodeDataRate); }));
-  if (m.hasSupportedPrefixes) KELVRA_TRY(InOpenType(r, [&] { return DecodeSequenceOf(r, &m.supportedPrefixesCount, Slot<SupportedPrefix>(&m.supportedPrefixes), DecodeSupportedPrefix); }));
+  if (m.hasDataRatesSupported)
+    KELVRA_TRY(InOpenType(r, [&] {
+      return DecodeSequenceOf(r, &m.dataRatesSupportedCount, Slot<DataRate>(&m.dataRatesSupported), DecodeDataRate);
+    }));
+  if (m.hasSupportedPrefixes)
+    KELVRA_TRY(InOpenType(r, [&] {
+      return DecodeSequenceOf(r, &m.supportedPrefixesCount, Slot<SupportedPrefix>(&m.supportedPrefixes),
+                              DecodeSupportedPrefix);
+    }));
   PerSkipOpenTypes(r, r.extensionPresentCount);
   return kDecoded;
 }
@@ -89,8 +97,10 @@ Status DecodeNonStandardProtocol(NonStandardProtocol& m, PerReader& r) {
   m.hasNonStandardData = PerReadBit(r);
   m.hasDataRatesSupported = PerReadBit(r);
   if (m.hasNonStandardData) KELVRA_TRY(DecodeNonStandardParameter(m.nonStandardData, r));
-  if (m.hasDataRatesSupported) KELVRA_TRY(DecodeSequenceOf(r, &m.dataRatesSupportedCount, Slot<DataRate>(&m.dataRatesSupported), DecodeDataRate));
-  KELVRA_TRY(DecodeSequenceOf(r, &m.supportedPrefixesCount, Slot<SupportedPrefix>(&m.supportedPrefixes), DecodeSupportedPrefix));
+  if (m.hasDataRatesSupported)
+    KELVRA_TRY(DecodeSequenceOf(r, &m.dataRatesSupportedCount, Slot<DataRate>(&m.dataRatesSupported), DecodeDataRate));
+  KELVRA_TRY(DecodeSequenceOf(r, &m.supportedPrefixesCount, Slot<SupportedPrefix>(&m.supportedPrefixes),
+                              DecodeSupportedPrefix));
   if (m.isExtended) PerSkipExtensionAdditions(r);
   return kDecoded;
 }
@@ -101,8 +111,10 @@ Status DecodeT38FaxAnnexbOnlyCaps(T38FaxAnnexbOnlyCaps& m, PerReader& r) {
   m.hasNonStandardData = PerReadBit(r);
   m.hasDataRatesSupported = PerReadBit(r);
   if (m.hasNonStandardData) KELVRA_TRY(DecodeNonStandardParameter(m.nonStandardData, r));
-  if (m.hasDataRatesSupported) KELVRA_TRY(DecodeSequenceOf(r, &m.dataRatesSupportedCount, Slot<DataRate>(&m.dataRatesSupported), DecodeDataRate));
-  KELVRA_TRY(DecodeSequenceOf(r, &m.supportedPrefixesCount, Slot<SupportedPrefix>(&m.supportedPrefixes), DecodeSupportedPrefix));
+  if (m.hasDataRatesSupported)
+    KELVRA_TRY(DecodeSequenceOf(r, &m.dataRatesSupportedCount, Slot<DataRate>(&m.dataRatesSupported), DecodeDataRate));
+  KELVRA_TRY(DecodeSequenceOf(r, &m.supportedPrefixesCount, Slot<SupportedPrefix>(&m.supportedPrefixes),
+                              DecodeSupportedPrefix));
   h245::DecodeDataProtocolCapability(m.t38FaxProtocol, r);
   h245::DecodeT38FaxProfile(m.t38FaxProfile, r);
   if (m.isExtended) PerSkipExtensionAdditions(r);
@@ -114,22 +126,35 @@ Status DecodeSupportedProtocols(SupportedProtocols& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 9);
   if (m.isExtension) {
     switch (index) {
-      case 0: return InOpenType(r, [&] { return DecodeNonStandardProtocol(m.nonStandardProtocol, r); });
-      case 1: return InOpenType(r, [&] { return DecodeT38FaxAnnexbOnlyCaps(m.t38FaxAnnexbOnly, r); });
-      default: return SkipAlternative(r);
+      case 0:
+        return InOpenType(r, [&] { return DecodeNonStandardProtocol(m.nonStandardProtocol, r); });
+      case 1:
+        return InOpenType(r, [&] { return DecodeT38FaxAnnexbOnlyCaps(m.t38FaxAnnexbOnly, r); });
+      default:
+        return SkipAlternative(r);
     }
   }
   switch (index) {
-    case 0: return DecodeNonStandardParameter(m.nonStandardData, r);
-    case 1: return DecodeProtocolCaps(m.h310, r);
-    case 2: return DecodeProtocolCaps(m.h320, r);
-    case 3: return DecodeProtocolCaps(m.h321, r);
-    case 4: return DecodeProtocolCaps(m.h322, r);
-    case 5: return DecodeProtocolCaps(m.h323, r);
-    case 6: return DecodeProtocolCaps(m.h324, r);
-    case 7: return DecodeProtocolCaps(m.voice, r);
-    case 8: return DecodeProtocolCaps(m.t120Only, r);
-    default: return kMalformed;
+    case 0:
+      return DecodeNonStandardParameter(m.nonStandardData, r);
+    case 1:
+      return DecodeProtocolCaps(m.h310, r);
+    case 2:
+      return DecodeProtocolCaps(m.h320, r);
+    case 3:
+      return DecodeProtocolCaps(m.h321, r);
+    case 4:
+      return DecodeProtocolCaps(m.h322, r);
+    case 5:
+      return DecodeProtocolCaps(m.h323, r);
+    case 6:
+      return DecodeProtocolCaps(m.h324, r);
+    case 7:
+      return DecodeProtocolCaps(m.voice, r);
+    case 8:
+      return DecodeProtocolCaps(m.t120Only, r);
+    default:
+      return kMalformed;
   }
 }
 
@@ -138,7 +163,8 @@ Status DecodeGatewayInfo(GatewayInfo& m, PerReader& r) {
   m.isExtended = PerReadBit(r);
   m.hasProtocol = PerReadBit(r);
   m.hasNonStandardData = PerReadBit(r);
-  if (m.hasProtocol) KELVRA_TRY(DecodeSequenceOf(r, &m.protocolCount, Slot<SupportedProtocols>(&m.protocol), DecodeSupportedProtocols));
+  if (m.hasProtocol)
+    KELVRA_TRY(DecodeSequenceOf(r, &m.protocolCount, Slot<SupportedProtocols>(&m.protocol), DecodeSupportedProtocols));
   if (m.hasNonStandardData) KELVRA_TRY(DecodeNonStandardParameter(m.nonStandardData, r));
   if (m.isExtended) PerSkipExtensionAdditions(r);
   return kDecoded;
@@ -154,7 +180,10 @@ Status DecodeMcuInfo(McuInfo& m, PerReader& r) {
   const int32_t additions = PerReadBitmapLength(r);
   m.hasProtocol = PerReadAdditionBit(r, additions, 0);
   r.extensionPresentCount = PerCountUnknownAdditions(r, additions, 1);
-  if (m.hasProtocol) KELVRA_TRY(InOpenType(r, [&] { return DecodeSequenceOf(r, &m.protocolCount, Slot<SupportedProtocols>(&m.protocol), DecodeSupportedProtocols); }));
+  if (m.hasProtocol)
+    KELVRA_TRY(InOpenType(r, [&] {
+      return DecodeSequenceOf(r, &m.protocolCount, Slot<SupportedProtocols>(&m.protocol), DecodeSupportedProtocols);
+    }));
   PerSkipOpenTypes(r, r.extensionPresentCount);
   return kDecoded;
 }
@@ -202,8 +231,16 @@ Status DecodeEndpointType(EndpointType& m, PerReader& r) {
   m.hasSet = PerReadAdditionBit(r, additions, 0);
   m.hasSupportedTunnelledProtocols = PerReadAdditionBit(r, additions, 1);
   r.extensionPresentCount = PerCountUnknownAdditions(r, additions, 2);
-  if (m.hasSet) KELVRA_TRY(InOpenType(r, [&] { PerReadBits(m.set, r, 32); return kDecoded; }));
-  if (m.hasSupportedTunnelledProtocols) KELVRA_TRY(InOpenType(r, [&] { return DecodeSequenceOf(r, &m.supportedTunnelledProtocolsCount, Slot<TunnelledProtocol>(&m.supportedTunnelledProtocols), DecodeTunnelledProtocol); }));
+  if (m.hasSet)
+    KELVRA_TRY(InOpenType(r, [&] {
+      PerReadBits(m.set, r, 32);
+      return kDecoded;
+    }));
+  if (m.hasSupportedTunnelledProtocols)
+    KELVRA_TRY(InOpenType(r, [&] {
+      return DecodeSequenceOf(r, &m.supportedTunnelledProtocolsCount,
+                              Slot<TunnelledProtocol>(&m.supportedTunnelledProtocols), DecodeTunnelledProtocol);
+    }));
   PerSkipOpenTypes(r, r.extensionPresentCount);
   return kDecoded;
 }

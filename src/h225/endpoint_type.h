@@ -82,8 +82,10 @@ struct ProtocolCaps {
   template <class Record, class Visitor>
   static void Walk(Record& m, Visitor& v) {
     if (m.hasNonStandardData) v.Record("nonStandardData", m.nonStandardData);
-    if (m.hasDataRatesSupported) v.List("dataRatesSupported", Slot<DataRate>(&m.dataRatesSupported), m.dataRatesSupportedCount);
-    if (m.hasSupportedPrefixes) v.List("supportedPrefixes", Slot<SupportedPrefix>(&m.supportedPrefixes), m.supportedPrefixesCount);
+    if (m.hasDataRatesSupported)
+      v.List("dataRatesSupported", Slot<DataRate>(&m.dataRatesSupported), m.dataRatesSupportedCount);
+    if (m.hasSupportedPrefixes)
+      v.List("supportedPrefixes", Slot<SupportedPrefix>(&m.supportedPrefixes), m.supportedPrefixesCount);
   }
 };
 
@@ -116,7 +118,8 @@ struct NonStandardProtocol {
   template <class Record, class Visitor>
   static void Walk(Record& m, Visitor& v) {
     if (m.hasNonStandardData) v.Record("nonStandardData", m.nonStandardData);
-    if (m.hasDataRatesSupported) v.List("dataRatesSupported", Slot<DataRate>(&m.dataRatesSupported), m.dataRatesSupportedCount);
+    if (m.hasDataRatesSupported)
+      v.List("dataRatesSupported", Slot<DataRate>(&m.dataRatesSupported), m.dataRatesSupportedCount);
     v.List("supportedPrefixes", Slot<SupportedPrefix>(&m.supportedPrefixes), m.supportedPrefixesCount);
   }
 };
@@ -136,7 +139,8 @@ struct T38FaxAnnexbOnlyCaps {
   template <class Record, class Visitor>
   static void Walk(Record& m, Visitor& v) {
     if (m.hasNonStandardData) v.Record("nonStandardData", m.nonStandardData);
-    if (m.hasDataRatesSupported) v.List("dataRatesSupported", Slot<DataRate>(&m.dataRatesSupported), m.dataRatesSupportedCount);
+    if (m.hasDataRatesSupported)
+      v.List("dataRatesSupported", Slot<DataRate>(&m.dataRatesSupported), m.dataRatesSupportedCount);
     v.List("supportedPrefixes", Slot<SupportedPrefix>(&m.supportedPrefixes), m.supportedPrefixesCount);
     v.Record("t38FaxProtocol", m.t38FaxProtocol);
     v.Record("t38FaxProfile", m.t38FaxProfile);
@@ -164,22 +168,35 @@ struct SupportedProtocols {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) {
       switch (m.choiceTag) {
-        case 0: return v.Record("nonStandardProtocol", m.nonStandardProtocol);
-        case 1: return v.Record("t38FaxAnnexbOnly", m.t38FaxAnnexbOnly);
-        default: return v.UnknownExtension(m.choiceTag);
+        case 0:
+          return v.Record("nonStandardProtocol", m.nonStandardProtocol);
+        case 1:
+          return v.Record("t38FaxAnnexbOnly", m.t38FaxAnnexbOnly);
+        default:
+          return v.UnknownExtension(m.choiceTag);
       }
     }
     switch (m.choiceTag) {
-      case 0: return v.Record("nonStandardData", m.nonStandardData);
-      case 1: return v.Record("h310", m.h310);
-      case 2: return v.Record("h320", m.h320);
-      case 3: return v.Record("h321", m.h321);
-      case 4: return v.Record("h322", m.h322);
-      case 5: return v.Record("h323", m.h323);
-      case 6: return v.Record("h324", m.h324);
-      case 7: return v.Record("voice", m.voice);
-      case 8: return v.Record("t120-only", m.t120Only);
-      default: return v.UnknownRoot(m.choiceTag);
+      case 0:
+        return v.Record("nonStandardData", m.nonStandardData);
+      case 1:
+        return v.Record("h310", m.h310);
+      case 2:
+        return v.Record("h320", m.h320);
+      case 3:
+        return v.Record("h321", m.h321);
+      case 4:
+        return v.Record("h322", m.h322);
+      case 5:
+        return v.Record("h323", m.h323);
+      case 6:
+        return v.Record("h324", m.h324);
+      case 7:
+        return v.Record("voice", m.voice);
+      case 8:
+        return v.Record("t120-only", m.t120Only);
+      default:
+        return v.UnknownRoot(m.choiceTag);
     }
   }
 };
@@ -240,9 +257,12 @@ struct TunnelledProtocol {
     static void Walk(Record& m, Visitor& v) {
       if (m.isExtension) return v.UnknownExtension(m.choiceTag);
       switch (m.choiceTag) {
-        case 0: return v.ObjectIdentifier("tunnelledProtocolObjectID", m.tunnelledProtocolObjectID);
-        case 1: return v.Record("tunnelledProtocolAlternateID", m.tunnelledProtocolAlternateID);
-        default: return v.UnknownRoot(m.choiceTag);
+        case 0:
+          return v.ObjectIdentifier("tunnelledProtocolObjectID", m.tunnelledProtocolObjectID);
+        case 1:
+          return v.Record("tunnelledProtocolAlternateID", m.tunnelledProtocolAlternateID);
+        default:
+          return v.UnknownRoot(m.choiceTag);
       }
     }
   };
@@ -292,7 +312,9 @@ struct EndpointType {
     v.Boolean("mc", m.mc);
     v.Boolean("undefinedNode", m.undefinedNode);
     if (m.hasSet) WalkOctets(v, "set", m.set, OctetNotation::kFixedBits);
-    if (m.hasSupportedTunnelledProtocols) v.List("supportedTunnelledProtocols", Slot<TunnelledProtocol>(&m.supportedTunnelledProtocols), m.supportedTunnelledProtocolsCount);
+    if (m.hasSupportedTunnelledProtocols)
+      v.List("supportedTunnelledProtocols", Slot<TunnelledProtocol>(&m.supportedTunnelledProtocols),
+             m.supportedTunnelledProtocolsCount);
   }
 };
 

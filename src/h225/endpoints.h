@@ -63,14 +63,17 @@ struct Endpoint {
   static void Walk(Record& m, Visitor& v) {
     if (m.hasNonStandardData) v.Record("nonStandardData", m.nonStandardData);
     if (m.hasAliasAddress) v.List("aliasAddress", Slot<AliasAddress>(&m.aliasAddress), m.aliasAddressCount);
-    if (m.hasCallSignalAddress) v.List("callSignalAddress", Slot<TransportAddress>(&m.callSignalAddress), m.callSignalAddressCount);
+    if (m.hasCallSignalAddress)
+      v.List("callSignalAddress", Slot<TransportAddress>(&m.callSignalAddress), m.callSignalAddressCount);
     if (m.hasRasAddress) v.List("rasAddress", Slot<TransportAddress>(&m.rasAddress), m.rasAddressCount);
     if (m.hasEndpointType) v.Record("endpointType", m.endpointType);
     if (m.hasTokens) v.List("tokens", Slot<h235::ClearToken>(&m.tokens), m.tokensCount);
     if (m.hasCryptoTokens) v.List("cryptoTokens", Slot<CryptoH323Token>(&m.cryptoTokens), m.cryptoTokensCount);
     if (m.hasPriority) v.Number("priority", m.priority);
-    if (m.hasRemoteExtensionAddress) v.List("remoteExtensionAddress", Slot<AliasAddress>(&m.remoteExtensionAddress), m.remoteExtensionAddressCount);
-    if (m.hasDestExtraCallInfo) v.List("destExtraCallInfo", Slot<AliasAddress>(&m.destExtraCallInfo), m.destExtraCallInfoCount);
+    if (m.hasRemoteExtensionAddress)
+      v.List("remoteExtensionAddress", Slot<AliasAddress>(&m.remoteExtensionAddress), m.remoteExtensionAddressCount);
+    if (m.hasDestExtraCallInfo)
+      v.List("destExtraCallInfo", Slot<AliasAddress>(&m.destExtraCallInfo), m.destExtraCallInfoCount);
     if (m.hasAlternateTransportAddresses) v.Record("alternateTransportAddresses", m.alternateTransportAddresses);
     if (m.hasCircuitInfo) v.Record("circuitInfo", m.circuitInfo);
     if (m.hasFeatureSet) v.Record("featureSet", m.featureSet);

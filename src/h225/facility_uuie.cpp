@@ -1,10 +1,9 @@
-#include "h225/facility_uuie_decode.h"
-
-#include "h225/decode.h"
 #include "h225/addresses_decode.h"
 #include "h225/circuits_decode.h"
 #include "h225/crypto_tokens_decode.h"
+#include "h225/decode.h"
 #include "h225/endpoint_type_decode.h"
+#include "h225/facility_uuie_decode.h"
 #include "h225/fast_start.h"
 #include "h225/generic_data_decode.h"
 #include "h225/h235_tokens_decode.h"
@@ -36,7 +35,9 @@ Status DecodeFacilityUUIE(FacilityUUIE& m, PerReader& r) {
   m.hasConferenceID = PerReadBit(r);
   ReadProtocolIdentifier(m.protocolIdentifier, r);
   if (m.hasAlternativeAddress) KELVRA_TRY(DecodeTransportAddress(m.alternativeAddress, r));
-  if (m.hasAlternativeAliasAddress) KELVRA_TRY(DecodeSequenceOf(r, &m.alternativeAliasAddressCount, Slot<AliasAddress>(&m.alternativeAliasAddress), DecodeAliasAddress));
+  if (m.hasAlternativeAliasAddress)
+    KELVRA_TRY(DecodeSequenceOf(r, &m.alternativeAliasAddressCount, Slot<AliasAddress>(&m.alternativeAliasAddress),
+                                DecodeAliasAddress));
   if (m.hasConferenceID) PerReadFixedOctets(m.conferenceID, r, 16);
   KELVRA_TRY(DecodeNullChoice(m.reason, r));
   if (!m.isExtended) return kDecoded;
@@ -60,17 +61,43 @@ Status DecodeFacilityUUIE(FacilityUUIE& m, PerReader& r) {
   m.hasH245SecurityMode = PerReadAdditionBit(r, additions, 15);
   r.extensionPresentCount = PerCountUnknownAdditions(r, additions, 16);
   if (m.hasCallIdentifier) KELVRA_TRY(InOpenType(r, [&] { return DecodeCallIdentifier(m.callIdentifier, r); }));
-  if (m.hasDestExtraCallInfo) KELVRA_TRY(InOpenType(r, [&] { return DecodeSequenceOf(r, &m.destExtraCallInfoCount, Slot<AliasAddress>(&m.destExtraCallInfo), DecodeAliasAddress); }));
-  if (m.hasRemoteExtensionAddress) KELVRA_TRY(InOpenType(r, [&] { return DecodeAliasAddress(m.remoteExtensionAddress, r); }));
-  if (m.hasTokens) KELVRA_TRY(InOpenType(r, [&] { return DecodeSequenceOf(r, &m.tokensCount, Slot<h235::ClearToken>(&m.tokens), h235::DecodeClearToken); }));
-  if (m.hasCryptoTokens) KELVRA_TRY(InOpenType(r, [&] { return DecodeSequenceOf(r, &m.cryptoTokensCount, Slot<CryptoH323Token>(&m.cryptoTokens), DecodeCryptoH323Token); }));
-  if (m.hasConferences) KELVRA_TRY(InOpenType(r, [&] { return DecodeSequenceOf(r, &m.conferencesCount, Slot<ConferenceList>(&m.conferences), DecodeConferenceList); }));
+  if (m.hasDestExtraCallInfo)
+    KELVRA_TRY(InOpenType(r, [&] {
+      return DecodeSequenceOf(r, &m.destExtraCallInfoCount, Slot<AliasAddress>(&m.destExtraCallInfo),
+                              DecodeAliasAddress);
+    }));
+  if (m.hasRemoteExtensionAddress)
+    KELVRA_TRY(InOpenType(r, [&] { return DecodeAliasAddress(m.remoteExtensionAddress, r); }));
+  if (m.hasTokens)
+    KELVRA_TRY(InOpenType(r, [&] {
+      return DecodeSequenceOf(r, &m.tokensCount, Slot<h235::ClearToken>(&m.tokens), h235::DecodeClearToken);
+    }));
+  if (m.hasCryptoTokens)
+    KELVRA_TRY(InOpenType(r, [&] {
+      return DecodeSequenceOf(r, &m.cryptoTokensCount, Slot<CryptoH323Token>(&m.cryptoTokens), DecodeCryptoH323Token);
+    }));
+  if (m.hasConferences)
+    KELVRA_TRY(InOpenType(r, [&] {
+      return DecodeSequenceOf(r, &m.conferencesCount, Slot<ConferenceList>(&m.conferences), DecodeConferenceList);
+    }));
   if (m.hasH245Address) KELVRA_TRY(InOpenType(r, [&] { return DecodeTransportAddress(m.h245Address, r); }));
   if (m.hasFastStart) KELVRA_TRY(InOpenType(r, [&] { return DecodeFastStart(r, &m.fastStartCount, &m.fastStart); }));
-  if (m.hasMultipleCalls) KELVRA_TRY(InOpenType(r, [&] { m.multipleCalls = PerReadBit(r); return kDecoded; }));
-  if (m.hasMaintainConnection) KELVRA_TRY(InOpenType(r, [&] { m.maintainConnection = PerReadBit(r); return kDecoded; }));
+  if (m.hasMultipleCalls)
+    KELVRA_TRY(InOpenType(r, [&] {
+      m.multipleCalls = PerReadBit(r);
+      return kDecoded;
+    }));
+  if (m.hasMaintainConnection)
+    KELVRA_TRY(InOpenType(r, [&] {
+      m.maintainConnection = PerReadBit(r);
+      return kDecoded;
+    }));
   if (m.hasFastConnectRefused) PerSkipOpenTypes(r, 1);
-  if (m.hasServiceControl) KELVRA_TRY(InOpenType(r, [&] { return DecodeSequenceOf(r, &m.serviceControlCount, Slot<ServiceControlSession>(&m.serviceControl), DecodeServiceControlSession); }));
+  if (m.hasServiceControl)
+    KELVRA_TRY(InOpenType(r, [&] {
+      return DecodeSequenceOf(r, &m.serviceControlCount, Slot<ServiceControlSession>(&m.serviceControl),
+                              DecodeServiceControlSession);
+    }));
   if (m.hasCircuitInfo) KELVRA_TRY(InOpenType(r, [&] { return DecodeCircuitInfo(m.circuitInfo, r); }));
   if (m.hasFeatureSet) KELVRA_TRY(InOpenType(r, [&] { return DecodeFeatureSet(m.featureSet, r); }));
   if (m.hasDestinationInfo) KELVRA_TRY(InOpenType(r, [&] { return DecodeEndpointType(m.destinationInfo, r); }));

@@ -15,7 +15,17 @@ namespace kelvra::h225 {
 
 struct FacilityReasonNames {
   static constexpr uint32_t kRoots = 4;
-  static constexpr const char* kAlternatives[] = {"routeCallToGatekeeper", "callForwarded", "routeCallToMC", "undefinedReason", "conferenceListChoice", "startH245", "noH245", "newTokens", "featureSetUpdate", "forwardedElements", "transportedInformation"};
+  static constexpr const char* kAlternatives[] = {"routeCallToGatekeeper",
+                                                  "callForwarded",
+                                                  "routeCallToMC",
+                                                  "undefinedReason",
+                                                  "conferenceListChoice",
+                                                  "startH245",
+                                                  "noH245",
+                                                  "newTokens",
+                                                  "featureSetUpdate",
+                                                  "forwardedElements",
+                                                  "transportedInformation"};
 };
 using FacilityReason = NullChoice<FacilityReasonNames>;
 
@@ -90,11 +100,13 @@ struct FacilityUUIE {
   static void Walk(Record& m, Visitor& v) {
     v.ObjectIdentifier("protocolIdentifier", m.protocolIdentifier);
     if (m.hasAlternativeAddress) v.Record("alternativeAddress", m.alternativeAddress);
-    if (m.hasAlternativeAliasAddress) v.List("alternativeAliasAddress", Slot<AliasAddress>(&m.alternativeAliasAddress), m.alternativeAliasAddressCount);
+    if (m.hasAlternativeAliasAddress)
+      v.List("alternativeAliasAddress", Slot<AliasAddress>(&m.alternativeAliasAddress), m.alternativeAliasAddressCount);
     if (m.hasConferenceID) WalkOctets(v, "conferenceID", m.conferenceID);
     v.Record("reason", m.reason);
     if (m.hasCallIdentifier) v.Record("callIdentifier", m.callIdentifier);
-    if (m.hasDestExtraCallInfo) v.List("destExtraCallInfo", Slot<AliasAddress>(&m.destExtraCallInfo), m.destExtraCallInfoCount);
+    if (m.hasDestExtraCallInfo)
+      v.List("destExtraCallInfo", Slot<AliasAddress>(&m.destExtraCallInfo), m.destExtraCallInfoCount);
     if (m.hasRemoteExtensionAddress) v.Record("remoteExtensionAddress", m.remoteExtensionAddress);
     if (m.hasTokens) v.List("tokens", Slot<h235::ClearToken>(&m.tokens), m.tokensCount);
     if (m.hasCryptoTokens) v.List("cryptoTokens", Slot<CryptoH323Token>(&m.cryptoTokens), m.cryptoTokensCount);
@@ -104,7 +116,8 @@ struct FacilityUUIE {
     if (m.hasMultipleCalls) v.Boolean("multipleCalls", m.multipleCalls);
     if (m.hasMaintainConnection) v.Boolean("maintainConnection", m.maintainConnection);
     if (m.hasFastConnectRefused) v.Null("fastConnectRefused");
-    if (m.hasServiceControl) v.List("serviceControl", Slot<ServiceControlSession>(&m.serviceControl), m.serviceControlCount);
+    if (m.hasServiceControl)
+      v.List("serviceControl", Slot<ServiceControlSession>(&m.serviceControl), m.serviceControlCount);
     if (m.hasCircuitInfo) v.Record("circuitInfo", m.circuitInfo);
     if (m.hasFeatureSet) v.Record("featureSet", m.featureSet);
     if (m.hasDestinationInfo) v.Record("destinationInfo", m.destinationInfo);

@@ -12,7 +12,9 @@ namespace kelvra::h225 {
 
 struct GatekeeperRejectReasonNames {
   static constexpr uint32_t kRoots = 4;
-  static constexpr const char* kAlternatives[] = {"resourceUnavailable", "terminalExcluded", "invalidRevision", "undefinedReason", "securityDenial", "genericDataReason", "neededFeatureNotSupported"};
+  static constexpr const char* kAlternatives[] = {"resourceUnavailable",      "terminalExcluded", "invalidRevision",
+                                                  "undefinedReason",          "securityDenial",   "genericDataReason",
+                                                  "neededFeatureNotSupported"};
 };
 using GatekeeperRejectReason = NullChoice<GatekeeperRejectReasonNames>;
 
@@ -69,11 +71,15 @@ struct GatekeeperRequest {
     if (m.hasGatekeeperIdentifier) v.Characters16("gatekeeperIdentifier", m.gatekeeperIdentifier);
     if (m.hasCallServices) v.Record("callServices", m.callServices);
     if (m.hasEndpointAlias) v.List("endpointAlias", Slot<AliasAddress>(&m.endpointAlias), m.endpointAliasCount);
-    if (m.hasAlternateEndpoints) v.List("alternateEndpoints", Slot<Endpoint>(&m.alternateEndpoints), m.alternateEndpointsCount);
+    if (m.hasAlternateEndpoints)
+      v.List("alternateEndpoints", Slot<Endpoint>(&m.alternateEndpoints), m.alternateEndpointsCount);
     if (m.hasTokens) v.List("tokens", Slot<h235::ClearToken>(&m.tokens), m.tokensCount);
     if (m.hasCryptoTokens) v.List("cryptoTokens", Slot<CryptoH323Token>(&m.cryptoTokens), m.cryptoTokensCount);
-    if (m.hasAuthenticationCapability) v.List("authenticationCapability", Slot<h235::AuthenticationMechanism>(&m.authenticationCapability), m.authenticationCapabilityCount);
-    if (m.hasAlgorithmOIDs) v.ObjectIdentifiers("algorithmOIDs", Slot<ObjectIdentifierValue>(&m.algorithmOIDs), m.algorithmOIDsCount);
+    if (m.hasAuthenticationCapability)
+      v.List("authenticationCapability", Slot<h235::AuthenticationMechanism>(&m.authenticationCapability),
+             m.authenticationCapabilityCount);
+    if (m.hasAlgorithmOIDs)
+      v.ObjectIdentifiers("algorithmOIDs", Slot<ObjectIdentifierValue>(&m.algorithmOIDs), m.algorithmOIDsCount);
     if (m.hasIntegrity) v.List("integrity", Slot<IntegrityMechanism>(&m.integrity), m.integrityCount);
     if (m.hasIntegrityCheckValue) v.Record("integrityCheckValue", m.integrityCheckValue);
     if (m.hasSupportsAltGK) v.Null("supportsAltGK");
@@ -122,7 +128,8 @@ struct GatekeeperConfirm {
     if (m.hasNonStandardData) v.Record("nonStandardData", m.nonStandardData);
     if (m.hasGatekeeperIdentifier) v.Characters16("gatekeeperIdentifier", m.gatekeeperIdentifier);
     v.Record("rasAddress", m.rasAddress);
-    if (m.hasAlternateGatekeeper) v.List("alternateGatekeeper", Slot<AlternateGK>(&m.alternateGatekeeper), m.alternateGatekeeperCount);
+    if (m.hasAlternateGatekeeper)
+      v.List("alternateGatekeeper", Slot<AlternateGK>(&m.alternateGatekeeper), m.alternateGatekeeperCount);
     if (m.hasAuthenticationMode) v.Record("authenticationMode", m.authenticationMode);
     if (m.hasTokens) v.List("tokens", Slot<h235::ClearToken>(&m.tokens), m.tokensCount);
     if (m.hasCryptoTokens) v.List("cryptoTokens", Slot<CryptoH323Token>(&m.cryptoTokens), m.cryptoTokensCount);

@@ -1,7 +1,6 @@
-#include "h225/generic_data_decode.h"
-
-#include "h225/decode.h"
 #include "h225/addresses_decode.h"
+#include "h225/decode.h"
+#include "h225/generic_data_decode.h"
 
 namespace kelvra::h225 {
 
@@ -19,7 +18,8 @@ Status DecodeGenericIdentifier(GenericIdentifier& m, PerReader& r) {
     case 2:
       PerReadFixedOctets(m.nonStandard, r, 16);
       return kDecoded;
-    default: return kMalformed;
+    default:
+      return kMalformed;
   }
 }
 
@@ -49,16 +49,21 @@ Status DecodeContent(Content& m, PerReader& r) {
     case 6:
       m.number32 = PerReadNumber<uint32_t>(r, 0, kUnsigned32Maximum);
       return kDecoded;
-    case 7: return DecodeGenericIdentifier(m.id, r);
-    case 8: return DecodeAliasAddress(m.alias, r);
-    case 9: return DecodeTransportAddress(m.transport, r);
+    case 7:
+      return DecodeGenericIdentifier(m.id, r);
+    case 8:
+      return DecodeAliasAddress(m.alias, r);
+    case 9:
+      return DecodeTransportAddress(m.transport, r);
     case 10:
       m.compound.count = PerReadNumber<uint16_t>(r, 1, 512);
-      return DecodeList(r, Slot<EnumeratedParameter>(&m.compound.elements), m.compound.count, DecodeEnumeratedParameter);
+      return DecodeList(r, Slot<EnumeratedParameter>(&m.compound.elements), m.compound.count,
+                        DecodeEnumeratedParameter);
     case 11:
       m.nested.count = PerReadNumber<uint8_t>(r, 1, 16);
       return DecodeList(r, Slot<GenericData>(&m.nested.elements), m.nested.count, DecodeGenericData);
-    default: return kMalformed;
+    default:
+      return kMalformed;
   }
 }
 
@@ -94,9 +99,13 @@ Status DecodeFeatureSet(FeatureSet& m, PerReader& r) {
   m.hasDesiredFeatures = PerReadBit(r);
   m.hasSupportedFeatures = PerReadBit(r);
   m.replacementFeatureSet = PerReadBit(r);
-  if (m.hasNeededFeatures) KELVRA_TRY(DecodeSequenceOf(r, &m.neededFeaturesCount, Slot<GenericData>(&m.neededFeatures), DecodeGenericData));
-  if (m.hasDesiredFeatures) KELVRA_TRY(DecodeSequenceOf(r, &m.desiredFeaturesCount, Slot<GenericData>(&m.desiredFeatures), DecodeGenericData));
-  if (m.hasSupportedFeatures) KELVRA_TRY(DecodeSequenceOf(r, &m.supportedFeaturesCount, Slot<GenericData>(&m.supportedFeatures), DecodeGenericData));
+  if (m.hasNeededFeatures)
+    KELVRA_TRY(DecodeSequenceOf(r, &m.neededFeaturesCount, Slot<GenericData>(&m.neededFeatures), DecodeGenericData));
+  if (m.hasDesiredFeatures)
+    KELVRA_TRY(DecodeSequenceOf(r, &m.desiredFeaturesCount, Slot<GenericData>(&m.desiredFeatures), DecodeGenericData));
+  if (m.hasSupportedFeatures)
+    KELVRA_TRY(
+        DecodeSequenceOf(r, &m.supportedFeaturesCount, Slot<GenericData>(&m.supportedFeatures), DecodeGenericData));
   if (m.isExtended) PerSkipExtensionAdditions(r);
   return kDecoded;
 }

@@ -1,10 +1,9 @@
-#include "h225/h323_user_information_decode.h"
-
 #include "h225/answer_uuie_decode.h"
 #include "h225/decode.h"
 #include "h225/endpoint_type_decode.h"
 #include "h225/facility_uuie_decode.h"
 #include "h225/generic_data_decode.h"
+#include "h225/h323_user_information_decode.h"
 #include "h225/information_uuie_decode.h"
 #include "h225/non_standard_decode.h"
 #include "h225/release_complete_uuie_decode.h"
@@ -19,23 +18,37 @@ Status DecodeH323MessageBody(H323UUPDU::H323MessageBody& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 7);
   if (m.isExtension) {
     switch (index) {
-      case 0: return InOpenType(r, [&] { return DecodeProgressUUIE(m.progress, r); });
-      case 2: return InOpenType(r, [&] { return DecodeCallStatusUUIE(m.status, r); });
-      case 3: return InOpenType(r, [&] { return DecodeCallStatusUUIE(m.statusInquiry, r); });
-      case 4: return InOpenType(r, [&] { return DecodeCallStatusUUIE(m.setupAcknowledge, r); });
-      case 5: return InOpenType(r, [&] { return DecodeCallStatusUUIE(m.notify, r); });
-      default: return SkipAlternative(r);
+      case 0:
+        return InOpenType(r, [&] { return DecodeProgressUUIE(m.progress, r); });
+      case 2:
+        return InOpenType(r, [&] { return DecodeCallStatusUUIE(m.status, r); });
+      case 3:
+        return InOpenType(r, [&] { return DecodeCallStatusUUIE(m.statusInquiry, r); });
+      case 4:
+        return InOpenType(r, [&] { return DecodeCallStatusUUIE(m.setupAcknowledge, r); });
+      case 5:
+        return InOpenType(r, [&] { return DecodeCallStatusUUIE(m.notify, r); });
+      default:
+        return SkipAlternative(r);
     }
   }
   switch (index) {
-    case 0: return DecodeSetupUUIE(m.setup, r);
-    case 1: return DecodeCallProceedingUUIE(m.callProceeding, r);
-    case 2: return DecodeConnectUUIE(m.connect, r);
-    case 3: return DecodeAlertingUUIE(m.alerting, r);
-    case 4: return DecodeInformationUUIE(m.information, r);
-    case 5: return DecodeReleaseCompleteUUIE(m.releaseComplete, r);
-    case 6: return DecodeFacilityUUIE(m.facility, r);
-    default: return kMalformed;
+    case 0:
+      return DecodeSetupUUIE(m.setup, r);
+    case 1:
+      return DecodeCallProceedingUUIE(m.callProceeding, r);
+    case 2:
+      return DecodeConnectUUIE(m.connect, r);
+    case 3:
+      return DecodeAlertingUUIE(m.alerting, r);
+    case 4:
+      return DecodeInformationUUIE(m.information, r);
+    case 5:
+      return DecodeReleaseCompleteUUIE(m.releaseComplete, r);
+    case 6:
+      return DecodeFacilityUUIE(m.facility, r);
+    default:
+      return kMalformed;
   }
 }
 
@@ -93,15 +106,34 @@ Status DecodeH323UUPDU(H323UUPDU& m, PerReader& r) {
   m.stimulusControlPresent = PerReadAdditionBit(r, additions, 7);
   m.genericDataPresent = PerReadAdditionBit(r, additions, 8);
   r.extensionPresentCount = PerCountUnknownAdditions(r, additions, 9);
-  if (m.h4501SupplementaryServicePresent) KELVRA_TRY(InOpenType(r, [&] { return DecodeSequenceOf(r, &m.h4501SupplementaryServiceCount, Slot<OctetStringValue>(&m.h4501SupplementaryService), DecodeOctetString); }));
-  if (m.h245TunnellingPresent) KELVRA_TRY(InOpenType(r, [&] { m.h245Tunnelling = PerReadBit(r); return kDecoded; }));
-  if (m.h245ControlPresent) KELVRA_TRY(InOpenType(r, [&] { return DecodeSequenceOf(r, &m.h245ControlCount, Slot<OctetStringValue>(&m.h245Control), DecodeOctetString); }));
-  if (m.nonStandardControlPresent) KELVRA_TRY(InOpenType(r, [&] { return DecodeSequenceOf(r, &m.nonStandardControlCount, Slot<NonStandardParameter>(&m.nonStandardControl), DecodeNonStandardParameter); }));
+  if (m.h4501SupplementaryServicePresent)
+    KELVRA_TRY(InOpenType(r, [&] {
+      return DecodeSequenceOf(r, &m.h4501SupplementaryServiceCount,
+                              Slot<OctetStringValue>(&m.h4501SupplementaryService), DecodeOctetString);
+    }));
+  if (m.h245TunnellingPresent)
+    KELVRA_TRY(InOpenType(r, [&] {
+      m.h245Tunnelling = PerReadBit(r);
+      return kDecoded;
+    }));
+  if (m.h245ControlPresent)
+    KELVRA_TRY(InOpenType(r, [&] {
+      return DecodeSequenceOf(r, &m.h245ControlCount, Slot<OctetStringValue>(&m.h245Control), DecodeOctetString);
+    }));
+  if (m.nonStandardControlPresent)
+    KELVRA_TRY(InOpenType(r, [&] {
+      return DecodeSequenceOf(r, &m.nonStandardControlCount, Slot<NonStandardParameter>(&m.nonStandardControl),
+                              DecodeNonStandardParameter);
+    }));
   if (m.callLinkagePresent) KELVRA_TRY(InOpenType(r, [&] { return DecodeCallLinkage(m.callLinkage, r); }));
-  if (m.tunnelledSignallingMessagePresent) KELVRA_TRY(InOpenType(r, [&] { return DecodeTunnelledSignallingMessage(m.tunnelledSignallingMessage, r); }));
+  if (m.tunnelledSignallingMessagePresent)
+    KELVRA_TRY(InOpenType(r, [&] { return DecodeTunnelledSignallingMessage(m.tunnelledSignallingMessage, r); }));
   if (m.provisionalRespToH245TunnellingPresent) PerSkipOpenTypes(r, 1);
   if (m.stimulusControlPresent) KELVRA_TRY(InOpenType(r, [&] { return DecodeStimulusControl(m.stimulusControl, r); }));
-  if (m.genericDataPresent) KELVRA_TRY(InOpenType(r, [&] { return DecodeSequenceOf(r, &m.genericDataCount, Slot<GenericData>(&m.genericData), DecodeGenericData); }));
+  if (m.genericDataPresent)
+    KELVRA_TRY(InOpenType(r, [&] {
+      return DecodeSequenceOf(r, &m.genericDataCount, Slot<GenericData>(&m.genericData), DecodeGenericData);
+    }));
   PerSkipOpenTypes(r, r.extensionPresentCount);
   return kDecoded;
 }

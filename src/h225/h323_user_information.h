@@ -53,24 +53,39 @@ struct H323UUPDU {
     static void Walk(Record& m, Visitor& v) {
       if (m.isExtension) {
         switch (m.choiceTag) {
-          case 0: return v.Record("progress", m.progress);
-          case 1: return v.Null("empty");
-          case 2: return v.Record("status", m.status);
-          case 3: return v.Record("statusInquiry", m.statusInquiry);
-          case 4: return v.Record("setupAcknowledge", m.setupAcknowledge);
-          case 5: return v.Record("notify", m.notify);
-          default: return v.UnknownExtension(m.choiceTag);
+          case 0:
+            return v.Record("progress", m.progress);
+          case 1:
+            return v.Null("empty");
+          case 2:
+            return v.Record("status", m.status);
+          case 3:
+            return v.Record("statusInquiry", m.statusInquiry);
+          case 4:
+            return v.Record("setupAcknowledge", m.setupAcknowledge);
+          case 5:
+            return v.Record("notify", m.notify);
+          default:
+            return v.UnknownExtension(m.choiceTag);
         }
       }
       switch (m.choiceTag) {
-        case 0: return v.Record("setup", m.setup);
-        case 1: return v.Record("callProceeding", m.callProceeding);
-        case 2: return v.Record("connect", m.connect);
-        case 3: return v.Record("alerting", m.alerting);
-        case 4: return v.Record("information", m.information);
-        case 5: return v.Record("releaseComplete", m.releaseComplete);
-        case 6: return v.Record("facility", m.facility);
-        default: return v.UnknownRoot(m.choiceTag);
+        case 0:
+          return v.Record("setup", m.setup);
+        case 1:
+          return v.Record("callProceeding", m.callProceeding);
+        case 2:
+          return v.Record("connect", m.connect);
+        case 3:
+          return v.Record("alerting", m.alerting);
+        case 4:
+          return v.Record("information", m.information);
+        case 5:
+          return v.Record("releaseComplete", m.releaseComplete);
+        case 6:
+          return v.Record("facility", m.facility);
+        default:
+          return v.UnknownRoot(m.choiceTag);
       }
     }
   };
@@ -88,7 +103,8 @@ struct H323UUPDU {
     template <class Record, class Visitor>
     static void Walk(Record& m, Visitor& v) {
       v.Record("tunnelledProtocolID", m.tunnelledProtocolID);
-      v.OctetStrings("messageContent", Slot<OctetStringValue>(&m.messageContent), m.messageContentCount, OctetNotation::kOctets);
+      v.OctetStrings("messageContent", Slot<OctetStringValue>(&m.messageContent), m.messageContentCount,
+                     OctetNotation::kOctets);
       if (m.hasTunnellingRequired) v.Null("tunnellingRequired");
       if (m.hasNonStandardData) v.Record("nonStandardData", m.nonStandardData);
     }
@@ -125,10 +141,14 @@ struct H323UUPDU {
   static void Walk(Record& m, Visitor& v) {
     v.Record("h323-message-body", m.h323MessageBody);
     if (m.nonStandardDataPresent) v.Record("nonStandardData", m.nonStandardData);
-    if (m.h4501SupplementaryServicePresent) v.OctetStrings("h4501SupplementaryService", Slot<OctetStringValue>(&m.h4501SupplementaryService), m.h4501SupplementaryServiceCount, OctetNotation::kOctets);
+    if (m.h4501SupplementaryServicePresent)
+      v.OctetStrings("h4501SupplementaryService", Slot<OctetStringValue>(&m.h4501SupplementaryService),
+                     m.h4501SupplementaryServiceCount, OctetNotation::kOctets);
     if (m.h245TunnellingPresent) v.Boolean("h245Tunnelling", m.h245Tunnelling);
-    if (m.h245ControlPresent) v.OctetStrings("h245Control", Slot<OctetStringValue>(&m.h245Control), m.h245ControlCount, OctetNotation::kOctets);
-    if (m.nonStandardControlPresent) v.List("nonStandardControl", Slot<NonStandardParameter>(&m.nonStandardControl), m.nonStandardControlCount);
+    if (m.h245ControlPresent)
+      v.OctetStrings("h245Control", Slot<OctetStringValue>(&m.h245Control), m.h245ControlCount, OctetNotation::kOctets);
+    if (m.nonStandardControlPresent)
+      v.List("nonStandardControl", Slot<NonStandardParameter>(&m.nonStandardControl), m.nonStandardControlCount);
     if (m.callLinkagePresent) v.Record("callLinkage", m.callLinkage);
     if (m.tunnelledSignallingMessagePresent) v.Record("tunnelledSignallingMessage", m.tunnelledSignallingMessage);
     if (m.provisionalRespToH245TunnellingPresent) v.Null("provisionalRespToH245Tunnelling");

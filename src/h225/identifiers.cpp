@@ -1,6 +1,5 @@
-#include "h225/identifiers_decode.h"
-
 #include "h225/decode.h"
+#include "h225/identifiers_decode.h"
 
 namespace kelvra::h225 {
 

@@ -28,7 +28,8 @@ using CallType = NullChoice<CallTypeNames>;
 
 struct PresentationIndicatorNames {
   static constexpr uint32_t kRoots = 3;
-  static constexpr const char* kAlternatives[] = {"presentationAllowed", "presentationRestricted", "addressNotAvailable"};
+  static constexpr const char* kAlternatives[] = {"presentationAllowed", "presentationRestricted",
+                                                  "addressNotAvailable"};
 };
 using PresentationIndicator = NullChoice<PresentationIndicatorNames>;
 

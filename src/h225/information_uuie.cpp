@@ -1,11 +1,10 @@
-#include "h225/information_uuie_decode.h"
-
-#include "h225/decode.h"
 #include "h225/circuits_decode.h"
 #include "h225/crypto_tokens_decode.h"
+#include "h225/decode.h"
 #include "h225/fast_start.h"
 #include "h225/h235_tokens_decode.h"
 #include "h225/identifiers_decode.h"
+#include "h225/information_uuie_decode.h"
 #include "h225/protocol_version.h"
 
 namespace kelvra::h225 {
@@ -25,8 +24,14 @@ Status DecodeInformationUUIE(InformationUUIE& m, PerReader& r) {
   m.hasCircuitInfo = PerReadAdditionBit(r, additions, 5);
   r.extensionPresentCount = PerCountUnknownAdditions(r, additions, 6);
   if (m.hasCallIdentifier) KELVRA_TRY(InOpenType(r, [&] { return DecodeCallIdentifier(m.callIdentifier, r); }));
-  if (m.hasTokens) KELVRA_TRY(InOpenType(r, [&] { return DecodeSequenceOf(r, &m.tokensCount, Slot<h235::ClearToken>(&m.tokens), h235::DecodeClearToken); }));
-  if (m.hasCryptoTokens) KELVRA_TRY(InOpenType(r, [&] { return DecodeSequenceOf(r, &m.cryptoTokensCount, Slot<CryptoH323Token>(&m.cryptoTokens), DecodeCryptoH323Token); }));
+  if (m.hasTokens)
+    KELVRA_TRY(InOpenType(r, [&] {
+      return DecodeSequenceOf(r, &m.tokensCount, Slot<h235::ClearToken>(&m.tokens), h235::DecodeClearToken);
+    }));
+  if (m.hasCryptoTokens)
+    KELVRA_TRY(InOpenType(r, [&] {
+      return DecodeSequenceOf(r, &m.cryptoTokensCount, Slot<CryptoH323Token>(&m.cryptoTokens), DecodeCryptoH323Token);
+    }));
   if (m.hasFastStart) KELVRA_TRY(InOpenType(r, [&] { return DecodeFastStart(r, &m.fastStartCount, &m.fastStart); }));
   if (m.hasFastConnectRefused) PerSkipOpenTypes(r, 1);
   if (m.hasCircuitInfo) KELVRA_TRY(InOpenType(r, [&] { return DecodeCircuitInfo(m.circuitInfo, r); }));
@@ -41,8 +46,11 @@ Status DecodeCallStatusUUIE(CallStatusUUIE& m, PerReader& r) {
   m.hasCryptoTokens = PerReadBit(r);
   ReadProtocolIdentifier(m.protocolIdentifier, r);
   KELVRA_TRY(DecodeCallIdentifier(m.callIdentifier, r));
-  if (m.hasTokens) KELVRA_TRY(DecodeSequenceOf(r, &m.tokensCount, Slot<h235::ClearToken>(&m.tokens), h235::DecodeClearToken));
-  if (m.hasCryptoTokens) KELVRA_TRY(DecodeSequenceOf(r, &m.cryptoTokensCount, Slot<CryptoH323Token>(&m.cryptoTokens), DecodeCryptoH323Token));
+  if (m.hasTokens)
+    KELVRA_TRY(DecodeSequenceOf(r, &m.tokensCount, Slot<h235::ClearToken>(&m.tokens), h235::DecodeClearToken));
+  if (m.hasCryptoTokens)
+    KELVRA_TRY(
+        DecodeSequenceOf(r, &m.cryptoTokensCount, Slot<CryptoH323Token>(&m.cryptoTokens), DecodeCryptoH323Token));
   if (m.isExtended) PerSkipExtensionAdditions(r);
   return kDecoded;
 }

@@ -1,6 +1,5 @@
-#include "h225/non_standard_decode.h"
-
 #include "h225/decode.h"
+#include "h225/non_standard_decode.h"
 
 namespace kelvra::h225 {
 
@@ -22,8 +21,10 @@ Status DecodeNonStandardIdentifier(NonStandardIdentifier& m, PerReader& r) {
     case 0:
       PerReadObjectIdentifier(m.object, r);
       return kDecoded;
-    case 1: return DecodeH221NonStandard(m.h221NonStandard, r);
-    default: return kMalformed;
+    case 1:
+      return DecodeH221NonStandard(m.h221NonStandard, r);
+    default:
+      return kMalformed;
   }
 }
 

@@ -9,7 +9,38 @@ namespace kelvra::h225 {
 
 struct RasMessageNames {
   static constexpr uint32_t kRoots = 25;
-  static constexpr const char* kAlternatives[] = {"gatekeeperRequest", "gatekeeperConfirm", "gatekeeperReject", "registrationRequest", "registrationConfirm", "registrationReject", "unregistrationRequest", "unregistrationConfirm", "unregistrationReject", "admissionRequest", "admissionConfirm", "admissionReject", "bandwidthRequest", "bandwidthConfirm", "bandwidthReject", "disengageRequest", "disengageConfirm", "disengageReject", "locationRequest", "locationConfirm", "locationReject", "infoRequest", "infoRequestResponse", "nonStandardMessage", "unknownMessageResponse", "requestInProgress", "resourcesAvailableIndicate", "resourcesAvailableConfirm", "infoRequestAck", "infoRequestNak", "serviceControlIndication", "serviceControlResponse"};
+  static constexpr const char* kAlternatives[] = {"gatekeeperRequest",
+                                                  "gatekeeperConfirm",
+                                                  "gatekeeperReject",
+                                                  "registrationRequest",
+                                                  "registrationConfirm",
+                                                  "registrationReject",
+                                                  "unregistrationRequest",
+                                                  "unregistrationConfirm",
+                                                  "unregistrationReject",
+                                                  "admissionRequest",
+                                                  "admissionConfirm",
+                                                  "admissionReject",
+                                                  "bandwidthRequest",
+                                                  "bandwidthConfirm",
+                                                  "bandwidthReject",
+                                                  "disengageRequest",
+                                                  "disengageConfirm",
+                                                  "disengageReject",
+                                                  "locationRequest",
+                                                  "locationConfirm",
+                                                  "locationReject",
+                                                  "infoRequest",
+                                                  "infoRequestResponse",
+                                                  "nonStandardMessage",
+                                                  "unknownMessageResponse",
+                                                  "requestInProgress",
+                                                  "resourcesAvailableIndicate",
+                                                  "resourcesAvailableConfirm",
+                                                  "infoRequestAck",
+                                                  "infoRequestNak",
+                                                  "serviceControlIndication",
+                                                  "serviceControlResponse"};
 };
 
 // Extension alternatives reuse the tags from 0, so look at `isExtension` before `choiceTag`. An
@@ -28,10 +59,14 @@ struct RasMessageRecord {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) return WalkNullChoice<RasMessageNames>(v, m.isExtension, m.choiceTag);
     switch (m.choiceTag) {
-      case 0: return v.Record("gatekeeperRequest", m.gatekeeperRequest);
-      case 1: return v.Record("gatekeeperConfirm", m.gatekeeperConfirm);
-      case 2: return v.Record("gatekeeperReject", m.gatekeeperReject);
-      default: return WalkNullChoice<RasMessageNames>(v, m.isExtension, m.choiceTag);
+      case 0:
+        return v.Record("gatekeeperRequest", m.gatekeeperRequest);
+      case 1:
+        return v.Record("gatekeeperConfirm", m.gatekeeperConfirm);
+      case 2:
+        return v.Record("gatekeeperReject", m.gatekeeperReject);
+      default:
+        return WalkNullChoice<RasMessageNames>(v, m.isExtension, m.choiceTag);
     }
   }
 };

@@ -1,7 +1,6 @@
-#include "h225/services_decode.h"
-
 #include "h225/decode.h"
 #include "h225/non_standard_decode.h"
+#include "h225/services_decode.h"
 
 namespace kelvra::h225 {
 
@@ -68,9 +67,12 @@ Status DecodeServiceControlDescriptor(ServiceControlDescriptor& m, PerReader& r)
     case 1:
       PerReadOctetString(m.signal, r);
       return kDecoded;
-    case 2: return DecodeNonStandardParameter(m.nonStandard, r);
-    case 3: return DecodeCallCreditServiceControl(m.callCreditServiceControl, r);
-    default: return kMalformed;
+    case 2:
+      return DecodeNonStandardParameter(m.nonStandard, r);
+    case 3:
+      return DecodeCallCreditServiceControl(m.callCreditServiceControl, r);
+    default:
+      return kMalformed;
   }
 }
 

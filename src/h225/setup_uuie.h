@@ -15,20 +15,23 @@ namespace kelvra::h225 {
 
 struct ScnConnectionTypeNames {
   static constexpr uint32_t kRoots = 7;
-  static constexpr const char* kAlternatives[] = {"unknown", "bChannel", "hybrid2x64", "hybrid384", "hybrid1536", "hybrid1920", "multirate"};
+  static constexpr const char* kAlternatives[] = {"unknown",    "bChannel",   "hybrid2x64", "hybrid384",
+                                                  "hybrid1536", "hybrid1920", "multirate"};
 };
 using ScnConnectionType = NullChoice<ScnConnectionTypeNames>;
 
 struct ScnConnectionAggregationNames {
   static constexpr uint32_t kRoots = 6;
-  static constexpr const char* kAlternatives[] = {"auto", "none", "h221", "bonded-mode1", "bonded-mode2", "bonded-mode3"};
+  static constexpr const char* kAlternatives[] = {"auto",         "none",         "h221",
+                                                  "bonded-mode1", "bonded-mode2", "bonded-mode3"};
 };
 using ScnConnectionAggregation = NullChoice<ScnConnectionAggregationNames>;
 
 struct SetupUUIE {
   struct ConferenceGoalNames {
     static constexpr uint32_t kRoots = 3;
-    static constexpr const char* kAlternatives[] = {"create", "join", "invite", "capability-negotiation", "callIndependentSupplementaryService"};
+    static constexpr const char* kAlternatives[] = {"create", "join", "invite", "capability-negotiation",
+                                                    "callIndependentSupplementaryService"};
   };
   using ConferenceGoal = NullChoice<ConferenceGoalNames>;
 
@@ -142,9 +145,11 @@ struct SetupUUIE {
     if (m.hasH245Address) v.Record("h245Address", m.h245Address);
     if (m.hasSourceAddress) v.List("sourceAddress", Slot<AliasAddress>(&m.sourceAddress), m.sourceAddressCount);
     v.Record("sourceInfo", m.sourceInfo);
-    if (m.hasDestinationAddress) v.List("destinationAddress", Slot<AliasAddress>(&m.destinationAddress), m.destinationAddressCount);
+    if (m.hasDestinationAddress)
+      v.List("destinationAddress", Slot<AliasAddress>(&m.destinationAddress), m.destinationAddressCount);
     if (m.hasDestCallSignalAddress) v.Record("destCallSignalAddress", m.destCallSignalAddress);
-    if (m.hasDestExtraCallInfo) v.List("destExtraCallInfo", Slot<AliasAddress>(&m.destExtraCallInfo), m.destExtraCallInfoCount);
+    if (m.hasDestExtraCallInfo)
+      v.List("destExtraCallInfo", Slot<AliasAddress>(&m.destExtraCallInfo), m.destExtraCallInfoCount);
     if (m.hasDestExtraCRV) v.Numbers("destExtraCRV", Slot<uint16_t>(&m.destExtraCRV), m.destExtraCRVCount);
     v.Boolean("activeMC", m.activeMC);
     WalkOctets(v, "conferenceID", m.conferenceID);
@@ -154,7 +159,8 @@ struct SetupUUIE {
     if (m.hasSourceCallSignalAddress) v.Record("sourceCallSignalAddress", m.sourceCallSignalAddress);
     if (m.hasRemoteExtensionAddress) v.Record("remoteExtensionAddress", m.remoteExtensionAddress);
     if (m.hasCallIdentifier) v.Record("callIdentifier", m.callIdentifier);
-    if (m.hasH245SecurityCapability) v.List("h245SecurityCapability", Slot<H245Security>(&m.h245SecurityCapability), m.h245SecurityCapabilityCount);
+    if (m.hasH245SecurityCapability)
+      v.List("h245SecurityCapability", Slot<H245Security>(&m.h245SecurityCapability), m.h245SecurityCapabilityCount);
     if (m.hasTokens) v.List("tokens", Slot<h235::ClearToken>(&m.tokens), m.tokensCount);
     if (m.hasCryptoTokens) v.List("cryptoTokens", Slot<CryptoH323Token>(&m.cryptoTokens), m.cryptoTokensCount);
     if (m.hasFastStart) v.List("fastStart", Slot<h245::OpenLogicalChannel>(&m.fastStart), m.fastStartCount);
@@ -164,19 +170,27 @@ struct SetupUUIE {
     if (m.hasMultipleCalls) v.Boolean("multipleCalls", m.multipleCalls);
     if (m.hasMaintainConnection) v.Boolean("maintainConnection", m.maintainConnection);
     if (m.hasConnectionParameters) v.Record("connectionParameters", m.connectionParameters);
-    if (m.hasLanguage) v.OctetStrings("language", Slot<OctetStringValue>(&m.language), m.languageCount, OctetNotation::kCharacters);
+    if (m.hasLanguage)
+      v.OctetStrings("language", Slot<OctetStringValue>(&m.language), m.languageCount, OctetNotation::kCharacters);
     if (m.hasPresentationIndicator) v.Record("presentationIndicator", m.presentationIndicator);
     if (m.hasScreeningIndicator) v.Record("screeningIndicator", m.screeningIndicator);
-    if (m.hasServiceControl) v.List("serviceControl", Slot<ServiceControlSession>(&m.serviceControl), m.serviceControlCount);
+    if (m.hasServiceControl)
+      v.List("serviceControl", Slot<ServiceControlSession>(&m.serviceControl), m.serviceControlCount);
     if (m.hasSymmetricOperationRequired) v.Null("symmetricOperationRequired");
     if (m.hasCapacity) v.Record("capacity", m.capacity);
     if (m.hasCircuitInfo) v.Record("circuitInfo", m.circuitInfo);
-    if (m.hasDesiredProtocols) v.List("desiredProtocols", Slot<SupportedProtocols>(&m.desiredProtocols), m.desiredProtocolsCount);
+    if (m.hasDesiredProtocols)
+      v.List("desiredProtocols", Slot<SupportedProtocols>(&m.desiredProtocols), m.desiredProtocolsCount);
     if (m.hasNeededFeatures) v.List("neededFeatures", Slot<GenericData>(&m.neededFeatures), m.neededFeaturesCount);
     if (m.hasDesiredFeatures) v.List("desiredFeatures", Slot<GenericData>(&m.desiredFeatures), m.desiredFeaturesCount);
-    if (m.hasSupportedFeatures) v.List("supportedFeatures", Slot<GenericData>(&m.supportedFeatures), m.supportedFeaturesCount);
-    if (m.hasParallelH245Control) v.OctetStrings("parallelH245Control", Slot<OctetStringValue>(&m.parallelH245Control), m.parallelH245ControlCount, OctetNotation::kOctets);
-    if (m.hasAdditionalSourceAddresses) v.List("additionalSourceAddresses", Slot<ExtendedAliasAddress>(&m.additionalSourceAddresses), m.additionalSourceAddressesCount);
+    if (m.hasSupportedFeatures)
+      v.List("supportedFeatures", Slot<GenericData>(&m.supportedFeatures), m.supportedFeaturesCount);
+    if (m.hasParallelH245Control)
+      v.OctetStrings("parallelH245Control", Slot<OctetStringValue>(&m.parallelH245Control), m.parallelH245ControlCount,
+                     OctetNotation::kOctets);
+    if (m.hasAdditionalSourceAddresses)
+      v.List("additionalSourceAddresses", Slot<ExtendedAliasAddress>(&m.additionalSourceAddresses),
+             m.additionalSourceAddressesCount);
   }
 };
 

@@ -1,9 +1,8 @@
-#include "h245/data_type_decode.h"
-
 #include "codec/release.h"
-#include "h245/decode.h"
 #include "h245/audio_capability_decode.h"
 #include "h245/data_application_decode.h"
+#include "h245/data_type_decode.h"
+#include "h245/decode.h"
 #include "h245/encryption_decode.h"
 #include "h245/multiplex_capability_decode.h"
 #include "h245/non_standard_decode.h"
@@ -18,9 +17,12 @@ void DecodeFrameToThreadMapping(RTPH263VideoRedundancyEncoding::FrameToThreadMap
   switch (index) {
     case 1:
       m.custom.count = PerReadNumber<uint16_t>(r, 1, 256);
-      if (!DecodeList(r, Slot<RTPH263VideoRedundancyFrameMapping>(&m.custom.elements), m.custom.count, DecodeRTPH263VideoRedundancyFrameMapping)) return;
+      if (!DecodeList(r, Slot<RTPH263VideoRedundancyFrameMapping>(&m.custom.elements), m.custom.count,
+                      DecodeRTPH263VideoRedundancyFrameMapping))
+        return;
       return;
-    default: return;
+    default:
+      return;
   }
 }
 
@@ -61,9 +63,12 @@ void DecodeSeparateStream(FECData::Rfc2733::Mode::SeparateStream& m, PerReader& 
   const uint32_t index = ReadChoice(m, r, 2);
   if (m.isExtension) return PerSkipOpenTypes(r, 1);
   switch (index) {
-    case 0: return DecodeDifferentPort(m.differentPort, r);
-    case 1: return DecodeSamePort(m.samePort, r);
-    default: return;
+    case 0:
+      return DecodeDifferentPort(m.differentPort, r);
+    case 1:
+      return DecodeSamePort(m.samePort, r);
+    default:
+      return;
   }
 }
 
@@ -71,8 +76,10 @@ void DecodeMode(FECData::Rfc2733::Mode& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 2);
   if (m.isExtension) return PerSkipOpenTypes(r, 1);
   switch (index) {
-    case 1: return DecodeSeparateStream(m.separateStream, r);
-    default: return;
+    case 1:
+      return DecodeSeparateStream(m.separateStream, r);
+    default:
+      return;
   }
 }
 
@@ -86,18 +93,27 @@ void DecodeMediaType(H235Media::MediaType& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 4);
   if (m.isExtension) {
     switch (index) {
-      case 0: return InOpenType(r, [&] { DecodeRedundancyEncoding(m.redundancyEncoding, r); });
-      case 1: return InOpenType(r, [&] { DecodeMultiplePayloadStream(m.multiplePayloadStream, r); });
-      case 2: return InOpenType(r, [&] { DecodeFECData(m.fec, r); });
-      default: return PerSkipOpenTypes(r, 1);
+      case 0:
+        return InOpenType(r, [&] { DecodeRedundancyEncoding(m.redundancyEncoding, r); });
+      case 1:
+        return InOpenType(r, [&] { DecodeMultiplePayloadStream(m.multiplePayloadStream, r); });
+      case 2:
+        return InOpenType(r, [&] { DecodeFECData(m.fec, r); });
+      default:
+        return PerSkipOpenTypes(r, 1);
     }
   }
   switch (index) {
-    case 0: return DecodeNonStandardParameter(m.nonStandard, r);
-    case 1: return DecodeVideoCapability(m.videoData, r);
-    case 2: return DecodeAudioCapability(m.audioData, r);
-    case 3: return DecodeDataApplicationCapability(m.data, r);
-    default: return;
+    case 0:
+      return DecodeNonStandardParameter(m.nonStandard, r);
+    case 1:
+      return DecodeVideoCapability(m.videoData, r);
+    case 2:
+      return DecodeAudioCapability(m.audioData, r);
+    case 3:
+      return DecodeDataApplicationCapability(m.data, r);
+    default:
+      return;
   }
 }
 
@@ -107,7 +123,9 @@ void DecodeRTPH263VideoRedundancyFrameMapping(RTPH263VideoRedundancyFrameMapping
   m.isExtended = PerReadBit(r);
   m.threadNumber = PerReadNumber<uint8_t>(r, 0, 15);
   m.frameSequenceCount = PerReadNumber<uint16_t>(r, 1, 256);
-  if (!DecodeList(r, Slot<uint8_t>(&m.frameSequence), m.frameSequenceCount, [](uint8_t& value, PerReader& reader) { value = PerReadNumber<uint8_t>(reader, 0, 255); })) return;
+  if (!DecodeList(r, Slot<uint8_t>(&m.frameSequence), m.frameSequenceCount,
+                  [](uint8_t& value, PerReader& reader) { value = PerReadNumber<uint8_t>(reader, 0, 255); }))
+    return;
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
@@ -119,7 +137,9 @@ void DecodeRTPH263VideoRedundancyEncoding(RTPH263VideoRedundancyEncoding& m, Per
   DecodeFrameToThreadMapping(m.frameToThreadMapping, r);
   if (m.hasContainedThreads) {
     m.containedThreadsCount = PerReadNumber<uint16_t>(r, 1, 256);
-    if (!DecodeList(r, Slot<uint8_t>(&m.containedThreads), m.containedThreadsCount, [](uint8_t& value, PerReader& reader) { value = PerReadNumber<uint8_t>(reader, 0, 15); })) return;
+    if (!DecodeList(r, Slot<uint8_t>(&m.containedThreads), m.containedThreadsCount,
+                    [](uint8_t& value, PerReader& reader) { value = PerReadNumber<uint8_t>(reader, 0, 15); }))
+      return;
   }
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
@@ -128,13 +148,17 @@ void DecodeRedundancyEncodingMethod(RedundancyEncodingMethod& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 2);
   if (m.isExtension) {
     switch (index) {
-      case 0: return InOpenType(r, [&] { DecodeRTPH263VideoRedundancyEncoding(m.rtpH263VideoRedundancyEncoding, r); });
-      default: return PerSkipOpenTypes(r, 1);
+      case 0:
+        return InOpenType(r, [&] { DecodeRTPH263VideoRedundancyEncoding(m.rtpH263VideoRedundancyEncoding, r); });
+      default:
+        return PerSkipOpenTypes(r, 1);
     }
   }
   switch (index) {
-    case 0: return DecodeNonStandardParameter(m.nonStandard, r);
-    default: return;
+    case 0:
+      return DecodeNonStandardParameter(m.nonStandard, r);
+    default:
+      return;
   }
 }
 
@@ -170,15 +194,19 @@ void DecodeMultiplePayloadStreamElement(MultiplePayloadStreamElement& m, PerRead
 
 void DecodeMultiplePayloadStream(MultiplePayloadStream& m, PerReader& r) {
   m.isExtended = PerReadBit(r);
-  if (!DecodeSequenceOf(r, &m.elementsCount, Slot<MultiplePayloadStreamElement>(&m.elements), DecodeMultiplePayloadStreamElement)) return;
+  if (!DecodeSequenceOf(r, &m.elementsCount, Slot<MultiplePayloadStreamElement>(&m.elements),
+                        DecodeMultiplePayloadStreamElement))
+    return;
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
 void DecodeFECData(FECData& m, PerReader& r) {
   const uint32_t index = ReadRootChoice(m, r, 1);
   switch (index) {
-    case 0: return DecodeRfc2733(m.rfc2733, r);
-    default: return;
+    case 0:
+      return DecodeRfc2733(m.rfc2733, r);
+    default:
+      return;
   }
 }
 
@@ -202,22 +230,35 @@ void DecodeDataType(DataType& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 6);
   if (m.isExtension) {
     switch (index) {
-      case 0: return InOpenType(r, [&] { DecodeNonStandardParameter(m.h235Control, r); });
-      case 1: return InOpenType(r, [&] { DecodeH235Media(m.h235Media, r); });
-      case 2: return InOpenType(r, [&] { DecodeMultiplexedStreamParameter(m.multiplexedStream, r); });
-      case 3: return InOpenType(r, [&] { DecodeRedundancyEncoding(m.redundancyEncoding, r); });
-      case 4: return InOpenType(r, [&] { DecodeMultiplePayloadStream(m.multiplePayloadStream, r); });
-      case 5: return InOpenType(r, [&] { DecodeFECData(m.fec, r); });
-      default: return PerSkipOpenTypes(r, 1);
+      case 0:
+        return InOpenType(r, [&] { DecodeNonStandardParameter(m.h235Control, r); });
+      case 1:
+        return InOpenType(r, [&] { DecodeH235Media(m.h235Media, r); });
+      case 2:
+        return InOpenType(r, [&] { DecodeMultiplexedStreamParameter(m.multiplexedStream, r); });
+      case 3:
+        return InOpenType(r, [&] { DecodeRedundancyEncoding(m.redundancyEncoding, r); });
+      case 4:
+        return InOpenType(r, [&] { DecodeMultiplePayloadStream(m.multiplePayloadStream, r); });
+      case 5:
+        return InOpenType(r, [&] { DecodeFECData(m.fec, r); });
+      default:
+        return PerSkipOpenTypes(r, 1);
     }
   }
   switch (index) {
-    case 0: return DecodeNonStandardParameter(m.nonStandard, r);
-    case 2: return DecodeVideoCapability(m.videoData, r);
-    case 3: return DecodeAudioCapability(m.audioData, r);
-    case 4: return DecodeDataApplicationCapability(m.data, r);
-    case 5: return DecodeEncryptionMode(m.encryptionData, r);
-    default: return;
+    case 0:
+      return DecodeNonStandardParameter(m.nonStandard, r);
+    case 2:
+      return DecodeVideoCapability(m.videoData, r);
+    case 3:
+      return DecodeAudioCapability(m.audioData, r);
+    case 4:
+      return DecodeDataApplicationCapability(m.data, r);
+    case 5:
+      return DecodeEncryptionMode(m.encryptionData, r);
+    default:
+      return;
   }
 }
 

@@ -41,7 +41,8 @@ void InOpenType(PerReader& r, Decode decode) {
 // The elements of a list whose count is already kept; false when its block was refused. Elements that
 // the input does not reach stay zero.
 template <class Element>
-bool DecodeList(PerReader& r, Slot<Element> slot, uint32_t count, void (*decode)(std::type_identity_t<Element>&, PerReader&)) {
+bool DecodeList(PerReader& r, Slot<Element> slot, uint32_t count,
+                void (*decode)(std::type_identity_t<Element>&, PerReader&)) {
   if (count == 0) return true;
   Element* elements = AllocateList(r, slot, count);
   if (elements == nullptr) return false;

@@ -1,6 +1,5 @@
-#include "h245/encryption_decode.h"
-
 #include "h245/decode.h"
+#include "h245/encryption_decode.h"
 #include "h245/non_standard_decode.h"
 
 namespace kelvra::h245 {
@@ -9,8 +8,10 @@ void DecodeEncryptionMode(EncryptionMode& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 2);
   if (m.isExtension) return PerSkipOpenTypes(r, 1);
   switch (index) {
-    case 0: return DecodeNonStandardParameter(m.nonStandard, r);
-    default: return;
+    case 0:
+      return DecodeNonStandardParameter(m.nonStandard, r);
+    default:
+      return;
   }
 }
 
@@ -18,9 +19,12 @@ void DecodeMediaEncryptionAlgorithm(MediaEncryptionAlgorithm& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 2);
   if (m.isExtension) return PerSkipOpenTypes(r, 1);
   switch (index) {
-    case 0: return DecodeNonStandardParameter(m.nonStandard, r);
-    case 1: return PerReadObjectIdentifier(m.algorithm, r);
-    default: return;
+    case 0:
+      return DecodeNonStandardParameter(m.nonStandard, r);
+    case 1:
+      return PerReadObjectIdentifier(m.algorithm, r);
+    default:
+      return;
   }
 }
 
@@ -51,7 +55,9 @@ void DecodeEncryptionAuthenticationAndIntegrity(EncryptionAuthenticationAndInteg
   m.hasIntegrityCapability = PerReadBit(r);
   if (m.hasEncryptionCapability) {
     m.encryptionCapabilityCount = PerReadNumber<uint16_t>(r, 1, 256);
-    if (!DecodeList(r, Slot<MediaEncryptionAlgorithm>(&m.encryptionCapability), m.encryptionCapabilityCount, DecodeMediaEncryptionAlgorithm)) return;
+    if (!DecodeList(r, Slot<MediaEncryptionAlgorithm>(&m.encryptionCapability), m.encryptionCapabilityCount,
+                    DecodeMediaEncryptionAlgorithm))
+      return;
   }
   if (m.hasAuthenticationCapability) DecodeAuthenticationCapability(m.authenticationCapability, r);
   if (m.hasIntegrityCapability) DecodeIntegrityCapability(m.integrityCapability, r);

@@ -20,9 +20,12 @@ struct EncryptionMode {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) return v.UnknownExtension(m.choiceTag);
     switch (m.choiceTag) {
-      case 0: return v.Record("nonStandard", m.nonStandard);
-      case 1: return v.Null("h233Encryption");
-      default: return v.UnknownRoot(m.choiceTag);
+      case 0:
+        return v.Record("nonStandard", m.nonStandard);
+      case 1:
+        return v.Null("h233Encryption");
+      default:
+        return v.UnknownRoot(m.choiceTag);
     }
   }
 };
@@ -39,9 +42,12 @@ struct MediaEncryptionAlgorithm {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) return v.UnknownExtension(m.choiceTag);
     switch (m.choiceTag) {
-      case 0: return v.Record("nonStandard", m.nonStandard);
-      case 1: return v.ObjectIdentifier("algorithm", m.algorithm);
-      default: return v.UnknownRoot(m.choiceTag);
+      case 0:
+        return v.Record("nonStandard", m.nonStandard);
+      case 1:
+        return v.ObjectIdentifier("algorithm", m.algorithm);
+      default:
+        return v.UnknownRoot(m.choiceTag);
     }
   }
 };
@@ -83,7 +89,9 @@ struct EncryptionAuthenticationAndIntegrity {
 
   template <class Record, class Visitor>
   static void Walk(Record& m, Visitor& v) {
-    if (m.hasEncryptionCapability) v.List("encryptionCapability", Slot<MediaEncryptionAlgorithm>(&m.encryptionCapability), m.encryptionCapabilityCount);
+    if (m.hasEncryptionCapability)
+      v.List("encryptionCapability", Slot<MediaEncryptionAlgorithm>(&m.encryptionCapability),
+             m.encryptionCapabilityCount);
     if (m.hasAuthenticationCapability) v.Record("authenticationCapability", m.authenticationCapability);
     if (m.hasIntegrityCapability) v.Record("integrityCapability", m.integrityCapability);
   }

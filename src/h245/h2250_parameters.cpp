@@ -1,7 +1,6 @@
-#include "h245/h2250_parameters_decode.h"
-
-#include "h245/decode.h"
 #include "h245/data_type_decode.h"
+#include "h245/decode.h"
+#include "h245/h2250_parameters_decode.h"
 #include "h245/non_standard_decode.h"
 #include "h245/transport_address_decode.h"
 
@@ -74,8 +73,10 @@ void DecodeMediaTransportType(MediaTransportType& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 4);
   if (m.isExtension) {
     switch (index) {
-      case 0: return InOpenType(r, [&] { DecodeAtmAAL5Compressed(m.atmAAL5Compressed, r); });
-      default: return PerSkipOpenTypes(r, 1);
+      case 0:
+        return InOpenType(r, [&] { DecodeAtmAAL5Compressed(m.atmAAL5Compressed, r); });
+      default:
+        return PerSkipOpenTypes(r, 1);
     }
   }
 }
@@ -99,7 +100,9 @@ void DecodeTransportCapability(TransportCapability& m, PerReader& r) {
   }
   if (m.hasMediaChannelCapabilities) {
     m.mediaChannelCapabilitiesCount = PerReadNumber<uint16_t>(r, 1, 256);
-    if (!DecodeList(r, Slot<MediaChannelCapability>(&m.mediaChannelCapabilities), m.mediaChannelCapabilitiesCount, DecodeMediaChannelCapability)) return;
+    if (!DecodeList(r, Slot<MediaChannelCapability>(&m.mediaChannelCapabilities), m.mediaChannelCapabilitiesCount,
+                    DecodeMediaChannelCapability))
+      return;
   }
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
@@ -116,7 +119,10 @@ void DecodeH2250LogicalChannelParameters(H2250LogicalChannelParameters& m, PerRe
   m.hasDestination = PerReadBit(r);
   m.hasDynamicRTPPayloadType = PerReadBit(r);
   m.hasMediaPacketization = PerReadBit(r);
-  if (m.hasNonStandard) if (!DecodeSequenceOf(r, &m.nonStandardCount, Slot<NonStandardParameter>(&m.nonStandard), DecodeNonStandardParameter)) return;
+  if (m.hasNonStandard)
+    if (!DecodeSequenceOf(r, &m.nonStandardCount, Slot<NonStandardParameter>(&m.nonStandard),
+                          DecodeNonStandardParameter))
+      return;
   m.sessionID = PerReadNumber<uint8_t>(r, 0, 255);
   if (m.hasAssociatedSessionID) m.associatedSessionID = PerReadNumber<uint8_t>(r, 1, 255);
   if (m.hasMediaChannel) DecodeTransportAddress(m.mediaChannel, r);
@@ -147,7 +153,10 @@ void DecodeH2250LogicalChannelAckParameters(H2250LogicalChannelAckParameters& m,
   m.hasMediaChannel = PerReadBit(r);
   m.hasMediaControlChannel = PerReadBit(r);
   m.hasDynamicRTPPayloadType = PerReadBit(r);
-  if (m.hasNonStandard) if (!DecodeSequenceOf(r, &m.nonStandardCount, Slot<NonStandardParameter>(&m.nonStandard), DecodeNonStandardParameter)) return;
+  if (m.hasNonStandard)
+    if (!DecodeSequenceOf(r, &m.nonStandardCount, Slot<NonStandardParameter>(&m.nonStandard),
+                          DecodeNonStandardParameter))
+      return;
   if (m.hasSessionID) m.sessionID = PerReadNumber<uint8_t>(r, 1, 255);
   if (m.hasMediaChannel) DecodeTransportAddress(m.mediaChannel, r);
   if (m.hasMediaControlChannel) DecodeTransportAddress(m.mediaControlChannel, r);

@@ -112,16 +112,23 @@ struct MediaTransportType {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) {
       switch (m.choiceTag) {
-        case 0: return v.Record("atm-AAL5-compressed", m.atmAAL5Compressed);
-        default: return v.UnknownExtension(m.choiceTag);
+        case 0:
+          return v.Record("atm-AAL5-compressed", m.atmAAL5Compressed);
+        default:
+          return v.UnknownExtension(m.choiceTag);
       }
     }
     switch (m.choiceTag) {
-      case 0: return v.Null("ip-UDP");
-      case 1: return v.Null("ip-TCP");
-      case 2: return v.Null("atm-AAL5-UNIDIR");
-      case 3: return v.Null("atm-AAL5-BIDIR");
-      default: return v.UnknownRoot(m.choiceTag);
+      case 0:
+        return v.Null("ip-UDP");
+      case 1:
+        return v.Null("ip-TCP");
+      case 2:
+        return v.Null("atm-AAL5-UNIDIR");
+      case 3:
+        return v.Null("atm-AAL5-BIDIR");
+      default:
+        return v.UnknownRoot(m.choiceTag);
     }
   }
 };
@@ -151,8 +158,11 @@ struct TransportCapability {
   template <class Record, class Visitor>
   static void Walk(Record& m, Visitor& v) {
     if (m.hasNonStandard) v.Record("nonStandard", m.nonStandard);
-    if (m.hasQOSCapabilities) v.List("qOSCapabilities", Slot<QOSCapability>(&m.qOSCapabilities), m.qOSCapabilitiesCount);
-    if (m.hasMediaChannelCapabilities) v.List("mediaChannelCapabilities", Slot<MediaChannelCapability>(&m.mediaChannelCapabilities), m.mediaChannelCapabilitiesCount);
+    if (m.hasQOSCapabilities)
+      v.List("qOSCapabilities", Slot<QOSCapability>(&m.qOSCapabilities), m.qOSCapabilitiesCount);
+    if (m.hasMediaChannelCapabilities)
+      v.List("mediaChannelCapabilities", Slot<MediaChannelCapability>(&m.mediaChannelCapabilities),
+             m.mediaChannelCapabilitiesCount);
   }
 };
 
@@ -167,9 +177,12 @@ struct H2250LogicalChannelParameters {
     static void Walk(Record& m, Visitor& v) {
       if (!m.isExtension) return v.Null("h261aVideoPacketization");
       switch (m.choiceTag) {
-        case 0: return v.Null("rtpPayloadType");
-        case 1: return v.Number("extension-1", m.mediaPacketizationOctet);
-        default: return v.UnknownExtension(m.choiceTag);
+        case 0:
+          return v.Null("rtpPayloadType");
+        case 1:
+          return v.Number("extension-1", m.mediaPacketizationOctet);
+        default:
+          return v.UnknownExtension(m.choiceTag);
       }
     }
   };
@@ -212,7 +225,8 @@ struct H2250LogicalChannelParameters {
     if (m.hasMediaChannel) v.Record("mediaChannel", m.mediaChannel);
     if (m.hasMediaGuaranteedDelivery) v.Boolean("mediaGuaranteedDelivery", m.mediaGuaranteedDelivery);
     if (m.hasMediaControlChannel) v.Record("mediaControlChannel", m.mediaControlChannel);
-    if (m.hasMediaControlGuaranteedDelivery) v.Boolean("mediaControlGuaranteedDelivery", m.mediaControlGuaranteedDelivery);
+    if (m.hasMediaControlGuaranteedDelivery)
+      v.Boolean("mediaControlGuaranteedDelivery", m.mediaControlGuaranteedDelivery);
     if (m.hasSilenceSuppression) v.Boolean("silenceSuppression", m.silenceSuppression);
     if (m.hasDestination) v.Record("destination", m.destination);
     if (m.hasDynamicRTPPayloadType) v.Number("dynamicRTPPayloadType", m.dynamicRTPPayloadType);

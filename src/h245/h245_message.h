@@ -11,25 +11,88 @@ enum MessageClass : uint8_t { kRequest = 0, kResponse = 1, kCommand = 2, kIndica
 struct RequestMessageNames {
   static constexpr MessageClass kClass = kRequest;
   static constexpr uint32_t kRoots = 11;
-  static constexpr const char* kAlternatives[] = {"nonStandard", "masterSlaveDetermination", "terminalCapabilitySet", "openLogicalChannel", "closeLogicalChannel", "requestChannelClose", "multiplexEntrySend", "requestMultiplexEntry", "requestMode", "roundTripDelayRequest", "maintenanceLoopRequest", "communicationModeRequest", "conferenceRequest", "multilinkRequest", "logicalChannelRateRequest", "genericRequest"};
+  static constexpr const char* kAlternatives[] = {
+      "nonStandard",         "masterSlaveDetermination", "terminalCapabilitySet",     "openLogicalChannel",
+      "closeLogicalChannel", "requestChannelClose",      "multiplexEntrySend",        "requestMultiplexEntry",
+      "requestMode",         "roundTripDelayRequest",    "maintenanceLoopRequest",    "communicationModeRequest",
+      "conferenceRequest",   "multilinkRequest",         "logicalChannelRateRequest", "genericRequest"};
 };
 
 struct ResponseMessageNames {
   static constexpr MessageClass kClass = kResponse;
   static constexpr uint32_t kRoots = 19;
-  static constexpr const char* kAlternatives[] = {"nonStandard", "masterSlaveDeterminationAck", "masterSlaveDeterminationReject", "terminalCapabilitySetAck", "terminalCapabilitySetReject", "openLogicalChannelAck", "openLogicalChannelReject", "closeLogicalChannelAck", "requestChannelCloseAck", "requestChannelCloseReject", "multiplexEntrySendAck", "multiplexEntrySendReject", "requestMultiplexEntryAck", "requestMultiplexEntryReject", "requestModeAck", "requestModeReject", "roundTripDelayResponse", "maintenanceLoopAck", "maintenanceLoopReject", "communicationModeResponse", "conferenceResponse", "multilinkResponse", "logicalChannelRateAcknowledge", "logicalChannelRateReject", "genericResponse"};
+  static constexpr const char* kAlternatives[] = {"nonStandard",
+                                                  "masterSlaveDeterminationAck",
+                                                  "masterSlaveDeterminationReject",
+                                                  "terminalCapabilitySetAck",
+                                                  "terminalCapabilitySetReject",
+                                                  "openLogicalChannelAck",
+                                                  "openLogicalChannelReject",
+                                                  "closeLogicalChannelAck",
+                                                  "requestChannelCloseAck",
+                                                  "requestChannelCloseReject",
+                                                  "multiplexEntrySendAck",
+                                                  "multiplexEntrySendReject",
+                                                  "requestMultiplexEntryAck",
+                                                  "requestMultiplexEntryReject",
+                                                  "requestModeAck",
+                                                  "requestModeReject",
+                                                  "roundTripDelayResponse",
+                                                  "maintenanceLoopAck",
+                                                  "maintenanceLoopReject",
+                                                  "communicationModeResponse",
+                                                  "conferenceResponse",
+                                                  "multilinkResponse",
+                                                  "logicalChannelRateAcknowledge",
+                                                  "logicalChannelRateReject",
+                                                  "genericResponse"};
 };
 
 struct CommandMessageNames {
   static constexpr MessageClass kClass = kCommand;
   static constexpr uint32_t kRoots = 7;
-  static constexpr const char* kAlternatives[] = {"nonStandard", "maintenanceLoopOffCommand", "sendTerminalCapabilitySet", "encryptionCommand", "flowControlCommand", "endSessionCommand", "miscellaneousCommand", "communicationModeCommand", "conferenceCommand", "h223MultiplexReconfiguration", "newATMVCCommand", "mobileMultilinkReconfigurationCommand", "genericCommand"};
+  static constexpr const char* kAlternatives[] = {"nonStandard",
+                                                  "maintenanceLoopOffCommand",
+                                                  "sendTerminalCapabilitySet",
+                                                  "encryptionCommand",
+                                                  "flowControlCommand",
+                                                  "endSessionCommand",
+                                                  "miscellaneousCommand",
+                                                  "communicationModeCommand",
+                                                  "conferenceCommand",
+                                                  "h223MultiplexReconfiguration",
+                                                  "newATMVCCommand",
+                                                  "mobileMultilinkReconfigurationCommand",
+                                                  "genericCommand"};
 };
 
 struct IndicationMessageNames {
   static constexpr MessageClass kClass = kIndication;
   static constexpr uint32_t kRoots = 14;
-  static constexpr const char* kAlternatives[] = {"nonStandard", "functionNotUnderstood", "masterSlaveDeterminationRelease", "terminalCapabilitySetRelease", "openLogicalChannelConfirm", "requestChannelCloseRelease", "multiplexEntrySendRelease", "requestMultiplexEntryRelease", "requestModeRelease", "miscellaneousIndication", "jitterIndication", "h223SkewIndication", "newATMVCIndication", "userInput", "h2250MaximumSkewIndication", "mcLocationIndication", "conferenceIndication", "vendorIdentification", "functionNotSupported", "multilinkIndication", "logicalChannelRateRelease", "flowControlIndication", "mobileMultilinkReconfigurationIndication", "genericIndication"};
+  static constexpr const char* kAlternatives[] = {"nonStandard",
+                                                  "functionNotUnderstood",
+                                                  "masterSlaveDeterminationRelease",
+                                                  "terminalCapabilitySetRelease",
+                                                  "openLogicalChannelConfirm",
+                                                  "requestChannelCloseRelease",
+                                                  "multiplexEntrySendRelease",
+                                                  "requestMultiplexEntryRelease",
+                                                  "requestModeRelease",
+                                                  "miscellaneousIndication",
+                                                  "jitterIndication",
+                                                  "h223SkewIndication",
+                                                  "newATMVCIndication",
+                                                  "userInput",
+                                                  "h2250MaximumSkewIndication",
+                                                  "mcLocationIndication",
+                                                  "conferenceIndication",
+                                                  "vendorIdentification",
+                                                  "functionNotSupported",
+                                                  "multilinkIndication",
+                                                  "logicalChannelRateRelease",
+                                                  "flowControlIndication",
+                                                  "mobileMultilinkReconfigurationIndication",
+                                                  "genericIndication"};
 };
 
 inline constexpr uint32_t kOpenLogicalChannelTag = 3;     // root alternative of RequestMessage
@@ -75,11 +138,16 @@ struct H245MessageRecord {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) return v.UnknownExtension(m.choiceTag);
     switch (m.choiceTag) {
-      case kRequest: return v.Record("request", m.request);
-      case kResponse: return v.Record("response", m.response);
-      case kCommand: return v.Record("command", m.command);
-      case kIndication: return v.Record("indication", m.indication);
-      default: return v.UnknownRoot(m.choiceTag);
+      case kRequest:
+        return v.Record("request", m.request);
+      case kResponse:
+        return v.Record("response", m.response);
+      case kCommand:
+        return v.Record("command", m.command);
+      case kIndication:
+        return v.Record("indication", m.indication);
+      default:
+        return v.UnknownRoot(m.choiceTag);
     }
   }
 };

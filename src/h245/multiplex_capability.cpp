@@ -1,6 +1,5 @@
-#include "h245/multiplex_capability_decode.h"
-
 #include "h245/decode.h"
+#include "h245/multiplex_capability_decode.h"
 #include "h245/network_access_decode.h"
 #include "h245/non_standard_decode.h"
 
@@ -36,9 +35,13 @@ void DecodeRangeOfBitRates(VCCapability::AvailableBitRates::Type::RangeOfBitRate
 void DecodeType(VCCapability::AvailableBitRates::Type& m, PerReader& r) {
   const uint32_t index = ReadRootChoice(m, r, 2);
   switch (index) {
-    case 0: m.singleBitRate = PerReadNumber<uint16_t>(r, 1, 65535); return;
-    case 1: return DecodeRangeOfBitRates(m.rangeOfBitRates, r);
-    default: return;
+    case 0:
+      m.singleBitRate = PerReadNumber<uint16_t>(r, 1, 65535);
+      return;
+    case 1:
+      return DecodeRangeOfBitRates(m.rangeOfBitRates, r);
+    default:
+      return;
   }
 }
 
@@ -75,8 +78,10 @@ void DecodeEnhanced(H223Capability::H223MultiplexTableCapability::Enhanced& m, P
 void DecodeH223MultiplexTableCapability(H223Capability::H223MultiplexTableCapability& m, PerReader& r) {
   const uint32_t index = ReadRootChoice(m, r, 2);
   switch (index) {
-    case 1: return DecodeEnhanced(m.enhanced, r);
-    default: return;
+    case 1:
+      return DecodeEnhanced(m.enhanced, r);
+    default:
+      return;
   }
 }
 
@@ -176,10 +181,12 @@ void DecodeH223Capability(H223Capability& m, PerReader& r) {
   const int32_t unknown = PerCountUnknownAdditions(r, additions, 6);
   if (m.hasMaxMUXPDUSizeCapability) InOpenType(r, [&] { m.maxMUXPDUSizeCapability = PerReadBit(r); });
   if (m.hasNsrpSupport) InOpenType(r, [&] { m.nsrpSupport = PerReadBit(r); });
-  if (m.hasMobileOperationTransmitCapability) InOpenType(r, [&] { DecodeMobileOperationTransmitCapability(m.mobileOperationTransmitCapability, r); });
+  if (m.hasMobileOperationTransmitCapability)
+    InOpenType(r, [&] { DecodeMobileOperationTransmitCapability(m.mobileOperationTransmitCapability, r); });
   if (m.hasH223AnnexCCapability) InOpenType(r, [&] { DecodeH223AnnexCCapability(m.h223AnnexCCapability, r); });
   if (m.hasBitRate) InOpenType(r, [&] { m.bitRate = PerReadNumber<uint16_t>(r, 1, 19200); });
-  if (m.hasMobileMultilinkFrameCapability) InOpenType(r, [&] { DecodeMobileMultilinkFrameCapability(m.mobileMultilinkFrameCapability, r); });
+  if (m.hasMobileMultilinkFrameCapability)
+    InOpenType(r, [&] { DecodeMobileMultilinkFrameCapability(m.mobileMultilinkFrameCapability, r); });
   PerSkipOpenTypes(r, unknown);
 }
 
@@ -187,10 +194,14 @@ void DecodeMultiplexFormat(MultiplexFormat& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 3);
   if (m.isExtension) return PerSkipOpenTypes(r, 1);
   switch (index) {
-    case 0: return DecodeNonStandardParameter(m.nonStandard, r);
-    case 1: return DecodeH222Capability(m.h222Capability, r);
-    case 2: return DecodeH223Capability(m.h223Capability, r);
-    default: return;
+    case 0:
+      return DecodeNonStandardParameter(m.nonStandard, r);
+    case 1:
+      return DecodeH222Capability(m.h222Capability, r);
+    case 2:
+      return DecodeH223Capability(m.h223Capability, r);
+    default:
+      return;
   }
 }
 

@@ -70,9 +70,12 @@ struct VCCapability {
       template <class Record, class Visitor>
       static void Walk(Record& m, Visitor& v) {
         switch (m.choiceTag) {
-          case 0: return v.Number("singleBitRate", m.singleBitRate);
-          case 1: return v.Record("rangeOfBitRates", m.rangeOfBitRates);
-          default: return v.UnknownRoot(m.choiceTag);
+          case 0:
+            return v.Number("singleBitRate", m.singleBitRate);
+          case 1:
+            return v.Record("rangeOfBitRates", m.rangeOfBitRates);
+          default:
+            return v.UnknownRoot(m.choiceTag);
         }
       }
     };
@@ -211,9 +214,12 @@ struct H223Capability {
     template <class Record, class Visitor>
     static void Walk(Record& m, Visitor& v) {
       switch (m.choiceTag) {
-        case 0: return v.Null("basic");
-        case 1: return v.Record("enhanced", m.enhanced);
-        default: return v.UnknownRoot(m.choiceTag);
+        case 0:
+          return v.Null("basic");
+        case 1:
+          return v.Record("enhanced", m.enhanced);
+        default:
+          return v.UnknownRoot(m.choiceTag);
       }
     }
   };
@@ -294,10 +300,12 @@ struct H223Capability {
     v.Record("h223MultiplexTableCapability", m.h223MultiplexTableCapability);
     if (m.hasMaxMUXPDUSizeCapability) v.Boolean("maxMUXPDUSizeCapability", m.maxMUXPDUSizeCapability);
     if (m.hasNsrpSupport) v.Boolean("nsrpSupport", m.nsrpSupport);
-    if (m.hasMobileOperationTransmitCapability) v.Record("mobileOperationTransmitCapability", m.mobileOperationTransmitCapability);
+    if (m.hasMobileOperationTransmitCapability)
+      v.Record("mobileOperationTransmitCapability", m.mobileOperationTransmitCapability);
     if (m.hasH223AnnexCCapability) v.Record("h223AnnexCCapability", m.h223AnnexCCapability);
     if (m.hasBitRate) v.Number("bitRate", m.bitRate);
-    if (m.hasMobileMultilinkFrameCapability) v.Record("mobileMultilinkFrameCapability", m.mobileMultilinkFrameCapability);
+    if (m.hasMobileMultilinkFrameCapability)
+      v.Record("mobileMultilinkFrameCapability", m.mobileMultilinkFrameCapability);
   }
 };
 
@@ -314,10 +322,14 @@ struct MultiplexFormat {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) return v.UnknownExtension(m.choiceTag);
     switch (m.choiceTag) {
-      case 0: return v.Record("nonStandard", m.nonStandard);
-      case 1: return v.Record("h222Capability", m.h222Capability);
-      case 2: return v.Record("h223Capability", m.h223Capability);
-      default: return v.UnknownRoot(m.choiceTag);
+      case 0:
+        return v.Record("nonStandard", m.nonStandard);
+      case 1:
+        return v.Record("h222Capability", m.h222Capability);
+      case 2:
+        return v.Record("h223Capability", m.h223Capability);
+      default:
+        return v.UnknownRoot(m.choiceTag);
     }
   }
 };

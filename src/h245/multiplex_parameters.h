@@ -43,9 +43,12 @@ struct H223AnnexCArqParameters {
     static void Walk(Record& m, Visitor& v) {
       if (m.isExtension) return v.UnknownExtension(m.choiceTag);
       switch (m.choiceTag) {
-        case 0: return v.Number("finite", m.finite);
-        case 1: return v.Null("infinite");
-        default: return v.UnknownRoot(m.choiceTag);
+        case 0:
+          return v.Number("finite", m.finite);
+        case 1:
+          return v.Null("infinite");
+        default:
+          return v.UnknownRoot(m.choiceTag);
       }
     }
   };
@@ -76,7 +79,8 @@ struct H223AL1MParameters {
 
   struct CrcLengthNames {
     static constexpr uint32_t kRoots = 4;
-    static constexpr const char* kAlternatives[] = {"crc4bit", "crc12bit", "crc20bit", "crc28bit", "crc8bit", "crc16bit", "crc32bit", "crcNotUsed"};
+    static constexpr const char* kAlternatives[] = {"crc4bit", "crc12bit", "crc20bit", "crc28bit",
+                                                    "crc8bit", "crc16bit", "crc32bit", "crcNotUsed"};
   };
   using CrcLength = NullChoice<CrcLengthNames>;
 
@@ -92,10 +96,14 @@ struct H223AL1MParameters {
     static void Walk(Record& m, Visitor& v) {
       if (m.isExtension) return v.UnknownExtension(m.choiceTag);
       switch (m.choiceTag) {
-        case 0: return v.Null("noArq");
-        case 1: return v.Record("typeIArq", m.typeIArq);
-        case 2: return v.Record("typeIIArq", m.typeIIArq);
-        default: return v.UnknownRoot(m.choiceTag);
+        case 0:
+          return v.Null("noArq");
+        case 1:
+          return v.Record("typeIArq", m.typeIArq);
+        case 2:
+          return v.Record("typeIIArq", m.typeIIArq);
+        default:
+          return v.UnknownRoot(m.choiceTag);
       }
     }
   };
@@ -151,7 +159,8 @@ struct H223AL3MParameters {
 
   struct CrcLengthNames {
     static constexpr uint32_t kRoots = 4;
-    static constexpr const char* kAlternatives[] = {"crc4bit", "crc12bit", "crc20bit", "crc28bit", "crc8bit", "crc16bit", "crc32bit", "crcNotUsed"};
+    static constexpr const char* kAlternatives[] = {"crc4bit", "crc12bit", "crc20bit", "crc28bit",
+                                                    "crc8bit", "crc16bit", "crc32bit", "crcNotUsed"};
   };
   using CrcLength = NullChoice<CrcLengthNames>;
 
@@ -167,10 +176,14 @@ struct H223AL3MParameters {
     static void Walk(Record& m, Visitor& v) {
       if (m.isExtension) return v.UnknownExtension(m.choiceTag);
       switch (m.choiceTag) {
-        case 0: return v.Null("noArq");
-        case 1: return v.Record("typeIArq", m.typeIArq);
-        case 2: return v.Record("typeIIArq", m.typeIIArq);
-        default: return v.UnknownRoot(m.choiceTag);
+        case 0:
+          return v.Null("noArq");
+        case 1:
+          return v.Record("typeIArq", m.typeIArq);
+        case 2:
+          return v.Record("typeIIArq", m.typeIIArq);
+        default:
+          return v.UnknownRoot(m.choiceTag);
       }
     }
   };
@@ -222,20 +235,31 @@ struct H223LogicalChannelParameters {
     static void Walk(Record& m, Visitor& v) {
       if (m.isExtension) {
         switch (m.choiceTag) {
-          case 0: return v.Record("al1M", m.al1M);
-          case 1: return v.Record("al2M", m.al2M);
-          case 2: return v.Record("al3M", m.al3M);
-          default: return v.UnknownExtension(m.choiceTag);
+          case 0:
+            return v.Record("al1M", m.al1M);
+          case 1:
+            return v.Record("al2M", m.al2M);
+          case 2:
+            return v.Record("al3M", m.al3M);
+          default:
+            return v.UnknownExtension(m.choiceTag);
         }
       }
       switch (m.choiceTag) {
-        case 0: return v.Record("nonStandard", m.nonStandard);
-        case 1: return v.Null("al1Framed");
-        case 2: return v.Null("al1NotFramed");
-        case 3: return v.Null("al2WithoutSequenceNumbers");
-        case 4: return v.Null("al2WithSequenceNumbers");
-        case 5: return v.Record("al3", m.al3);
-        default: return v.UnknownRoot(m.choiceTag);
+        case 0:
+          return v.Record("nonStandard", m.nonStandard);
+        case 1:
+          return v.Null("al1Framed");
+        case 2:
+          return v.Null("al1NotFramed");
+        case 3:
+          return v.Null("al2WithoutSequenceNumbers");
+        case 4:
+          return v.Null("al2WithSequenceNumbers");
+        case 5:
+          return v.Record("al3", m.al3);
+        default:
+          return v.UnknownRoot(m.choiceTag);
       }
     }
   };
@@ -284,7 +308,8 @@ struct V75Parameters {
 struct V76LogicalChannelParameters {
   struct SuspendResumeNames {
     static constexpr uint32_t kRoots = 3;
-    static constexpr const char* kAlternatives[] = {"noSuspendResume", "suspendResumewAddress", "suspendResumewoAddress"};
+    static constexpr const char* kAlternatives[] = {"noSuspendResume", "suspendResumewAddress",
+                                                    "suspendResumewoAddress"};
   };
   using SuspendResume = NullChoice<SuspendResumeNames>;
 
@@ -317,9 +342,12 @@ struct V76LogicalChannelParameters {
     static void Walk(Record& m, Visitor& v) {
       if (m.isExtension) return v.UnknownExtension(m.choiceTag);
       switch (m.choiceTag) {
-        case 0: return v.Record("eRM", m.eRM);
-        case 1: return v.Null("uNERM");
-        default: return v.UnknownRoot(m.choiceTag);
+        case 0:
+          return v.Record("eRM", m.eRM);
+        case 1:
+          return v.Null("uNERM");
+        default:
+          return v.UnknownRoot(m.choiceTag);
       }
     }
   };

@@ -1,6 +1,5 @@
-#include "h245/non_standard_decode.h"
-
 #include "h245/decode.h"
+#include "h245/non_standard_decode.h"
 
 namespace kelvra::h245 {
 

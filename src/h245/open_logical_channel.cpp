@@ -1,28 +1,34 @@
-#include "h245/open_logical_channel_decode.h"
-
+#include "h245/data_type_decode.h"
 #include "h245/decode.h"
 #include "h245/encryption_decode.h"
-#include "h245/data_type_decode.h"
 #include "h245/h2250_parameters_decode.h"
 #include "h245/multiplex_parameters_decode.h"
 #include "h245/network_access_decode.h"
+#include "h245/open_logical_channel_decode.h"
 
 namespace kelvra::h245 {
 namespace {
 
-void DecodeMultiplexParameters(OpenLogicalChannel::ForwardLogicalChannelParameters::MultiplexParameters& m, PerReader& r) {
+void DecodeMultiplexParameters(OpenLogicalChannel::ForwardLogicalChannelParameters::MultiplexParameters& m,
+                               PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 3);
   if (m.isExtension) {
     switch (index) {
-      case 0: return InOpenType(r, [&] { DecodeH2250LogicalChannelParameters(m.h2250LogicalChannelParameters, r); });
-      default: return PerSkipOpenTypes(r, 1);
+      case 0:
+        return InOpenType(r, [&] { DecodeH2250LogicalChannelParameters(m.h2250LogicalChannelParameters, r); });
+      default:
+        return PerSkipOpenTypes(r, 1);
     }
   }
   switch (index) {
-    case 0: return DecodeH222LogicalChannelParameters(m.h222LogicalChannelParameters, r);
-    case 1: return DecodeH223LogicalChannelParameters(m.h223LogicalChannelParameters, r);
-    case 2: return DecodeV76LogicalChannelParameters(m.v76LogicalChannelParameters, r);
-    default: return;
+    case 0:
+      return DecodeH222LogicalChannelParameters(m.h222LogicalChannelParameters, r);
+    case 1:
+      return DecodeH223LogicalChannelParameters(m.h223LogicalChannelParameters, r);
+    case 2:
+      return DecodeV76LogicalChannelParameters(m.v76LogicalChannelParameters, r);
+    default:
+      return;
   }
 }
 
@@ -38,23 +44,30 @@ void DecodeForwardLogicalChannelParameters(OpenLogicalChannel::ForwardLogicalCha
   m.hasForwardLogicalChannelDependency = PerReadAdditionBit(r, additions, 0);
   m.hasReplacementFor = PerReadAdditionBit(r, additions, 1);
   const int32_t unknown = PerCountUnknownAdditions(r, additions, 2);
-  if (m.hasForwardLogicalChannelDependency) InOpenType(r, [&] { m.forwardLogicalChannelDependency = PerReadNumber<uint16_t>(r, 1, 65535); });
+  if (m.hasForwardLogicalChannelDependency)
+    InOpenType(r, [&] { m.forwardLogicalChannelDependency = PerReadNumber<uint16_t>(r, 1, 65535); });
   if (m.hasReplacementFor) InOpenType(r, [&] { m.replacementFor = PerReadNumber<uint16_t>(r, 1, 65535); });
   PerSkipOpenTypes(r, unknown);
 }
 
-void DecodeMultiplexParameters(OpenLogicalChannel::ReverseLogicalChannelParameters::MultiplexParameters& m, PerReader& r) {
+void DecodeMultiplexParameters(OpenLogicalChannel::ReverseLogicalChannelParameters::MultiplexParameters& m,
+                               PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 2);
   if (m.isExtension) {
     switch (index) {
-      case 0: return InOpenType(r, [&] { DecodeH2250LogicalChannelParameters(m.h2250LogicalChannelParameters, r); });
-      default: return PerSkipOpenTypes(r, 1);
+      case 0:
+        return InOpenType(r, [&] { DecodeH2250LogicalChannelParameters(m.h2250LogicalChannelParameters, r); });
+      default:
+        return PerSkipOpenTypes(r, 1);
     }
   }
   switch (index) {
-    case 0: return DecodeH223LogicalChannelParameters(m.h223LogicalChannelParameters, r);
-    case 1: return DecodeV76LogicalChannelParameters(m.v76LogicalChannelParameters, r);
-    default: return;
+    case 0:
+      return DecodeH223LogicalChannelParameters(m.h223LogicalChannelParameters, r);
+    case 1:
+      return DecodeV76LogicalChannelParameters(m.v76LogicalChannelParameters, r);
+    default:
+      return;
   }
 }
 
@@ -69,22 +82,28 @@ void DecodeReverseLogicalChannelParameters(OpenLogicalChannel::ReverseLogicalCha
   m.hasReverseLogicalChannelDependency = PerReadAdditionBit(r, additions, 0);
   m.hasReplacementFor = PerReadAdditionBit(r, additions, 1);
   const int32_t unknown = PerCountUnknownAdditions(r, additions, 2);
-  if (m.hasReverseLogicalChannelDependency) InOpenType(r, [&] { m.reverseLogicalChannelDependency = PerReadNumber<uint16_t>(r, 1, 65535); });
+  if (m.hasReverseLogicalChannelDependency)
+    InOpenType(r, [&] { m.reverseLogicalChannelDependency = PerReadNumber<uint16_t>(r, 1, 65535); });
   if (m.hasReplacementFor) InOpenType(r, [&] { m.replacementFor = PerReadNumber<uint16_t>(r, 1, 65535); });
   PerSkipOpenTypes(r, unknown);
 }
 
-void DecodeMultiplexParameters(OpenLogicalChannelAck::ReverseLogicalChannelParameters::MultiplexParameters& m, PerReader& r) {
+void DecodeMultiplexParameters(OpenLogicalChannelAck::ReverseLogicalChannelParameters::MultiplexParameters& m,
+                               PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 1);
   if (m.isExtension) {
     switch (index) {
-      case 0: return InOpenType(r, [&] { DecodeH2250LogicalChannelParameters(m.h2250LogicalChannelParameters, r); });
-      default: return PerSkipOpenTypes(r, 1);
+      case 0:
+        return InOpenType(r, [&] { DecodeH2250LogicalChannelParameters(m.h2250LogicalChannelParameters, r); });
+      default:
+        return PerSkipOpenTypes(r, 1);
     }
   }
   switch (index) {
-    case 0: return DecodeH222LogicalChannelParameters(m.h222LogicalChannelParameters, r);
-    default: return;
+    case 0:
+      return DecodeH222LogicalChannelParameters(m.h222LogicalChannelParameters, r);
+    default:
+      return;
   }
 }
 
@@ -108,8 +127,10 @@ void DecodeForwardMultiplexAckParameters(OpenLogicalChannelAck::ForwardMultiplex
   const uint32_t index = ReadChoice(m, r, 1);
   if (m.isExtension) return PerSkipOpenTypes(r, 1);
   switch (index) {
-    case 0: return DecodeH2250LogicalChannelAckParameters(m.h2250LogicalChannelAckParameters, r);
-    default: return;
+    case 0:
+      return DecodeH2250LogicalChannelAckParameters(m.h2250LogicalChannelAckParameters, r);
+    default:
+      return;
   }
 }
 
@@ -145,7 +166,8 @@ void DecodeOpenLogicalChannelAck(OpenLogicalChannelAck& m, PerReader& r) {
   m.hasEncryptionSync = PerReadAdditionBit(r, additions, 2);
   const int32_t unknown = PerCountUnknownAdditions(r, additions, 3);
   if (m.hasSeparateStack) InOpenType(r, [&] { DecodeNetworkAccessParameters(m.separateStack, r); });
-  if (m.hasForwardMultiplexAckParameters) InOpenType(r, [&] { DecodeForwardMultiplexAckParameters(m.forwardMultiplexAckParameters, r); });
+  if (m.hasForwardMultiplexAckParameters)
+    InOpenType(r, [&] { DecodeForwardMultiplexAckParameters(m.forwardMultiplexAckParameters, r); });
   if (m.hasEncryptionSync) InOpenType(r, [&] { DecodeEncryptionSync(m.encryptionSync, r); });
   PerSkipOpenTypes(r, unknown);
 }

@@ -26,16 +26,23 @@ struct OpenLogicalChannel {
       static void Walk(Record& m, Visitor& v) {
         if (m.isExtension) {
           switch (m.choiceTag) {
-            case 0: return v.Record("h2250LogicalChannelParameters", m.h2250LogicalChannelParameters);
-            case 1: return v.Null("none");
-            default: return v.UnknownExtension(m.choiceTag);
+            case 0:
+              return v.Record("h2250LogicalChannelParameters", m.h2250LogicalChannelParameters);
+            case 1:
+              return v.Null("none");
+            default:
+              return v.UnknownExtension(m.choiceTag);
           }
         }
         switch (m.choiceTag) {
-          case 0: return v.Record("h222LogicalChannelParameters", m.h222LogicalChannelParameters);
-          case 1: return v.Record("h223LogicalChannelParameters", m.h223LogicalChannelParameters);
-          case 2: return v.Record("v76LogicalChannelParameters", m.v76LogicalChannelParameters);
-          default: return v.UnknownRoot(m.choiceTag);
+          case 0:
+            return v.Record("h222LogicalChannelParameters", m.h222LogicalChannelParameters);
+          case 1:
+            return v.Record("h223LogicalChannelParameters", m.h223LogicalChannelParameters);
+          case 2:
+            return v.Record("v76LogicalChannelParameters", m.v76LogicalChannelParameters);
+          default:
+            return v.UnknownRoot(m.choiceTag);
         }
       }
     };
@@ -55,7 +62,8 @@ struct OpenLogicalChannel {
       if (m.hasPortNumber) v.Number("portNumber", m.portNumber);
       v.Record("dataType", m.dataType);
       v.Record("multiplexParameters", m.multiplexParameters);
-      if (m.hasForwardLogicalChannelDependency) v.Number("forwardLogicalChannelDependency", m.forwardLogicalChannelDependency);
+      if (m.hasForwardLogicalChannelDependency)
+        v.Number("forwardLogicalChannelDependency", m.forwardLogicalChannelDependency);
       if (m.hasReplacementFor) v.Number("replacementFor", m.replacementFor);
     }
   };
@@ -74,14 +82,19 @@ struct OpenLogicalChannel {
       static void Walk(Record& m, Visitor& v) {
         if (m.isExtension) {
           switch (m.choiceTag) {
-            case 0: return v.Record("h2250LogicalChannelParameters", m.h2250LogicalChannelParameters);
-            default: return v.UnknownExtension(m.choiceTag);
+            case 0:
+              return v.Record("h2250LogicalChannelParameters", m.h2250LogicalChannelParameters);
+            default:
+              return v.UnknownExtension(m.choiceTag);
           }
         }
         switch (m.choiceTag) {
-          case 0: return v.Record("h223LogicalChannelParameters", m.h223LogicalChannelParameters);
-          case 1: return v.Record("v76LogicalChannelParameters", m.v76LogicalChannelParameters);
-          default: return v.UnknownRoot(m.choiceTag);
+          case 0:
+            return v.Record("h223LogicalChannelParameters", m.h223LogicalChannelParameters);
+          case 1:
+            return v.Record("v76LogicalChannelParameters", m.v76LogicalChannelParameters);
+          default:
+            return v.UnknownRoot(m.choiceTag);
         }
       }
     };
@@ -99,7 +112,8 @@ struct OpenLogicalChannel {
     static void Walk(Record& m, Visitor& v) {
       v.Record("dataType", m.dataType);
       if (m.hasMultiplexParameters) v.Record("multiplexParameters", m.multiplexParameters);
-      if (m.hasReverseLogicalChannelDependency) v.Number("reverseLogicalChannelDependency", m.reverseLogicalChannelDependency);
+      if (m.hasReverseLogicalChannelDependency)
+        v.Number("reverseLogicalChannelDependency", m.reverseLogicalChannelDependency);
       if (m.hasReplacementFor) v.Number("replacementFor", m.replacementFor);
     }
   };
@@ -118,7 +132,8 @@ struct OpenLogicalChannel {
   static void Walk(Record& m, Visitor& v) {
     v.Number("forwardLogicalChannelNumber", m.forwardLogicalChannelNumber);
     v.Record("forwardLogicalChannelParameters", m.forwardLogicalChannelParameters);
-    if (m.hasReverseLogicalChannelParameters) v.Record("reverseLogicalChannelParameters", m.reverseLogicalChannelParameters);
+    if (m.hasReverseLogicalChannelParameters)
+      v.Record("reverseLogicalChannelParameters", m.reverseLogicalChannelParameters);
     if (m.hasSeparateStack) v.Record("separateStack", m.separateStack);
     if (m.hasEncryptionSync) v.Record("encryptionSync", m.encryptionSync);
   }
@@ -138,13 +153,17 @@ struct OpenLogicalChannelAck {
       static void Walk(Record& m, Visitor& v) {
         if (m.isExtension) {
           switch (m.choiceTag) {
-            case 0: return v.Record("h2250LogicalChannelParameters", m.h2250LogicalChannelParameters);
-            default: return v.UnknownExtension(m.choiceTag);
+            case 0:
+              return v.Record("h2250LogicalChannelParameters", m.h2250LogicalChannelParameters);
+            default:
+              return v.UnknownExtension(m.choiceTag);
           }
         }
         switch (m.choiceTag) {
-          case 0: return v.Record("h222LogicalChannelParameters", m.h222LogicalChannelParameters);
-          default: return v.UnknownRoot(m.choiceTag);
+          case 0:
+            return v.Record("h222LogicalChannelParameters", m.h222LogicalChannelParameters);
+          default:
+            return v.UnknownRoot(m.choiceTag);
         }
       }
     };
@@ -178,8 +197,10 @@ struct OpenLogicalChannelAck {
     static void Walk(Record& m, Visitor& v) {
       if (m.isExtension) return v.UnknownExtension(m.choiceTag);
       switch (m.choiceTag) {
-        case 0: return v.Record("h2250LogicalChannelAckParameters", m.h2250LogicalChannelAckParameters);
-        default: return v.UnknownRoot(m.choiceTag);
+        case 0:
+          return v.Record("h2250LogicalChannelAckParameters", m.h2250LogicalChannelAckParameters);
+        default:
+          return v.UnknownRoot(m.choiceTag);
       }
     }
   };
@@ -198,7 +219,8 @@ struct OpenLogicalChannelAck {
   template <class Record, class Visitor>
   static void Walk(Record& m, Visitor& v) {
     v.Number("forwardLogicalChannelNumber", m.forwardLogicalChannelNumber);
-    if (m.hasReverseLogicalChannelParameters) v.Record("reverseLogicalChannelParameters", m.reverseLogicalChannelParameters);
+    if (m.hasReverseLogicalChannelParameters)
+      v.Record("reverseLogicalChannelParameters", m.reverseLogicalChannelParameters);
     if (m.hasSeparateStack) v.Record("separateStack", m.separateStack);
     if (m.hasForwardMultiplexAckParameters) v.Record("forwardMultiplexAckParameters", m.forwardMultiplexAckParameters);
     if (m.hasEncryptionSync) v.Record("encryptionSync", m.encryptionSync);

@@ -1,7 +1,6 @@
-#include "h245/transport_address_decode.h"
-
 #include "h245/decode.h"
 #include "h245/non_standard_decode.h"
+#include "h245/transport_address_decode.h"
 
 namespace kelvra::h245 {
 namespace {
@@ -62,18 +61,28 @@ void DecodeUnicastAddress(UnicastAddress& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 5);
   if (m.isExtension) {
     switch (index) {
-      case 0: return InOpenType(r, [&] { PerReadSizedOctets(m.nsap, r, 20, 1); });
-      case 1: return InOpenType(r, [&] { DecodeNonStandardParameter(m.nonStandardAddress, r); });
-      default: return PerSkipOpenTypes(r, 1);
+      case 0:
+        return InOpenType(r, [&] { PerReadSizedOctets(m.nsap, r, 20, 1); });
+      case 1:
+        return InOpenType(r, [&] { DecodeNonStandardParameter(m.nonStandardAddress, r); });
+      default:
+        return PerSkipOpenTypes(r, 1);
     }
   }
   switch (index) {
-    case 0: return DecodeIPAddress(m.iPAddress, r);
-    case 1: return DecodeIPXAddress(m.iPXAddress, r);
-    case 2: return DecodeIP6Address(m.iP6Address, r);
-    case 3: m.netBios.data = PerReadOctets(r, 16); return;
-    case 4: return DecodeIPSourceRouteAddress(m.iPSourceRouteAddress, r);
-    default: return;
+    case 0:
+      return DecodeIPAddress(m.iPAddress, r);
+    case 1:
+      return DecodeIPXAddress(m.iPXAddress, r);
+    case 2:
+      return DecodeIP6Address(m.iP6Address, r);
+    case 3:
+      m.netBios.data = PerReadOctets(r, 16);
+      return;
+    case 4:
+      return DecodeIPSourceRouteAddress(m.iPSourceRouteAddress, r);
+    default:
+      return;
   }
 }
 
@@ -81,15 +90,21 @@ void DecodeMulticastAddress(MulticastAddress& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 2);
   if (m.isExtension) {
     switch (index) {
-      case 0: return InOpenType(r, [&] { PerReadSizedOctets(m.nsap, r, 20, 1); });
-      case 1: return InOpenType(r, [&] { DecodeNonStandardParameter(m.nonStandardAddress, r); });
-      default: return PerSkipOpenTypes(r, 1);
+      case 0:
+        return InOpenType(r, [&] { PerReadSizedOctets(m.nsap, r, 20, 1); });
+      case 1:
+        return InOpenType(r, [&] { DecodeNonStandardParameter(m.nonStandardAddress, r); });
+      default:
+        return PerSkipOpenTypes(r, 1);
     }
   }
   switch (index) {
-    case 0: return DecodeIPAddress(m.iPAddress, r);
-    case 1: return DecodeIP6Address(m.iP6Address, r);
-    default: return;
+    case 0:
+      return DecodeIPAddress(m.iPAddress, r);
+    case 1:
+      return DecodeIP6Address(m.iP6Address, r);
+    default:
+      return;
   }
 }
 

@@ -1,8 +1,7 @@
-#include "h245/video_capability_decode.h"
-
 #include "h245/decode.h"
 #include "h245/generic_capability_decode.h"
 #include "h245/non_standard_decode.h"
+#include "h245/video_capability_decode.h"
 
 namespace kelvra::h245 {
 namespace {
@@ -24,7 +23,8 @@ void DecodeAdditionalPictureMemory(RefPictureSelection::AdditionalPictureMemory&
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
-void DecodeSubPictureRemovalParameters(RefPictureSelection::EnhancedReferencePicSelect::SubPictureRemovalParameters& m, PerReader& r) {
+void DecodeSubPictureRemovalParameters(RefPictureSelection::EnhancedReferencePicSelect::SubPictureRemovalParameters& m,
+                                       PerReader& r) {
   m.isExtended = PerReadBit(r);
   m.mpuHorizMBs = PerReadNumber<uint8_t>(r, 1, 128);
   m.mpuVertMBs = PerReadNumber<uint8_t>(r, 1, 72);
@@ -54,7 +54,9 @@ void DecodeMPI(CustomPictureFormat::MPI& m, PerReader& r) {
   if (m.hasStandardMPI) m.standardMPI = PerReadNumber<uint8_t>(r, 1, 31);
   if (m.hasCustomPCF) {
     m.customPCFCount = PerReadNumber<uint8_t>(r, 1, 16);
-    if (!DecodeList(r, Slot<CustomPictureFormat::MPI::CustomPCFElement>(&m.customPCF), m.customPCFCount, DecodeCustomPCFElement)) return;
+    if (!DecodeList(r, Slot<CustomPictureFormat::MPI::CustomPCFElement>(&m.customPCF), m.customPCFCount,
+                    DecodeCustomPCFElement))
+      return;
   }
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
@@ -70,16 +72,23 @@ void DecodePixelAspectInformation(CustomPictureFormat::PixelAspectInformation& m
   const uint32_t index = ReadChoice(m, r, 3);
   if (m.isExtension) return PerSkipOpenTypes(r, 1);
   switch (index) {
-    case 0: m.anyPixelAspectRatio = PerReadBit(r); return;
+    case 0:
+      m.anyPixelAspectRatio = PerReadBit(r);
+      return;
     case 1:
       m.pixelAspectCode.count = PerReadNumber<uint8_t>(r, 1, 14);
-      if (!DecodeList(r, Slot<uint8_t>(&m.pixelAspectCode.elements), m.pixelAspectCode.count, [](uint8_t& value, PerReader& reader) { value = PerReadNumber<uint8_t>(reader, 1, 14); })) return;
+      if (!DecodeList(r, Slot<uint8_t>(&m.pixelAspectCode.elements), m.pixelAspectCode.count,
+                      [](uint8_t& value, PerReader& reader) { value = PerReadNumber<uint8_t>(reader, 1, 14); }))
+        return;
       return;
     case 2:
       m.extendedPAR.count = PerReadNumber<uint16_t>(r, 1, 256);
-      if (!DecodeList(r, Slot<CustomPictureFormat::PixelAspectInformation::ExtendedPARElement>(&m.extendedPAR.elements), m.extendedPAR.count, DecodeExtendedPARElement)) return;
+      if (!DecodeList(r, Slot<CustomPictureFormat::PixelAspectInformation::ExtendedPARElement>(&m.extendedPAR.elements),
+                      m.extendedPAR.count, DecodeExtendedPARElement))
+        return;
       return;
-    default: return;
+    default:
+      return;
   }
 }
 
@@ -182,7 +191,8 @@ void DecodeRefPictureSelection(RefPictureSelection& m, PerReader& r) {
   const uint8_t additions = PerReadBitmapLength8(r);
   m.hasEnhancedReferencePicSelect = PerReadAdditionBit(r, additions, 0);
   const int32_t unknown = PerCountUnknownAdditions(r, additions, 1);
-  if (m.hasEnhancedReferencePicSelect) InOpenType(r, [&] { DecodeEnhancedReferencePicSelect(m.enhancedReferencePicSelect, r); });
+  if (m.hasEnhancedReferencePicSelect)
+    InOpenType(r, [&] { DecodeEnhancedReferencePicSelect(m.enhancedReferencePicSelect, r); });
   PerSkipOpenTypes(r, unknown);
 }
 
@@ -265,7 +275,9 @@ void DecodeH263VideoModeCombos(H263VideoModeCombos& m, PerReader& r) {
   m.isExtended = PerReadBit(r);
   DecodeH263ModeComboFlags(m.h263VideoUncoupledModes, r);
   m.h263VideoCoupledModesCount = PerReadNumber<uint8_t>(r, 1, 16);
-  if (!DecodeList(r, Slot<H263ModeComboFlags>(&m.h263VideoCoupledModes), m.h263VideoCoupledModesCount, DecodeH263ModeComboFlags)) return;
+  if (!DecodeList(r, Slot<H263ModeComboFlags>(&m.h263VideoCoupledModes), m.h263VideoCoupledModesCount,
+                  DecodeH263ModeComboFlags))
+    return;
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
@@ -304,11 +316,15 @@ void DecodeH263Options(H263Options& m, PerReader& r) {
   if (m.hasRefPictureSelection) DecodeRefPictureSelection(m.refPictureSelection, r);
   if (m.hasCustomPictureClockFrequency) {
     m.customPictureClockFrequencyCount = PerReadNumber<uint8_t>(r, 1, 16);
-    if (!DecodeList(r, Slot<CustomPictureClockFrequency>(&m.customPictureClockFrequency), m.customPictureClockFrequencyCount, DecodeCustomPictureClockFrequency)) return;
+    if (!DecodeList(r, Slot<CustomPictureClockFrequency>(&m.customPictureClockFrequency),
+                    m.customPictureClockFrequencyCount, DecodeCustomPictureClockFrequency))
+      return;
   }
   if (m.hasCustomPictureFormat) {
     m.customPictureFormatCount = PerReadNumber<uint8_t>(r, 1, 16);
-    if (!DecodeList(r, Slot<CustomPictureFormat>(&m.customPictureFormat), m.customPictureFormatCount, DecodeCustomPictureFormat)) return;
+    if (!DecodeList(r, Slot<CustomPictureFormat>(&m.customPictureFormat), m.customPictureFormatCount,
+                    DecodeCustomPictureFormat))
+      return;
   }
   if (m.hasModeCombos) {
     m.modeCombosCount = PerReadNumber<uint8_t>(r, 1, 16);
@@ -372,15 +388,20 @@ void DecodeEnhancementLayerInfo(EnhancementLayerInfo& m, PerReader& r) {
   m.baseBitRateConstrained = PerReadBit(r);
   if (m.hasSnrEnhancement) {
     m.snrEnhancementCount = PerReadNumber<uint8_t>(r, 1, 14);
-    if (!DecodeList(r, Slot<EnhancementOptions>(&m.snrEnhancement), m.snrEnhancementCount, DecodeEnhancementOptions)) return;
+    if (!DecodeList(r, Slot<EnhancementOptions>(&m.snrEnhancement), m.snrEnhancementCount, DecodeEnhancementOptions))
+      return;
   }
   if (m.hasSpatialEnhancement) {
     m.spatialEnhancementCount = PerReadNumber<uint8_t>(r, 1, 14);
-    if (!DecodeList(r, Slot<EnhancementOptions>(&m.spatialEnhancement), m.spatialEnhancementCount, DecodeEnhancementOptions)) return;
+    if (!DecodeList(r, Slot<EnhancementOptions>(&m.spatialEnhancement), m.spatialEnhancementCount,
+                    DecodeEnhancementOptions))
+      return;
   }
   if (m.hasBPictureEnhancement) {
     m.bPictureEnhancementCount = PerReadNumber<uint8_t>(r, 1, 14);
-    if (!DecodeList(r, Slot<BEnhancementParameters>(&m.bPictureEnhancement), m.bPictureEnhancementCount, DecodeBEnhancementParameters)) return;
+    if (!DecodeList(r, Slot<BEnhancementParameters>(&m.bPictureEnhancement), m.bPictureEnhancementCount,
+                    DecodeBEnhancementParameters))
+      return;
   }
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
@@ -433,8 +454,12 @@ void DecodeH263VideoCapability(H263VideoCapability& m, PerReader& r) {
 void DecodeExtendedVideoCapability(ExtendedVideoCapability& m, PerReader& r) {
   m.isExtended = PerReadBit(r);
   m.hasVideoCapabilityExtension = PerReadBit(r);
-  if (!DecodeSequenceOf(r, &m.videoCapabilityCount, Slot<VideoCapability>(&m.videoCapability), DecodeVideoCapability)) return;
-  if (m.hasVideoCapabilityExtension) if (!DecodeSequenceOf(r, &m.videoCapabilityExtensionCount, Slot<GenericCapability>(&m.videoCapabilityExtension), DecodeGenericCapability)) return;
+  if (!DecodeSequenceOf(r, &m.videoCapabilityCount, Slot<VideoCapability>(&m.videoCapability), DecodeVideoCapability))
+    return;
+  if (m.hasVideoCapabilityExtension)
+    if (!DecodeSequenceOf(r, &m.videoCapabilityExtensionCount, Slot<GenericCapability>(&m.videoCapabilityExtension),
+                          DecodeGenericCapability))
+      return;
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
@@ -444,18 +469,29 @@ void DecodeVideoCapability(VideoCapability& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 5);
   if (m.isExtension) {
     switch (index) {
-      case 0: return InOpenType(r, [&] { DecodeGenericCapability(m.genericVideoCapability, r); });
-      case 1: return InOpenType(r, [&] { DecodePointer(r, Slot<ExtendedVideoCapability>(&m.extendedVideoCapability), DecodeExtendedVideoCapability); });
-      default: return PerSkipOpenTypes(r, 1);
+      case 0:
+        return InOpenType(r, [&] { DecodeGenericCapability(m.genericVideoCapability, r); });
+      case 1:
+        return InOpenType(r, [&] {
+          DecodePointer(r, Slot<ExtendedVideoCapability>(&m.extendedVideoCapability), DecodeExtendedVideoCapability);
+        });
+      default:
+        return PerSkipOpenTypes(r, 1);
     }
   }
   switch (index) {
-    case 0: return DecodeNonStandardParameter(m.nonStandard, r);
-    case 1: return DecodeH261VideoCapability(m.h261VideoCapability, r);
-    case 2: return DecodeH262VideoCapability(m.h262VideoCapability, r);
-    case 3: return DecodeH263VideoCapability(m.h263VideoCapability, r);
-    case 4: return DecodeIS11172VideoCapability(m.is11172VideoCapability, r);
-    default: return;
+    case 0:
+      return DecodeNonStandardParameter(m.nonStandard, r);
+    case 1:
+      return DecodeH261VideoCapability(m.h261VideoCapability, r);
+    case 2:
+      return DecodeH262VideoCapability(m.h262VideoCapability, r);
+    case 3:
+      return DecodeH263VideoCapability(m.h263VideoCapability, r);
+    case 4:
+      return DecodeIS11172VideoCapability(m.is11172VideoCapability, r);
+    default:
+      return;
   }
 }
 

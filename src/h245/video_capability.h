@@ -157,13 +157,15 @@ struct RefPictureSelection {
       if (m.hasCifAdditionalPictureMemory) v.Number("cifAdditionalPictureMemory", m.cifAdditionalPictureMemory);
       if (m.hasCif4AdditionalPictureMemory) v.Number("cif4AdditionalPictureMemory", m.cif4AdditionalPictureMemory);
       if (m.hasCif16AdditionalPictureMemory) v.Number("cif16AdditionalPictureMemory", m.cif16AdditionalPictureMemory);
-      if (m.hasBigCpfAdditionalPictureMemory) v.Number("bigCpfAdditionalPictureMemory", m.bigCpfAdditionalPictureMemory);
+      if (m.hasBigCpfAdditionalPictureMemory)
+        v.Number("bigCpfAdditionalPictureMemory", m.bigCpfAdditionalPictureMemory);
     }
   };
 
   struct VideoBackChannelSendNames {
     static constexpr uint32_t kRoots = 5;
-    static constexpr const char* kAlternatives[] = {"none", "ackMessageOnly", "nackMessageOnly", "ackOrNackMessageOnly", "ackAndNackMessage"};
+    static constexpr const char* kAlternatives[] = {"none", "ackMessageOnly", "nackMessageOnly", "ackOrNackMessageOnly",
+                                                    "ackAndNackMessage"};
   };
   using VideoBackChannelSend = NullChoice<VideoBackChannelSendNames>;
 
@@ -300,10 +302,14 @@ struct CustomPictureFormat {
     static void Walk(Record& m, Visitor& v) {
       if (m.isExtension) return v.UnknownExtension(m.choiceTag);
       switch (m.choiceTag) {
-        case 0: return v.Boolean("anyPixelAspectRatio", m.anyPixelAspectRatio);
-        case 1: return v.Numbers("pixelAspectCode", Slot<uint8_t>(&m.pixelAspectCode.elements), m.pixelAspectCode.count);
-        case 2: return v.List("extendedPAR", Slot<ExtendedPARElement>(&m.extendedPAR.elements), m.extendedPAR.count);
-        default: return v.UnknownRoot(m.choiceTag);
+        case 0:
+          return v.Boolean("anyPixelAspectRatio", m.anyPixelAspectRatio);
+        case 1:
+          return v.Numbers("pixelAspectCode", Slot<uint8_t>(&m.pixelAspectCode.elements), m.pixelAspectCode.count);
+        case 2:
+          return v.List("extendedPAR", Slot<ExtendedPARElement>(&m.extendedPAR.elements), m.extendedPAR.count);
+        default:
+          return v.UnknownRoot(m.choiceTag);
       }
     }
   };
@@ -492,8 +498,11 @@ struct H263Options {
     if (m.hasTransparencyParameters) v.Record("transparencyParameters", m.transparencyParameters);
     v.Boolean("separateVideoBackChannel", m.separateVideoBackChannel);
     if (m.hasRefPictureSelection) v.Record("refPictureSelection", m.refPictureSelection);
-    if (m.hasCustomPictureClockFrequency) v.List("customPictureClockFrequency", Slot<CustomPictureClockFrequency>(&m.customPictureClockFrequency), m.customPictureClockFrequencyCount);
-    if (m.hasCustomPictureFormat) v.List("customPictureFormat", Slot<CustomPictureFormat>(&m.customPictureFormat), m.customPictureFormatCount);
+    if (m.hasCustomPictureClockFrequency)
+      v.List("customPictureClockFrequency", Slot<CustomPictureClockFrequency>(&m.customPictureClockFrequency),
+             m.customPictureClockFrequencyCount);
+    if (m.hasCustomPictureFormat)
+      v.List("customPictureFormat", Slot<CustomPictureFormat>(&m.customPictureFormat), m.customPictureFormatCount);
     if (m.hasModeCombos) v.List("modeCombos", Slot<H263VideoModeCombos>(&m.modeCombos), m.modeCombosCount);
     if (m.hasVideoBadMBsCap) v.Boolean("videoBadMBsCap", m.videoBadMBsCap);
     if (m.hasH263Version3Options) v.Record("h263Version3Options", m.h263Version3Options);
@@ -579,9 +588,12 @@ struct EnhancementLayerInfo {
   template <class Record, class Visitor>
   static void Walk(Record& m, Visitor& v) {
     v.Boolean("baseBitRateConstrained", m.baseBitRateConstrained);
-    if (m.hasSnrEnhancement) v.List("snrEnhancement", Slot<EnhancementOptions>(&m.snrEnhancement), m.snrEnhancementCount);
-    if (m.hasSpatialEnhancement) v.List("spatialEnhancement", Slot<EnhancementOptions>(&m.spatialEnhancement), m.spatialEnhancementCount);
-    if (m.hasBPictureEnhancement) v.List("bPictureEnhancement", Slot<BEnhancementParameters>(&m.bPictureEnhancement), m.bPictureEnhancementCount);
+    if (m.hasSnrEnhancement)
+      v.List("snrEnhancement", Slot<EnhancementOptions>(&m.snrEnhancement), m.snrEnhancementCount);
+    if (m.hasSpatialEnhancement)
+      v.List("spatialEnhancement", Slot<EnhancementOptions>(&m.spatialEnhancement), m.spatialEnhancementCount);
+    if (m.hasBPictureEnhancement)
+      v.List("bPictureEnhancement", Slot<BEnhancementParameters>(&m.bPictureEnhancement), m.bPictureEnhancementCount);
   }
 };
 
@@ -661,7 +673,9 @@ struct ExtendedVideoCapability {
   template <class Record, class Visitor>
   static void Walk(Record& m, Visitor& v) {
     v.List("videoCapability", Slot<VideoCapability>(&m.videoCapability), m.videoCapabilityCount);
-    if (m.hasVideoCapabilityExtension) v.List("videoCapabilityExtension", Slot<GenericCapability>(&m.videoCapabilityExtension), m.videoCapabilityExtensionCount);
+    if (m.hasVideoCapabilityExtension)
+      v.List("videoCapabilityExtension", Slot<GenericCapability>(&m.videoCapabilityExtension),
+             m.videoCapabilityExtensionCount);
   }
 };
 
@@ -682,18 +696,27 @@ struct VideoCapability {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) {
       switch (m.choiceTag) {
-        case 0: return v.Record("genericVideoCapability", m.genericVideoCapability);
-        case 1: return v.Pointer("extendedVideoCapability", Slot<ExtendedVideoCapability>(&m.extendedVideoCapability));
-        default: return v.UnknownExtension(m.choiceTag);
+        case 0:
+          return v.Record("genericVideoCapability", m.genericVideoCapability);
+        case 1:
+          return v.Pointer("extendedVideoCapability", Slot<ExtendedVideoCapability>(&m.extendedVideoCapability));
+        default:
+          return v.UnknownExtension(m.choiceTag);
       }
     }
     switch (m.choiceTag) {
-      case 0: return v.Record("nonStandard", m.nonStandard);
-      case 1: return v.Record("h261VideoCapability", m.h261VideoCapability);
-      case 2: return v.Record("h262VideoCapability", m.h262VideoCapability);
-      case 3: return v.Record("h263VideoCapability", m.h263VideoCapability);
-      case 4: return v.Record("is11172VideoCapability", m.is11172VideoCapability);
-      default: return v.UnknownRoot(m.choiceTag);
+      case 0:
+        return v.Record("nonStandard", m.nonStandard);
+      case 1:
+        return v.Record("h261VideoCapability", m.h261VideoCapability);
+      case 2:
+        return v.Record("h262VideoCapability", m.h262VideoCapability);
+      case 3:
+        return v.Record("h263VideoCapability", m.h263VideoCapability);
+      case 4:
+        return v.Record("is11172VideoCapability", m.is11172VideoCapability);
+      default:
+        return v.UnknownRoot(m.choiceTag);
     }
   }
 };

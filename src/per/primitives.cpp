@@ -10,7 +10,8 @@ enum RefusalLine : int32_t { kBlockRefused = 192, kFragmented = 275 };
 
 // Copies the next `count` octets of an aligned reader, those outside the caller's buffer as zero.
 void TakeOctets(PerReader& reader, uint8_t* octets, uint32_t count) {
-  const auto readable = reader.position >= reader.readable ? 0 : static_cast<uint32_t>(reader.readable - reader.position);
+  const auto readable =
+      reader.position >= reader.readable ? 0 : static_cast<uint32_t>(reader.readable - reader.position);
   CodecCopy(octets, reader.position, count < readable ? count : readable);
   PerSkipBits(reader, count * 8);
 }
