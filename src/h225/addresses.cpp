@@ -28,12 +28,11 @@ Status DecodeIpSourceRoute(TransportAddress& m, PerReader& r) {
   source.isExtended = PerReadBit(r);
   PerReadFixedOctets(source.ip, r, 4);
   source.port = PerReadNumber<uint16_t>(r, 0, 65535);
-  source.routeCount = PerReadCount8(r);
-  KELVRA_TRY(DecodeList(r, Slot<OctetStringValue>(&source.route), source.routeCount,
-                        [](OctetStringValue& value, PerReader& reader) -> Status {
-                          PerReadFixedOctets(value, reader, 4);
-                          return kDecoded;
-                        }));
+  KELVRA_TRY(DecodeSequenceOf(r, &source.routeCount, Slot<OctetStringValue>(&source.route),
+                              [](OctetStringValue& value, PerReader& reader) -> Status {
+                                PerReadFixedOctets(value, reader, 4);
+                                return kDecoded;
+                              }));
   source.routing.isExtension = PerReadBit(r);
   if (source.routing.isExtension) {
     m.choiceTag = static_cast<uint8_t>(PerReadNormallySmall(r));
@@ -70,14 +69,9 @@ Status DecodeSystemId(ANSI41UIM::SystemId& m, PerReader& r) {
     return SkipAlternative(r);
   }
   switch (index) {
-    case 0:
-      PerReadTBCD(m.sid, r, PerReadNumber<uint32_t>(r, 1, 4));
-      return kDecoded;
-    case 1:
-      PerReadTBCD(m.mid, r, PerReadNumber<uint32_t>(r, 1, 4));
-      return kDecoded;
-    default:
-      return kMalformed;
+    case 0: PerReadTBCD(m.sid, r, PerReadNumber<uint32_t>(r, 1, 4)); return kDecoded;
+    case 1: PerReadTBCD(m.mid, r, PerReadNumber<uint32_t>(r, 1, 4)); return kDecoded;
+    default: return kMalformed;
   }
 }
 
@@ -88,24 +82,14 @@ Status DecodeTransportAddress(TransportAddress& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 7);
   if (m.isExtension) return SkipAlternative(r);
   switch (index) {
-    case 0:
-      return DecodeIpAddress(m.ipAddress, r);
-    case 1:
-      return DecodeIpSourceRoute(m, r);
-    case 2:
-      return DecodeIpxAddress(m.ipxAddress, r);
-    case 3:
-      return DecodeIp6Address(m.ip6Address, r);
-    case 4:
-      PerReadFixedOctets(m.netBios, r, 16);
-      return kDecoded;
-    case 5:
-      PerReadSizedOctets(m.nsap, r, 20, 1);
-      return kDecoded;
-    case 6:
-      return DecodeNonStandardParameter(m.nonStandardAddress, r);
-    default:
-      return kMalformed;
+    case 0: return DecodeIpAddress(m.ipAddress, r);
+    case 1: return DecodeIpSourceRoute(m, r);
+    case 2: return DecodeIpxAddress(m.ipxAddress, r);
+    case 3: return DecodeIp6Address(m.ip6Address, r);
+    case 4: PerReadFixedOctets(m.netBios, r, 16); return kDecoded;
+    case 5: PerReadSizedOctets(m.nsap, r, 20, 1); return kDecoded;
+    case 6: return DecodeNonStandardParameter(m.nonStandardAddress, r);
+    default: return kMalformed;
   }
 }
 
@@ -131,21 +115,12 @@ Status DecodePartyNumber(PartyNumber& m, PerReader& r) {
     return SkipAlternative(r);
   }
   switch (index) {
-    case 0:
-      return DecodePublicPartyNumber(m.e164Number, r);
-    case 1:
-      PerReadDigits(m.dataPartyNumber, r, PerReadNumber<uint32_t>(r, 1, 128));
-      return kDecoded;
-    case 2:
-      PerReadDigits(m.telexPartyNumber, r, PerReadNumber<uint32_t>(r, 1, 128));
-      return kDecoded;
-    case 3:
-      return DecodePrivatePartyNumber(m.privateNumber, r);
-    case 4:
-      PerReadDigits(m.nationalStandardPartyNumber, r, PerReadNumber<uint32_t>(r, 1, 128));
-      return kDecoded;
-    default:
-      return kMalformed;
+    case 0: return DecodePublicPartyNumber(m.e164Number, r);
+    case 1: PerReadDigits(m.dataPartyNumber, r, PerReadNumber<uint32_t>(r, 1, 128)); return kDecoded;
+    case 2: PerReadDigits(m.telexPartyNumber, r, PerReadNumber<uint32_t>(r, 1, 128)); return kDecoded;
+    case 3: return DecodePrivatePartyNumber(m.privateNumber, r);
+    case 4: PerReadDigits(m.nationalStandardPartyNumber, r, PerReadNumber<uint32_t>(r, 1, 128)); return kDecoded;
+    default: return kMalformed;
   }
 }
 
@@ -206,12 +181,9 @@ Status DecodeMobileUIM(MobileUIM& m, PerReader& r) {
     return SkipAlternative(r);
   }
   switch (index) {
-    case 0:
-      return DecodeANSI41UIM(m.ansi41Uim, r);
-    case 1:
-      return DecodeGSMUIM(m.gsmUim, r);
-    default:
-      return kMalformed;
+    case 0: return DecodeANSI41UIM(m.ansi41Uim, r);
+    case 1: return DecodeGSMUIM(m.gsmUim, r);
+    default: return kMalformed;
   }
 }
 
@@ -220,29 +192,18 @@ Status DecodeAliasAddress(AliasAddress& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 2);
   if (m.isExtension) {
     switch (index) {
-      case 0:
-        return InOpenType(r, [&] { return DecodeInternetName(m.urlID, r); });
-      case 1:
-        return InOpenType(r, [&] { return DecodeTransportAddress(m.transportID, r); });
-      case 2:
-        return InOpenType(r, [&] { return DecodeInternetName(m.emailID, r); });
-      case 3:
-        return InOpenType(r, [&] { return DecodePartyNumber(m.partyNumber, r); });
-      case 4:
-        return InOpenType(r, [&] { return DecodeMobileUIM(m.mobileUIM, r); });
-      default:
-        return SkipAlternative(r);
+      case 0: return InOpenType(r, [&] { return DecodeInternetName(m.urlID, r); });
+      case 1: return InOpenType(r, [&] { return DecodeTransportAddress(m.transportID, r); });
+      case 2: return InOpenType(r, [&] { return DecodeInternetName(m.emailID, r); });
+      case 3: return InOpenType(r, [&] { return DecodePartyNumber(m.partyNumber, r); });
+      case 4: return InOpenType(r, [&] { return DecodeMobileUIM(m.mobileUIM, r); });
+      default: return SkipAlternative(r);
     }
   }
   switch (index) {
-    case 0:
-      PerReadDigits(m.dialedDigits, r, PerReadNumber<uint32_t>(r, 1, 128));
-      return kDecoded;
-    case 1:
-      PerReadCharacters16(m.h323ID, r, PerReadNumber<uint32_t>(r, 1, 256));
-      return kDecoded;
-    default:
-      return kMalformed;
+    case 0: PerReadDigits(m.dialedDigits, r, PerReadNumber<uint32_t>(r, 1, 128)); return kDecoded;
+    case 1: PerReadCharacters16(m.h323ID, r, PerReadNumber<uint32_t>(r, 1, 256)); return kDecoded;
+    default: return kMalformed;
   }
 }
 

@@ -85,23 +85,22 @@ struct TransportAddress {
   template <class Record, class Visitor>
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) return v.UnknownExtension(m.choiceTag);
+    // A route whose `routing` is an extension alternative has lost the tag to it. No other alternative
+    // leaves these values in their places.
+    const auto& route = m.ipSourceRoute;
+    if (route.ip.length == 4 && route.routing.choiceTag == 0 && route.routing.empty == 0 &&
+        route.routing.isExtension == 1) {
+      return v.Record("ipSourceRoute", m.ipSourceRoute);
+    }
     switch (m.choiceTag) {
-      case 0:
-        return v.Record("ipAddress", m.ipAddress);
-      case 1:
-        return v.Record("ipSourceRoute", m.ipSourceRoute);
-      case 2:
-        return v.Record("ipxAddress", m.ipxAddress);
-      case 3:
-        return v.Record("ip6Address", m.ip6Address);
-      case 4:
-        return WalkOctets(v, "netBios", m.netBios);
-      case 5:
-        return WalkOctets(v, "nsap", m.nsap);
-      case 6:
-        return v.Record("nonStandardAddress", m.nonStandardAddress);
-      default:
-        return v.UnknownRoot(m.choiceTag);
+      case 0: return v.Record("ipAddress", m.ipAddress);
+      case 1: return v.Record("ipSourceRoute", m.ipSourceRoute);
+      case 2: return v.Record("ipxAddress", m.ipxAddress);
+      case 3: return v.Record("ip6Address", m.ip6Address);
+      case 4: return WalkOctets(v, "netBios", m.netBios);
+      case 5: return WalkOctets(v, "nsap", m.nsap);
+      case 6: return v.Record("nonStandardAddress", m.nonStandardAddress);
+      default: return v.UnknownRoot(m.choiceTag);
     }
   }
 };
@@ -159,18 +158,13 @@ struct PartyNumber {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) return v.UnknownExtension(m.choiceTag);
     switch (m.choiceTag) {
-      case 0:
-        return v.Record("e164Number", m.e164Number);
-      case 1:
-        return WalkOctets(v, "dataPartyNumber", m.dataPartyNumber, OctetNotation::kDigits);
-      case 2:
-        return WalkOctets(v, "telexPartyNumber", m.telexPartyNumber, OctetNotation::kDigits);
-      case 3:
-        return v.Record("privateNumber", m.privateNumber);
+      case 0: return v.Record("e164Number", m.e164Number);
+      case 1: return WalkOctets(v, "dataPartyNumber", m.dataPartyNumber, OctetNotation::kDigits);
+      case 2: return WalkOctets(v, "telexPartyNumber", m.telexPartyNumber, OctetNotation::kDigits);
+      case 3: return v.Record("privateNumber", m.privateNumber);
       case 4:
         return WalkOctets(v, "nationalStandardPartyNumber", m.nationalStandardPartyNumber, OctetNotation::kDigits);
-      default:
-        return v.UnknownRoot(m.choiceTag);
+      default: return v.UnknownRoot(m.choiceTag);
     }
   }
 };
@@ -188,12 +182,9 @@ struct ANSI41UIM {
     static void Walk(Record& m, Visitor& v) {
       if (m.isExtension) return v.UnknownExtension(m.choiceTag);
       switch (m.choiceTag) {
-        case 0:
-          return WalkOctets(v, "sid", m.sid, OctetNotation::kCharacters);
-        case 1:
-          return WalkOctets(v, "mid", m.mid, OctetNotation::kCharacters);
-        default:
-          return v.UnknownRoot(m.choiceTag);
+        case 0: return WalkOctets(v, "sid", m.sid, OctetNotation::kCharacters);
+        case 1: return WalkOctets(v, "mid", m.mid, OctetNotation::kCharacters);
+        default: return v.UnknownRoot(m.choiceTag);
       }
     }
   };
@@ -279,12 +270,9 @@ struct MobileUIM {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) return v.UnknownExtension(m.choiceTag);
     switch (m.choiceTag) {
-      case 0:
-        return v.Record("ansi-41-uim", m.ansi41Uim);
-      case 1:
-        return v.Record("gsm-uim", m.gsmUim);
-      default:
-        return v.UnknownRoot(m.choiceTag);
+      case 0: return v.Record("ansi-41-uim", m.ansi41Uim);
+      case 1: return v.Record("gsm-uim", m.gsmUim);
+      default: return v.UnknownRoot(m.choiceTag);
     }
   }
 };
@@ -306,27 +294,18 @@ struct AliasAddress {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) {
       switch (m.choiceTag) {
-        case 0:
-          return WalkOctets(v, "url-ID", m.urlID, OctetNotation::kCharacters);
-        case 1:
-          return v.Record("transportID", m.transportID);
-        case 2:
-          return WalkOctets(v, "email-ID", m.emailID, OctetNotation::kCharacters);
-        case 3:
-          return v.Record("partyNumber", m.partyNumber);
-        case 4:
-          return v.Record("mobileUIM", m.mobileUIM);
-        default:
-          return v.UnknownExtension(m.choiceTag);
+        case 0: return WalkOctets(v, "url-ID", m.urlID, OctetNotation::kCharacters);
+        case 1: return v.Record("transportID", m.transportID);
+        case 2: return WalkOctets(v, "email-ID", m.emailID, OctetNotation::kCharacters);
+        case 3: return v.Record("partyNumber", m.partyNumber);
+        case 4: return v.Record("mobileUIM", m.mobileUIM);
+        default: return v.UnknownExtension(m.choiceTag);
       }
     }
     switch (m.choiceTag) {
-      case 0:
-        return WalkOctets(v, "dialedDigits", m.dialedDigits, OctetNotation::kDigits);
-      case 1:
-        return v.Characters16("h323-ID", m.h323ID);
-      default:
-        return v.UnknownRoot(m.choiceTag);
+      case 0: return WalkOctets(v, "dialedDigits", m.dialedDigits, OctetNotation::kDigits);
+      case 1: return v.Characters16("h323-ID", m.h323ID);
+      default: return v.UnknownRoot(m.choiceTag);
     }
   }
 };

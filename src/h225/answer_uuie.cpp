@@ -44,16 +44,8 @@ Status DecodeCallProceedingUUIE(CallProceedingUUIE& m, PerReader& r) {
       return DecodeSequenceOf(r, &m.cryptoTokensCount, Slot<CryptoH323Token>(&m.cryptoTokens), DecodeCryptoH323Token);
     }));
   if (m.hasFastStart) KELVRA_TRY(InOpenType(r, [&] { return DecodeFastStart(r, &m.fastStartCount, &m.fastStart); }));
-  if (m.hasMultipleCalls)
-    KELVRA_TRY(InOpenType(r, [&] {
-      m.multipleCalls = PerReadBit(r);
-      return kDecoded;
-    }));
-  if (m.hasMaintainConnection)
-    KELVRA_TRY(InOpenType(r, [&] {
-      m.maintainConnection = PerReadBit(r);
-      return kDecoded;
-    }));
+  if (m.hasMultipleCalls) m.multipleCalls = PerReadOpenBoolean(r);
+  if (m.hasMaintainConnection) m.maintainConnection = PerReadOpenBoolean(r);
   if (m.hasFastConnectRefused) PerSkipOpenTypes(r, 1);
   if (m.hasFeatureSet) KELVRA_TRY(InOpenType(r, [&] { return DecodeFeatureSet(m.featureSet, r); }));
   PerSkipOpenTypes(r, r.extensionPresentCount);
@@ -86,16 +78,8 @@ Status DecodeProgressUUIE(ProgressUUIE& m, PerReader& r) {
   m.hasMaintainConnection = PerReadAdditionBit(r, additions, 1);
   m.hasFastConnectRefused = PerReadAdditionBit(r, additions, 2);
   r.extensionPresentCount = PerCountUnknownAdditions(r, additions, 3);
-  if (m.hasMultipleCalls)
-    KELVRA_TRY(InOpenType(r, [&] {
-      m.multipleCalls = PerReadBit(r);
-      return kDecoded;
-    }));
-  if (m.hasMaintainConnection)
-    KELVRA_TRY(InOpenType(r, [&] {
-      m.maintainConnection = PerReadBit(r);
-      return kDecoded;
-    }));
+  if (m.hasMultipleCalls) m.multipleCalls = PerReadOpenBoolean(r);
+  if (m.hasMaintainConnection) m.maintainConnection = PerReadOpenBoolean(r);
   if (m.hasFastConnectRefused) PerSkipOpenTypes(r, 1);
   PerSkipOpenTypes(r, r.extensionPresentCount);
   return kDecoded;
@@ -137,16 +121,8 @@ Status DecodeAlertingUUIE(AlertingUUIE& m, PerReader& r) {
       return DecodeSequenceOf(r, &m.cryptoTokensCount, Slot<CryptoH323Token>(&m.cryptoTokens), DecodeCryptoH323Token);
     }));
   if (m.hasFastStart) KELVRA_TRY(InOpenType(r, [&] { return DecodeFastStart(r, &m.fastStartCount, &m.fastStart); }));
-  if (m.hasMultipleCalls)
-    KELVRA_TRY(InOpenType(r, [&] {
-      m.multipleCalls = PerReadBit(r);
-      return kDecoded;
-    }));
-  if (m.hasMaintainConnection)
-    KELVRA_TRY(InOpenType(r, [&] {
-      m.maintainConnection = PerReadBit(r);
-      return kDecoded;
-    }));
+  if (m.hasMultipleCalls) m.multipleCalls = PerReadOpenBoolean(r);
+  if (m.hasMaintainConnection) m.maintainConnection = PerReadOpenBoolean(r);
   if (m.hasAlertingAddress)
     KELVRA_TRY(InOpenType(r, [&] {
       return DecodeSequenceOf(r, &m.alertingAddressCount, Slot<AliasAddress>(&m.alertingAddress), DecodeAliasAddress);
@@ -205,16 +181,10 @@ Status DecodeConnectUUIE(ConnectUUIE& m, PerReader& r) {
       return DecodeSequenceOf(r, &m.cryptoTokensCount, Slot<CryptoH323Token>(&m.cryptoTokens), DecodeCryptoH323Token);
     }));
   if (m.hasFastStart) KELVRA_TRY(InOpenType(r, [&] { return DecodeFastStart(r, &m.fastStartCount, &m.fastStart); }));
-  if (m.hasMultipleCalls)
-    KELVRA_TRY(InOpenType(r, [&] {
-      m.multipleCalls = PerReadBit(r);
-      return kDecoded;
-    }));
-  if (m.hasMultipleCalls)
-    KELVRA_TRY(InOpenType(r, [&] {
-      m.maintainConnection = PerReadBit(r);
-      return kDecoded;
-    }));
+  if (m.hasMultipleCalls) m.multipleCalls = PerReadOpenBoolean(r);
+  // Gated by the bit of multipleCalls, not by its own: where the two differ, this addition and those
+  // behind it are read from the open type of a neighbour.
+  if (m.hasMultipleCalls) m.maintainConnection = PerReadOpenBoolean(r);
   if (m.hasLanguage)
     KELVRA_TRY(InOpenType(r, [&] {
       return DecodeSequenceOf(r, &m.languageCount, Slot<OctetStringValue>(&m.language),

@@ -30,13 +30,9 @@ Status DecodeEncryptIntAlg(EncryptIntAlg& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 2);
   if (m.isExtension) return SkipAlternative(r);
   switch (index) {
-    case 0:
-      return DecodeNonStandardParameter(m.nonStandard, r);
-    case 1:
-      PerReadObjectIdentifier(m.isoAlgorithm, r);
-      return kDecoded;
-    default:
-      return kMalformed;
+    case 0: return DecodeNonStandardParameter(m.nonStandard, r);
+    case 1: PerReadObjectIdentifier(m.isoAlgorithm, r); return kDecoded;
+    default: return kMalformed;
   }
 }
 
@@ -45,17 +41,11 @@ Status DecodeNonIsoIntegrityMechanism(NonIsoIntegrityMechanism& m, PerReader& r)
   const uint32_t index = ReadChoice(m, r, 4);
   if (m.isExtension) return SkipAlternative(r);
   switch (index) {
-    case 1:
-      return DecodeEncryptIntAlg(m.hMACIso101182S, r);
-    case 2:
-      return DecodeEncryptIntAlg(m.hMACIso101182L, r);
-    case 3:
-      PerReadObjectIdentifier(m.hMACIso101183, r);
-      return kDecoded;
-    case 0:
-      return kDecoded;
-    default:
-      return kMalformed;
+    case 1: return DecodeEncryptIntAlg(m.hMACIso101182S, r);
+    case 2: return DecodeEncryptIntAlg(m.hMACIso101182L, r);
+    case 3: PerReadObjectIdentifier(m.hMACIso101183, r); return kDecoded;
+    case 0: return kDecoded;
+    default: return kMalformed;
   }
 }
 
@@ -64,17 +54,11 @@ Status DecodeIntegrityMechanism(IntegrityMechanism& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 4);
   if (m.isExtension) return SkipAlternative(r);
   switch (index) {
-    case 0:
-      return DecodeNonStandardParameter(m.nonStandard, r);
-    case 2:
-      PerReadObjectIdentifier(m.iso9797, r);
-      return kDecoded;
-    case 3:
-      return DecodeNonIsoIntegrityMechanism(m.nonIsoIM, r);
-    case 1:
-      return kDecoded;
-    default:
-      return kMalformed;
+    case 0: return DecodeNonStandardParameter(m.nonStandard, r);
+    case 2: PerReadObjectIdentifier(m.iso9797, r); return kDecoded;
+    case 3: return DecodeNonIsoIntegrityMechanism(m.nonIsoIM, r);
+    case 1: return kDecoded;
+    default: return kMalformed;
   }
 }
 
@@ -90,24 +74,15 @@ Status DecodeCryptoH323Token(CryptoH323Token& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 8);
   if (m.isExtension) return SkipAlternative(r);
   switch (index) {
-    case 0:
-      return DecodeCryptoEPPwdHash(m.cryptoEPPwdHash, r);
-    case 1:
-      return DecodeCryptoGKPwdHash(m.cryptoGKPwdHash, r);
-    case 2:
-      return h235::DecodeENCRYPTED(m.cryptoEPPwdEncr, r);
-    case 3:
-      return h235::DecodeENCRYPTED(m.cryptoGKPwdEncr, r);
-    case 4:
-      return h235::DecodeSIGNED(m.cryptoEPCert, r);
-    case 5:
-      return h235::DecodeSIGNED(m.cryptoGKCert, r);
-    case 6:
-      return h235::DecodeSIGNED(m.cryptoFastStart, r);
-    case 7:
-      return h235::DecodeCryptoToken(m.nestedcryptoToken, r);
-    default:
-      return kMalformed;
+    case 0: return DecodeCryptoEPPwdHash(m.cryptoEPPwdHash, r);
+    case 1: return DecodeCryptoGKPwdHash(m.cryptoGKPwdHash, r);
+    case 2: return h235::DecodeENCRYPTED(m.cryptoEPPwdEncr, r);
+    case 3: return h235::DecodeENCRYPTED(m.cryptoGKPwdEncr, r);
+    case 4: return h235::DecodeSIGNED(m.cryptoEPCert, r);
+    case 5: return h235::DecodeSIGNED(m.cryptoGKCert, r);
+    case 6: return h235::DecodeSIGNED(m.cryptoFastStart, r);
+    case 7: return h235::DecodeCryptoToken(m.nestedcryptoToken, r);
+    default: return kMalformed;
   }
 }
 
@@ -116,13 +91,10 @@ Status DecodeSecurityServiceMode(SecurityServiceMode& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 3);
   if (m.isExtension) return SkipAlternative(r);
   switch (index) {
-    case 0:
-      return DecodeNonStandardParameter(m.nonStandard, r);
+    case 0: return DecodeNonStandardParameter(m.nonStandard, r);
     case 1:
-    case 2:
-      return kDecoded;
-    default:
-      return kMalformed;
+    case 2: return kDecoded;
+    default: return kMalformed;
   }
 }
 
@@ -143,16 +115,11 @@ Status DecodeH245Security(H245Security& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 4);
   if (m.isExtension) return SkipAlternative(r);
   switch (index) {
-    case 0:
-      return DecodeNonStandardParameter(m.nonStandard, r);
-    case 2:
-      return DecodeSecurityCapabilities(m.tls, r);
-    case 3:
-      return DecodeSecurityCapabilities(m.ipsec, r);
-    case 1:
-      return kDecoded;
-    default:
-      return kMalformed;
+    case 0: return DecodeNonStandardParameter(m.nonStandard, r);
+    case 2: return DecodeSecurityCapabilities(m.tls, r);
+    case 3: return DecodeSecurityCapabilities(m.ipsec, r);
+    case 1: return kDecoded;
+    default: return kMalformed;
   }
 }
 

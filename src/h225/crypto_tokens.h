@@ -22,12 +22,9 @@ struct EncryptIntAlg {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) return v.UnknownExtension(m.choiceTag);
     switch (m.choiceTag) {
-      case 0:
-        return v.Record("nonStandard", m.nonStandard);
-      case 1:
-        return v.ObjectIdentifier("isoAlgorithm", m.isoAlgorithm);
-      default:
-        return v.UnknownRoot(m.choiceTag);
+      case 0: return v.Record("nonStandard", m.nonStandard);
+      case 1: return v.ObjectIdentifier("isoAlgorithm", m.isoAlgorithm);
+      default: return v.UnknownRoot(m.choiceTag);
     }
   }
 };
@@ -45,16 +42,11 @@ struct NonIsoIntegrityMechanism {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) return v.UnknownExtension(m.choiceTag);
     switch (m.choiceTag) {
-      case 0:
-        return v.Null("hMAC-MD5");
-      case 1:
-        return v.Record("hMAC-iso10118-2-s", m.hMACIso101182S);
-      case 2:
-        return v.Record("hMAC-iso10118-2-l", m.hMACIso101182L);
-      case 3:
-        return v.ObjectIdentifier("hMAC-iso10118-3", m.hMACIso101183);
-      default:
-        return v.UnknownRoot(m.choiceTag);
+      case 0: return v.Null("hMAC-MD5");
+      case 1: return v.Record("hMAC-iso10118-2-s", m.hMACIso101182S);
+      case 2: return v.Record("hMAC-iso10118-2-l", m.hMACIso101182L);
+      case 3: return v.ObjectIdentifier("hMAC-iso10118-3", m.hMACIso101183);
+      default: return v.UnknownRoot(m.choiceTag);
     }
   }
 };
@@ -72,16 +64,11 @@ struct IntegrityMechanism {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) return v.UnknownExtension(m.choiceTag);
     switch (m.choiceTag) {
-      case 0:
-        return v.Record("nonStandard", m.nonStandard);
-      case 1:
-        return v.Null("digSig");
-      case 2:
-        return v.ObjectIdentifier("iso9797", m.iso9797);
-      case 3:
-        return v.Record("nonIsoIM", m.nonIsoIM);
-      default:
-        return v.UnknownRoot(m.choiceTag);
+      case 0: return v.Record("nonStandard", m.nonStandard);
+      case 1: return v.Null("digSig");
+      case 2: return v.ObjectIdentifier("iso9797", m.iso9797);
+      case 3: return v.Record("nonIsoIM", m.nonIsoIM);
+      default: return v.UnknownRoot(m.choiceTag);
     }
   }
 };
@@ -142,24 +129,15 @@ struct CryptoH323Token {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) return v.UnknownExtension(m.choiceTag);
     switch (m.choiceTag) {
-      case 0:
-        return v.Record("cryptoEPPwdHash", m.cryptoEPPwdHash);
-      case 1:
-        return v.Record("cryptoGKPwdHash", m.cryptoGKPwdHash);
-      case 2:
-        return v.Record("cryptoEPPwdEncr", m.cryptoEPPwdEncr);
-      case 3:
-        return v.Record("cryptoGKPwdEncr", m.cryptoGKPwdEncr);
-      case 4:
-        return v.Record("cryptoEPCert", m.cryptoEPCert);
-      case 5:
-        return v.Record("cryptoGKCert", m.cryptoGKCert);
-      case 6:
-        return v.Record("cryptoFastStart", m.cryptoFastStart);
-      case 7:
-        return v.Record("nestedcryptoToken", m.nestedcryptoToken);
-      default:
-        return v.UnknownRoot(m.choiceTag);
+      case 0: return v.Record("cryptoEPPwdHash", m.cryptoEPPwdHash);
+      case 1: return v.Record("cryptoGKPwdHash", m.cryptoGKPwdHash);
+      case 2: return v.Record("cryptoEPPwdEncr", m.cryptoEPPwdEncr);
+      case 3: return v.Record("cryptoGKPwdEncr", m.cryptoGKPwdEncr);
+      case 4: return v.Record("cryptoEPCert", m.cryptoEPCert);
+      case 5: return v.Record("cryptoGKCert", m.cryptoGKCert);
+      case 6: return v.Record("cryptoFastStart", m.cryptoFastStart);
+      case 7: return v.Record("nestedcryptoToken", m.nestedcryptoToken);
+      default: return v.UnknownRoot(m.choiceTag);
     }
   }
 };
@@ -175,14 +153,10 @@ struct SecurityServiceMode {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) return v.UnknownExtension(m.choiceTag);
     switch (m.choiceTag) {
-      case 0:
-        return v.Record("nonStandard", m.nonStandard);
-      case 1:
-        return v.Null("none");
-      case 2:
-        return v.Null("default");
-      default:
-        return v.UnknownRoot(m.choiceTag);
+      case 0: return v.Record("nonStandard", m.nonStandard);
+      case 1: return v.Null("none");
+      case 2: return v.Null("default");
+      default: return v.UnknownRoot(m.choiceTag);
     }
   }
 };
@@ -217,16 +191,11 @@ struct H245Security {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) return v.UnknownExtension(m.choiceTag);
     switch (m.choiceTag) {
-      case 0:
-        return v.Record("nonStandard", m.nonStandard);
-      case 1:
-        return v.Null("noSecurity");
-      case 2:
-        return v.Record("tls", m.tls);
-      case 3:
-        return v.Record("ipsec", m.ipsec);
-      default:
-        return v.UnknownRoot(m.choiceTag);
+      case 0: return v.Record("nonStandard", m.nonStandard);
+      case 1: return v.Null("noSecurity");
+      case 2: return v.Record("tls", m.tls);
+      case 3: return v.Record("ipsec", m.ipsec);
+      default: return v.UnknownRoot(m.choiceTag);
     }
   }
 };

@@ -12,13 +12,9 @@ Status DecodeId(TunnelledProtocol::Id& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 2);
   if (m.isExtension) return SkipAlternative(r);
   switch (index) {
-    case 0:
-      PerReadObjectIdentifier(m.tunnelledProtocolObjectID, r);
-      return kDecoded;
-    case 1:
-      return DecodeTunnelledProtocolAlternateIdentifier(m.tunnelledProtocolAlternateID, r);
-    default:
-      return kMalformed;
+    case 0: PerReadObjectIdentifier(m.tunnelledProtocolObjectID, r); return kDecoded;
+    case 1: return DecodeTunnelledProtocolAlternateIdentifier(m.tunnelledProtocolAlternateID, r);
+    default: return kMalformed;
   }
 }
 
@@ -126,35 +122,22 @@ Status DecodeSupportedProtocols(SupportedProtocols& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 9);
   if (m.isExtension) {
     switch (index) {
-      case 0:
-        return InOpenType(r, [&] { return DecodeNonStandardProtocol(m.nonStandardProtocol, r); });
-      case 1:
-        return InOpenType(r, [&] { return DecodeT38FaxAnnexbOnlyCaps(m.t38FaxAnnexbOnly, r); });
-      default:
-        return SkipAlternative(r);
+      case 0: return InOpenType(r, [&] { return DecodeNonStandardProtocol(m.nonStandardProtocol, r); });
+      case 1: return InOpenType(r, [&] { return DecodeT38FaxAnnexbOnlyCaps(m.t38FaxAnnexbOnly, r); });
+      default: return SkipAlternative(r);
     }
   }
   switch (index) {
-    case 0:
-      return DecodeNonStandardParameter(m.nonStandardData, r);
-    case 1:
-      return DecodeProtocolCaps(m.h310, r);
-    case 2:
-      return DecodeProtocolCaps(m.h320, r);
-    case 3:
-      return DecodeProtocolCaps(m.h321, r);
-    case 4:
-      return DecodeProtocolCaps(m.h322, r);
-    case 5:
-      return DecodeProtocolCaps(m.h323, r);
-    case 6:
-      return DecodeProtocolCaps(m.h324, r);
-    case 7:
-      return DecodeProtocolCaps(m.voice, r);
-    case 8:
-      return DecodeProtocolCaps(m.t120Only, r);
-    default:
-      return kMalformed;
+    case 0: return DecodeNonStandardParameter(m.nonStandardData, r);
+    case 1: return DecodeProtocolCaps(m.h310, r);
+    case 2: return DecodeProtocolCaps(m.h320, r);
+    case 3: return DecodeProtocolCaps(m.h321, r);
+    case 4: return DecodeProtocolCaps(m.h322, r);
+    case 5: return DecodeProtocolCaps(m.h323, r);
+    case 6: return DecodeProtocolCaps(m.h324, r);
+    case 7: return DecodeProtocolCaps(m.voice, r);
+    case 8: return DecodeProtocolCaps(m.t120Only, r);
+    default: return kMalformed;
   }
 }
 

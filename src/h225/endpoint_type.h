@@ -168,35 +168,22 @@ struct SupportedProtocols {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) {
       switch (m.choiceTag) {
-        case 0:
-          return v.Record("nonStandardProtocol", m.nonStandardProtocol);
-        case 1:
-          return v.Record("t38FaxAnnexbOnly", m.t38FaxAnnexbOnly);
-        default:
-          return v.UnknownExtension(m.choiceTag);
+        case 0: return v.Record("nonStandardProtocol", m.nonStandardProtocol);
+        case 1: return v.Record("t38FaxAnnexbOnly", m.t38FaxAnnexbOnly);
+        default: return v.UnknownExtension(m.choiceTag);
       }
     }
     switch (m.choiceTag) {
-      case 0:
-        return v.Record("nonStandardData", m.nonStandardData);
-      case 1:
-        return v.Record("h310", m.h310);
-      case 2:
-        return v.Record("h320", m.h320);
-      case 3:
-        return v.Record("h321", m.h321);
-      case 4:
-        return v.Record("h322", m.h322);
-      case 5:
-        return v.Record("h323", m.h323);
-      case 6:
-        return v.Record("h324", m.h324);
-      case 7:
-        return v.Record("voice", m.voice);
-      case 8:
-        return v.Record("t120-only", m.t120Only);
-      default:
-        return v.UnknownRoot(m.choiceTag);
+      case 0: return v.Record("nonStandardData", m.nonStandardData);
+      case 1: return v.Record("h310", m.h310);
+      case 2: return v.Record("h320", m.h320);
+      case 3: return v.Record("h321", m.h321);
+      case 4: return v.Record("h322", m.h322);
+      case 5: return v.Record("h323", m.h323);
+      case 6: return v.Record("h324", m.h324);
+      case 7: return v.Record("voice", m.voice);
+      case 8: return v.Record("t120-only", m.t120Only);
+      default: return v.UnknownRoot(m.choiceTag);
     }
   }
 };
@@ -257,12 +244,9 @@ struct TunnelledProtocol {
     static void Walk(Record& m, Visitor& v) {
       if (m.isExtension) return v.UnknownExtension(m.choiceTag);
       switch (m.choiceTag) {
-        case 0:
-          return v.ObjectIdentifier("tunnelledProtocolObjectID", m.tunnelledProtocolObjectID);
-        case 1:
-          return v.Record("tunnelledProtocolAlternateID", m.tunnelledProtocolAlternateID);
-        default:
-          return v.UnknownRoot(m.choiceTag);
+        case 0: return v.ObjectIdentifier("tunnelledProtocolObjectID", m.tunnelledProtocolObjectID);
+        case 1: return v.Record("tunnelledProtocolAlternateID", m.tunnelledProtocolAlternateID);
+        default: return v.UnknownRoot(m.choiceTag);
       }
     }
   };

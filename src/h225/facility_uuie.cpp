@@ -82,16 +82,8 @@ Status DecodeFacilityUUIE(FacilityUUIE& m, PerReader& r) {
     }));
   if (m.hasH245Address) KELVRA_TRY(InOpenType(r, [&] { return DecodeTransportAddress(m.h245Address, r); }));
   if (m.hasFastStart) KELVRA_TRY(InOpenType(r, [&] { return DecodeFastStart(r, &m.fastStartCount, &m.fastStart); }));
-  if (m.hasMultipleCalls)
-    KELVRA_TRY(InOpenType(r, [&] {
-      m.multipleCalls = PerReadBit(r);
-      return kDecoded;
-    }));
-  if (m.hasMaintainConnection)
-    KELVRA_TRY(InOpenType(r, [&] {
-      m.maintainConnection = PerReadBit(r);
-      return kDecoded;
-    }));
+  if (m.hasMultipleCalls) m.multipleCalls = PerReadOpenBoolean(r);
+  if (m.hasMaintainConnection) m.maintainConnection = PerReadOpenBoolean(r);
   if (m.hasFastConnectRefused) PerSkipOpenTypes(r, 1);
   if (m.hasServiceControl)
     KELVRA_TRY(InOpenType(r, [&] {

@@ -9,17 +9,10 @@ Status DecodeGenericIdentifier(GenericIdentifier& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 3);
   if (m.isExtension) return SkipAlternative(r);
   switch (index) {
-    case 0:
-      m.standard = PerReadExtensibleNumber(r, 0, 16383);
-      return kDecoded;
-    case 1:
-      PerReadObjectIdentifier(m.oid, r);
-      return kDecoded;
-    case 2:
-      PerReadFixedOctets(m.nonStandard, r, 16);
-      return kDecoded;
-    default:
-      return kMalformed;
+    case 0: m.standard = PerReadExtensibleNumber(r, 0, 16383); return kDecoded;
+    case 1: PerReadObjectIdentifier(m.oid, r); return kDecoded;
+    case 2: PerReadFixedOctets(m.nonStandard, r, 16); return kDecoded;
+    default: return kMalformed;
   }
 }
 
@@ -28,33 +21,16 @@ Status DecodeContent(Content& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 12);
   if (m.isExtension) return SkipAlternative(r);
   switch (index) {
-    case 0:
-      PerReadOctetString(m.raw, r);
-      return kDecoded;
-    case 1:
-      PerReadOctetString(m.text, r);
-      return kDecoded;
-    case 2:
-      PerReadCharacters16(m.unicode, r, PerReadLength(r));
-      return kDecoded;
-    case 3:
-      m.bool_ = PerReadBit(r);
-      return kDecoded;
-    case 4:
-      m.number8 = PerReadNumber<uint8_t>(r, 0, 255);
-      return kDecoded;
-    case 5:
-      m.number16 = PerReadNumber<uint16_t>(r, 0, 65535);
-      return kDecoded;
-    case 6:
-      m.number32 = PerReadNumber<uint32_t>(r, 0, kUnsigned32Maximum);
-      return kDecoded;
-    case 7:
-      return DecodeGenericIdentifier(m.id, r);
-    case 8:
-      return DecodeAliasAddress(m.alias, r);
-    case 9:
-      return DecodeTransportAddress(m.transport, r);
+    case 0: PerReadOctetString(m.raw, r); return kDecoded;
+    case 1: PerReadOctetString(m.text, r); return kDecoded;
+    case 2: PerReadCharacters16(m.unicode, r, PerReadLength(r)); return kDecoded;
+    case 3: m.bool_ = PerReadBit(r); return kDecoded;
+    case 4: m.number8 = PerReadNumber<uint8_t>(r, 0, 255); return kDecoded;
+    case 5: m.number16 = PerReadNumber<uint16_t>(r, 0, 65535); return kDecoded;
+    case 6: m.number32 = PerReadNumber<uint32_t>(r, 0, kUnsigned32Maximum); return kDecoded;
+    case 7: return DecodeGenericIdentifier(m.id, r);
+    case 8: return DecodeAliasAddress(m.alias, r);
+    case 9: return DecodeTransportAddress(m.transport, r);
     case 10:
       m.compound.count = PerReadNumber<uint16_t>(r, 1, 512);
       return DecodeList(r, Slot<EnumeratedParameter>(&m.compound.elements), m.compound.count,
@@ -62,8 +38,7 @@ Status DecodeContent(Content& m, PerReader& r) {
     case 11:
       m.nested.count = PerReadNumber<uint8_t>(r, 1, 16);
       return DecodeList(r, Slot<GenericData>(&m.nested.elements), m.nested.count, DecodeGenericData);
-    default:
-      return kMalformed;
+    default: return kMalformed;
   }
 }
 

@@ -25,14 +25,10 @@ struct GenericIdentifier {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) return v.UnknownExtension(m.choiceTag);
     switch (m.choiceTag) {
-      case 0:
-        return v.Number("standard", m.standard);
-      case 1:
-        return v.ObjectIdentifier("oid", m.oid);
-      case 2:
-        return WalkOctets(v, "nonStandard", m.nonStandard);
-      default:
-        return v.UnknownRoot(m.choiceTag);
+      case 0: return v.Number("standard", m.standard);
+      case 1: return v.ObjectIdentifier("oid", m.oid);
+      case 2: return WalkOctets(v, "nonStandard", m.nonStandard);
+      default: return v.UnknownRoot(m.choiceTag);
     }
   }
 };
@@ -68,32 +64,19 @@ struct Content {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) return v.UnknownExtension(m.choiceTag);
     switch (m.choiceTag) {
-      case 0:
-        return WalkOctets(v, "raw", m.raw);
-      case 1:
-        return WalkOctets(v, "text", m.text, OctetNotation::kCharacters);
-      case 2:
-        return v.Characters16("unicode", m.unicode);
-      case 3:
-        return v.Boolean("bool", m.bool_);
-      case 4:
-        return v.Number("number8", m.number8);
-      case 5:
-        return v.Number("number16", m.number16);
-      case 6:
-        return v.Number("number32", m.number32);
-      case 7:
-        return v.Record("id", m.id);
-      case 8:
-        return v.Record("alias", m.alias);
-      case 9:
-        return v.Record("transport", m.transport);
-      case 10:
-        return v.List("compound", Slot<EnumeratedParameter>(&m.compound.elements), m.compound.count);
-      case 11:
-        return v.List("nested", Slot<GenericData>(&m.nested.elements), m.nested.count);
-      default:
-        return v.UnknownRoot(m.choiceTag);
+      case 0: return WalkOctets(v, "raw", m.raw);
+      case 1: return WalkOctets(v, "text", m.text, OctetNotation::kCharacters);
+      case 2: return v.Characters16("unicode", m.unicode);
+      case 3: return v.Boolean("bool", m.bool_);
+      case 4: return v.Number("number8", m.number8);
+      case 5: return v.Number("number16", m.number16);
+      case 6: return v.Number("number32", m.number32);
+      case 7: return v.Record("id", m.id);
+      case 8: return v.Record("alias", m.alias);
+      case 9: return v.Record("transport", m.transport);
+      case 10: return v.List("compound", Slot<EnumeratedParameter>(&m.compound.elements), m.compound.count);
+      case 11: return v.List("nested", Slot<GenericData>(&m.nested.elements), m.nested.count);
+      default: return v.UnknownRoot(m.choiceTag);
     }
   }
 };

@@ -81,12 +81,9 @@ Status DecodeECKASDH(ECKASDH& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 2);
   if (m.isExtension) return SkipAlternative(r);
   switch (index) {
-    case 0:
-      return DecodeEckasdhp(m.eckasdhp, r);
-    case 1:
-      return DecodeEckasdh2(m.eckasdh2, r);
-    default:
-      return kMalformed;
+    case 0: return DecodeEckasdhp(m.eckasdhp, r);
+    case 1: return DecodeEckasdh2(m.eckasdh2, r);
+    default: return kMalformed;
   }
 }
 
@@ -104,24 +101,19 @@ Status DecodeAuthenticationMechanism(AuthenticationMechanism& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 7);
   if (m.isExtension) {
     switch (index) {
-      case 0:
-        return InOpenType(r, [&] { return DecodeNullChoice(m.authenticationBES, r); });
-      default:
-        return SkipAlternative(r);
+      case 0: return InOpenType(r, [&] { return DecodeNullChoice(m.authenticationBES, r); });
+      default: return SkipAlternative(r);
     }
   }
   switch (index) {
-    case 6:
-      return DecodeNonStandardParameter(m.nonStandard, r);
+    case 6: return DecodeNonStandardParameter(m.nonStandard, r);
     case 0:
     case 1:
     case 2:
     case 3:
     case 4:
-    case 5:
-      return kDecoded;
-    default:
-      return kMalformed;
+    case 5: return kDecoded;
+    default: return kMalformed;
   }
 }
 
@@ -213,16 +205,11 @@ Status DecodeCryptoToken(CryptoToken& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 4);
   if (m.isExtension) return SkipAlternative(r);
   switch (index) {
-    case 0:
-      return DecodeCryptoEncryptedToken(m.cryptoEncryptedToken, r);
-    case 1:
-      return DecodeCryptoSignedToken(m.cryptoSignedToken, r);
-    case 2:
-      return DecodeCryptoHashedToken(m.cryptoHashedToken, r);
-    case 3:
-      return DecodeENCRYPTED(m.cryptoPwdEncr, r);
-    default:
-      return kMalformed;
+    case 0: return DecodeCryptoEncryptedToken(m.cryptoEncryptedToken, r);
+    case 1: return DecodeCryptoSignedToken(m.cryptoSignedToken, r);
+    case 2: return DecodeCryptoHashedToken(m.cryptoHashedToken, r);
+    case 3: return DecodeENCRYPTED(m.cryptoPwdEncr, r);
+    default: return kMalformed;
   }
 }
 

@@ -95,12 +95,9 @@ struct ECKASDH {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) return v.UnknownExtension(m.choiceTag);
     switch (m.choiceTag) {
-      case 0:
-        return v.Record("eckasdhp", m.eckasdhp);
-      case 1:
-        return v.Record("eckasdh2", m.eckasdh2);
-      default:
-        return v.UnknownRoot(m.choiceTag);
+      case 0: return v.Record("eckasdhp", m.eckasdhp);
+      case 1: return v.Record("eckasdh2", m.eckasdh2);
+      default: return v.UnknownRoot(m.choiceTag);
     }
   }
 };
@@ -135,29 +132,19 @@ struct AuthenticationMechanism {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) {
       switch (m.choiceTag) {
-        case 0:
-          return v.Record("authenticationBES", m.authenticationBES);
-        default:
-          return v.UnknownExtension(m.choiceTag);
+        case 0: return v.Record("authenticationBES", m.authenticationBES);
+        default: return v.UnknownExtension(m.choiceTag);
       }
     }
     switch (m.choiceTag) {
-      case 0:
-        return v.Null("dhExch");
-      case 1:
-        return v.Null("pwdSymEnc");
-      case 2:
-        return v.Null("pwdHash");
-      case 3:
-        return v.Null("certSign");
-      case 4:
-        return v.Null("ipsec");
-      case 5:
-        return v.Null("tls");
-      case 6:
-        return v.Record("nonStandard", m.nonStandard);
-      default:
-        return v.UnknownRoot(m.choiceTag);
+      case 0: return v.Null("dhExch");
+      case 1: return v.Null("pwdSymEnc");
+      case 2: return v.Null("pwdHash");
+      case 3: return v.Null("certSign");
+      case 4: return v.Null("ipsec");
+      case 5: return v.Null("tls");
+      case 6: return v.Record("nonStandard", m.nonStandard);
+      default: return v.UnknownRoot(m.choiceTag);
     }
   }
 };
@@ -310,16 +297,11 @@ struct CryptoToken {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) return v.UnknownExtension(m.choiceTag);
     switch (m.choiceTag) {
-      case 0:
-        return v.Record("cryptoEncryptedToken", m.cryptoEncryptedToken);
-      case 1:
-        return v.Record("cryptoSignedToken", m.cryptoSignedToken);
-      case 2:
-        return v.Record("cryptoHashedToken", m.cryptoHashedToken);
-      case 3:
-        return v.Record("cryptoPwdEncr", m.cryptoPwdEncr);
-      default:
-        return v.UnknownRoot(m.choiceTag);
+      case 0: return v.Record("cryptoEncryptedToken", m.cryptoEncryptedToken);
+      case 1: return v.Record("cryptoSignedToken", m.cryptoSignedToken);
+      case 2: return v.Record("cryptoHashedToken", m.cryptoHashedToken);
+      case 3: return v.Record("cryptoPwdEncr", m.cryptoPwdEncr);
+      default: return v.UnknownRoot(m.choiceTag);
     }
   }
 };

@@ -18,37 +18,23 @@ Status DecodeH323MessageBody(H323UUPDU::H323MessageBody& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 7);
   if (m.isExtension) {
     switch (index) {
-      case 0:
-        return InOpenType(r, [&] { return DecodeProgressUUIE(m.progress, r); });
-      case 2:
-        return InOpenType(r, [&] { return DecodeCallStatusUUIE(m.status, r); });
-      case 3:
-        return InOpenType(r, [&] { return DecodeCallStatusUUIE(m.statusInquiry, r); });
-      case 4:
-        return InOpenType(r, [&] { return DecodeCallStatusUUIE(m.setupAcknowledge, r); });
-      case 5:
-        return InOpenType(r, [&] { return DecodeCallStatusUUIE(m.notify, r); });
-      default:
-        return SkipAlternative(r);
+      case 0: return InOpenType(r, [&] { return DecodeProgressUUIE(m.progress, r); });
+      case 2: return InOpenType(r, [&] { return DecodeCallStatusUUIE(m.status, r); });
+      case 3: return InOpenType(r, [&] { return DecodeCallStatusUUIE(m.statusInquiry, r); });
+      case 4: return InOpenType(r, [&] { return DecodeCallStatusUUIE(m.setupAcknowledge, r); });
+      case 5: return InOpenType(r, [&] { return DecodeCallStatusUUIE(m.notify, r); });
+      default: return SkipAlternative(r);
     }
   }
   switch (index) {
-    case 0:
-      return DecodeSetupUUIE(m.setup, r);
-    case 1:
-      return DecodeCallProceedingUUIE(m.callProceeding, r);
-    case 2:
-      return DecodeConnectUUIE(m.connect, r);
-    case 3:
-      return DecodeAlertingUUIE(m.alerting, r);
-    case 4:
-      return DecodeInformationUUIE(m.information, r);
-    case 5:
-      return DecodeReleaseCompleteUUIE(m.releaseComplete, r);
-    case 6:
-      return DecodeFacilityUUIE(m.facility, r);
-    default:
-      return kMalformed;
+    case 0: return DecodeSetupUUIE(m.setup, r);
+    case 1: return DecodeCallProceedingUUIE(m.callProceeding, r);
+    case 2: return DecodeConnectUUIE(m.connect, r);
+    case 3: return DecodeAlertingUUIE(m.alerting, r);
+    case 4: return DecodeInformationUUIE(m.information, r);
+    case 5: return DecodeReleaseCompleteUUIE(m.releaseComplete, r);
+    case 6: return DecodeFacilityUUIE(m.facility, r);
+    default: return kMalformed;
   }
 }
 
@@ -111,11 +97,7 @@ Status DecodeH323UUPDU(H323UUPDU& m, PerReader& r) {
       return DecodeSequenceOf(r, &m.h4501SupplementaryServiceCount,
                               Slot<OctetStringValue>(&m.h4501SupplementaryService), DecodeOctetString);
     }));
-  if (m.h245TunnellingPresent)
-    KELVRA_TRY(InOpenType(r, [&] {
-      m.h245Tunnelling = PerReadBit(r);
-      return kDecoded;
-    }));
+  if (m.h245TunnellingPresent) m.h245Tunnelling = PerReadOpenBoolean(r);
   if (m.h245ControlPresent)
     KELVRA_TRY(InOpenType(r, [&] {
       return DecodeSequenceOf(r, &m.h245ControlCount, Slot<OctetStringValue>(&m.h245Control), DecodeOctetString);

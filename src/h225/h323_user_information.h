@@ -53,39 +53,24 @@ struct H323UUPDU {
     static void Walk(Record& m, Visitor& v) {
       if (m.isExtension) {
         switch (m.choiceTag) {
-          case 0:
-            return v.Record("progress", m.progress);
-          case 1:
-            return v.Null("empty");
-          case 2:
-            return v.Record("status", m.status);
-          case 3:
-            return v.Record("statusInquiry", m.statusInquiry);
-          case 4:
-            return v.Record("setupAcknowledge", m.setupAcknowledge);
-          case 5:
-            return v.Record("notify", m.notify);
-          default:
-            return v.UnknownExtension(m.choiceTag);
+          case 0: return v.Record("progress", m.progress);
+          case 1: return v.Null("empty");
+          case 2: return v.Record("status", m.status);
+          case 3: return v.Record("statusInquiry", m.statusInquiry);
+          case 4: return v.Record("setupAcknowledge", m.setupAcknowledge);
+          case 5: return v.Record("notify", m.notify);
+          default: return v.UnknownExtension(m.choiceTag);
         }
       }
       switch (m.choiceTag) {
-        case 0:
-          return v.Record("setup", m.setup);
-        case 1:
-          return v.Record("callProceeding", m.callProceeding);
-        case 2:
-          return v.Record("connect", m.connect);
-        case 3:
-          return v.Record("alerting", m.alerting);
-        case 4:
-          return v.Record("information", m.information);
-        case 5:
-          return v.Record("releaseComplete", m.releaseComplete);
-        case 6:
-          return v.Record("facility", m.facility);
-        default:
-          return v.UnknownRoot(m.choiceTag);
+        case 0: return v.Record("setup", m.setup);
+        case 1: return v.Record("callProceeding", m.callProceeding);
+        case 2: return v.Record("connect", m.connect);
+        case 3: return v.Record("alerting", m.alerting);
+        case 4: return v.Record("information", m.information);
+        case 5: return v.Record("releaseComplete", m.releaseComplete);
+        case 6: return v.Record("facility", m.facility);
+        default: return v.UnknownRoot(m.choiceTag);
       }
     }
   };

@@ -18,13 +18,9 @@ Status DecodeNonStandardIdentifier(NonStandardIdentifier& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 2);
   if (m.isExtension) return SkipAlternative(r);
   switch (index) {
-    case 0:
-      PerReadObjectIdentifier(m.object, r);
-      return kDecoded;
-    case 1:
-      return DecodeH221NonStandard(m.h221NonStandard, r);
-    default:
-      return kMalformed;
+    case 0: PerReadObjectIdentifier(m.object, r); return kDecoded;
+    case 1: return DecodeH221NonStandard(m.h221NonStandard, r);
+    default: return kMalformed;
   }
 }
 

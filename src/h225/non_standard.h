@@ -35,12 +35,9 @@ struct NonStandardIdentifier {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) return v.UnknownExtension(m.choiceTag);
     switch (m.choiceTag) {
-      case 0:
-        return v.ObjectIdentifier("object", m.object);
-      case 1:
-        return v.Record("h221NonStandard", m.h221NonStandard);
-      default:
-        return v.UnknownRoot(m.choiceTag);
+      case 0: return v.ObjectIdentifier("object", m.object);
+      case 1: return v.Record("h221NonStandard", m.h221NonStandard);
+      default: return v.UnknownRoot(m.choiceTag);
     }
   }
 };

@@ -95,11 +95,10 @@ void CopyElements(Q931MessageRecord& m, const Q931Frame& frame) {
 // before the limit; a decode that reaches the limit has failed.
 bool DecodeUserInformationElement(H323UserInformation& m, const Q931Frame& frame, const Q931Element& element) {
   const uint32_t first = element.position + uint32_t{4};
-  const uint8_t* bufferEnd = frame.octets + frame.available;
   PerReader reader;
   PerReaderInit(reader, PerAdvance(frame.octets, first), element.length + uint32_t{1});
   reader.start = frame.octets;
-  reader.readable = bufferEnd;
+  reader.readable = frame.octets + frame.available;
   if (DecodeH323UserInformation(m, reader) == kDecoded && reader.position != reader.end) return true;
   ReleaseH323UserInformation(&m);
   return false;
@@ -114,7 +113,8 @@ int32_t FindQ931Element(const Q931Frame* frame, uint8_t identifier, Q931Element*
   }
   if (frame->length <= kFirstElement) return kQ931Rejected;
   uint16_t position = kFirstElement;
-  do {
+  // The position wraps at 16 bits; a search that has taken a step for each position goes round in circles.
+  for (uint32_t step = 0; step <= UINT16_MAX && position < frame->length; ++step) {
     const uint8_t candidate = frame->At(position);
     uint32_t size = 1;
     if (candidate < 0x80) {
@@ -128,7 +128,7 @@ int32_t FindQ931Element(const Q931Frame* frame, uint8_t identifier, Q931Element*
       }
     }
     position = static_cast<uint16_t>(position + size);
-  } while (position < frame->length);
+  }
   return kQ931Rejected;
 }
 

@@ -9,14 +9,10 @@ Status DecodeRasMessage(RasMessageRecord& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, RasMessageNames::kRoots);
   if (m.isExtension) return SkipAlternative(r);
   switch (index) {
-    case 0:
-      return DecodeGatekeeperRequest(m.gatekeeperRequest, r);
-    case 1:
-      return DecodeGatekeeperConfirm(m.gatekeeperConfirm, r);
-    case 2:
-      return DecodeGatekeeperReject(m.gatekeeperReject, r);
-    default:
-      return index < RasMessageNames::kRoots ? kDecoded : kMalformed;
+    case 0: return DecodeGatekeeperRequest(m.gatekeeperRequest, r);
+    case 1: return DecodeGatekeeperConfirm(m.gatekeeperConfirm, r);
+    case 2: return DecodeGatekeeperReject(m.gatekeeperReject, r);
+    default: return index < RasMessageNames::kRoots ? kDecoded : kMalformed;
   }
 }
 

@@ -59,14 +59,10 @@ struct RasMessageRecord {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) return WalkNullChoice<RasMessageNames>(v, m.isExtension, m.choiceTag);
     switch (m.choiceTag) {
-      case 0:
-        return v.Record("gatekeeperRequest", m.gatekeeperRequest);
-      case 1:
-        return v.Record("gatekeeperConfirm", m.gatekeeperConfirm);
-      case 2:
-        return v.Record("gatekeeperReject", m.gatekeeperReject);
-      default:
-        return WalkNullChoice<RasMessageNames>(v, m.isExtension, m.choiceTag);
+      case 0: return v.Record("gatekeeperRequest", m.gatekeeperRequest);
+      case 1: return v.Record("gatekeeperConfirm", m.gatekeeperConfirm);
+      case 2: return v.Record("gatekeeperReject", m.gatekeeperReject);
+      default: return WalkNullChoice<RasMessageNames>(v, m.isExtension, m.choiceTag);
     }
   }
 };

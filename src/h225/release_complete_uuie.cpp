@@ -17,15 +17,13 @@ Status DecodeReleaseCompleteReason(ReleaseCompleteReason& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 12);
   if (m.isExtension) {
     switch (index) {
-      case 5:
-        return InOpenType(r, [&] { return DecodeNonStandardParameter(m.nonStandardReason, r); });
+      case 5: return InOpenType(r, [&] { return DecodeNonStandardParameter(m.nonStandardReason, r); });
       case 6:
         return InOpenType(r, [&] {
           PerReadFixedOctets(m.replaceWithConferenceInvite, r, 16);
           return kDecoded;
         });
-      default:
-        return SkipAlternative(r);
+      default: return SkipAlternative(r);
     }
   }
   switch (index) {
@@ -40,10 +38,8 @@ Status DecodeReleaseCompleteReason(ReleaseCompleteReason& m, PerReader& r) {
     case 8:
     case 9:
     case 10:
-    case 11:
-      return kDecoded;
-    default:
-      return kMalformed;
+    case 11: return kDecoded;
+    default: return kMalformed;
   }
 }
 
@@ -52,13 +48,9 @@ Status DecodeCallTerminationCause(CallTerminationCause& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 2);
   if (m.isExtension) return SkipAlternative(r);
   switch (index) {
-    case 0:
-      return DecodeReleaseCompleteReason(m.releaseCompleteReason, r);
-    case 1:
-      PerReadSizedOctets(m.releaseCompleteCauseIE, r, 31, 2);
-      return kDecoded;
-    default:
-      return kMalformed;
+    case 0: return DecodeReleaseCompleteReason(m.releaseCompleteReason, r);
+    case 1: PerReadSizedOctets(m.releaseCompleteCauseIE, r, 31, 2); return kDecoded;
+    default: return kMalformed;
   }
 }
 

@@ -23,59 +23,34 @@ struct ReleaseCompleteReason {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) {
       switch (m.choiceTag) {
-        case 0:
-          return v.Null("facilityCallDeflection");
-        case 1:
-          return v.Null("securityDenied");
-        case 2:
-          return v.Null("calledPartyNotRegistered");
-        case 3:
-          return v.Null("callerNotRegistered");
-        case 4:
-          return v.Null("newConnectionNeeded");
-        case 5:
-          return v.Record("nonStandardReason", m.nonStandardReason);
-        case 6:
-          return WalkOctets(v, "replaceWithConferenceInvite", m.replaceWithConferenceInvite);
-        case 7:
-          return v.Null("genericDataReason");
-        case 8:
-          return v.Null("neededFeatureNotSupported");
-        case 9:
-          return v.Null("tunnelledSignallingRejected");
-        case 10:
-          return v.Null("invalidCID");
-        default:
-          return v.UnknownExtension(m.choiceTag);
+        case 0: return v.Null("facilityCallDeflection");
+        case 1: return v.Null("securityDenied");
+        case 2: return v.Null("calledPartyNotRegistered");
+        case 3: return v.Null("callerNotRegistered");
+        case 4: return v.Null("newConnectionNeeded");
+        case 5: return v.Record("nonStandardReason", m.nonStandardReason);
+        case 6: return WalkOctets(v, "replaceWithConferenceInvite", m.replaceWithConferenceInvite);
+        case 7: return v.Null("genericDataReason");
+        case 8: return v.Null("neededFeatureNotSupported");
+        case 9: return v.Null("tunnelledSignallingRejected");
+        case 10: return v.Null("invalidCID");
+        default: return v.UnknownExtension(m.choiceTag);
       }
     }
     switch (m.choiceTag) {
-      case 0:
-        return v.Null("noBandwidth");
-      case 1:
-        return v.Null("gatekeeperResources");
-      case 2:
-        return v.Null("unreachableDestination");
-      case 3:
-        return v.Null("destinationRejection");
-      case 4:
-        return v.Null("invalidRevision");
-      case 5:
-        return v.Null("noPermission");
-      case 6:
-        return v.Null("unreachableGatekeeper");
-      case 7:
-        return v.Null("gatewayResources");
-      case 8:
-        return v.Null("badFormatAddress");
-      case 9:
-        return v.Null("adaptiveBusy");
-      case 10:
-        return v.Null("inConf");
-      case 11:
-        return v.Null("undefinedReason");
-      default:
-        return v.UnknownRoot(m.choiceTag);
+      case 0: return v.Null("noBandwidth");
+      case 1: return v.Null("gatekeeperResources");
+      case 2: return v.Null("unreachableDestination");
+      case 3: return v.Null("destinationRejection");
+      case 4: return v.Null("invalidRevision");
+      case 5: return v.Null("noPermission");
+      case 6: return v.Null("unreachableGatekeeper");
+      case 7: return v.Null("gatewayResources");
+      case 8: return v.Null("badFormatAddress");
+      case 9: return v.Null("adaptiveBusy");
+      case 10: return v.Null("inConf");
+      case 11: return v.Null("undefinedReason");
+      default: return v.UnknownRoot(m.choiceTag);
     }
   }
 };
@@ -92,12 +67,9 @@ struct CallTerminationCause {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) return v.UnknownExtension(m.choiceTag);
     switch (m.choiceTag) {
-      case 0:
-        return v.Record("releaseCompleteReason", m.releaseCompleteReason);
-      case 1:
-        return WalkOctets(v, "releaseCompleteCauseIE", m.releaseCompleteCauseIE);
-      default:
-        return v.UnknownRoot(m.choiceTag);
+      case 0: return v.Record("releaseCompleteReason", m.releaseCompleteReason);
+      case 1: return WalkOctets(v, "releaseCompleteCauseIE", m.releaseCompleteCauseIE);
+      default: return v.UnknownRoot(m.choiceTag);
     }
   }
 };

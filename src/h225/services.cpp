@@ -61,18 +61,11 @@ Status DecodeServiceControlDescriptor(ServiceControlDescriptor& m, PerReader& r)
   const uint32_t index = ReadChoice(m, r, 4);
   if (m.isExtension) return SkipAlternative(r);
   switch (index) {
-    case 0:
-      PerReadSizedOctets(m.url, r, 513, 0);
-      return kDecoded;
-    case 1:
-      PerReadOctetString(m.signal, r);
-      return kDecoded;
-    case 2:
-      return DecodeNonStandardParameter(m.nonStandard, r);
-    case 3:
-      return DecodeCallCreditServiceControl(m.callCreditServiceControl, r);
-    default:
-      return kMalformed;
+    case 0: PerReadSizedOctets(m.url, r, 513, 0); return kDecoded;
+    case 1: PerReadOctetString(m.signal, r); return kDecoded;
+    case 2: return DecodeNonStandardParameter(m.nonStandard, r);
+    case 3: return DecodeCallCreditServiceControl(m.callCreditServiceControl, r);
+    default: return kMalformed;
   }
 }
 

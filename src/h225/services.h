@@ -109,16 +109,11 @@ struct ServiceControlDescriptor {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) return v.UnknownExtension(m.choiceTag);
     switch (m.choiceTag) {
-      case 0:
-        return WalkOctets(v, "url", m.url, OctetNotation::kCharacters);
-      case 1:
-        return WalkOctets(v, "signal", m.signal);
-      case 2:
-        return v.Record("nonStandard", m.nonStandard);
-      case 3:
-        return v.Record("callCreditServiceControl", m.callCreditServiceControl);
-      default:
-        return v.UnknownRoot(m.choiceTag);
+      case 0: return WalkOctets(v, "url", m.url, OctetNotation::kCharacters);
+      case 1: return WalkOctets(v, "signal", m.signal);
+      case 2: return v.Record("nonStandard", m.nonStandard);
+      case 3: return v.Record("callCreditServiceControl", m.callCreditServiceControl);
+      default: return v.UnknownRoot(m.choiceTag);
     }
   }
 };

@@ -108,32 +108,16 @@ Status DecodeSetupUUIE(SetupUUIE& m, PerReader& r) {
       return DecodeSequenceOf(r, &m.cryptoTokensCount, Slot<CryptoH323Token>(&m.cryptoTokens), DecodeCryptoH323Token);
     }));
   if (m.hasFastStart) KELVRA_TRY(InOpenType(r, [&] { return DecodeFastStart(r, &m.fastStartCount, &m.fastStart); }));
-  if (m.hasMediaWaitForConnect)
-    KELVRA_TRY(InOpenType(r, [&] {
-      m.mediaWaitForConnect = PerReadBit(r);
-      return kDecoded;
-    }));
-  if (m.hasCanOverlapSend)
-    KELVRA_TRY(InOpenType(r, [&] {
-      m.canOverlapSend = PerReadBit(r);
-      return kDecoded;
-    }));
+  if (m.hasMediaWaitForConnect) m.mediaWaitForConnect = PerReadOpenBoolean(r);
+  if (m.hasCanOverlapSend) m.canOverlapSend = PerReadOpenBoolean(r);
   if (m.hasEndpointIdentifier) {
     KELVRA_TRY(InOpenType(r, [&] {
       PerReadCharacters16(m.endpointIdentifier, r, PerReadNumber<uint32_t>(r, 1, 128));
       return kDecoded;
     }));
   }
-  if (m.hasMultipleCalls)
-    KELVRA_TRY(InOpenType(r, [&] {
-      m.multipleCalls = PerReadBit(r);
-      return kDecoded;
-    }));
-  if (m.hasMaintainConnection)
-    KELVRA_TRY(InOpenType(r, [&] {
-      m.maintainConnection = PerReadBit(r);
-      return kDecoded;
-    }));
+  if (m.hasMultipleCalls) m.multipleCalls = PerReadOpenBoolean(r);
+  if (m.hasMaintainConnection) m.maintainConnection = PerReadOpenBoolean(r);
   if (m.hasConnectionParameters)
     KELVRA_TRY(InOpenType(r, [&] { return DecodeConnectionParameters(m.connectionParameters, r); }));
   if (m.hasLanguage)

@@ -99,67 +99,33 @@ void DecodeAudioCapability(AudioCapability& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 14);
   if (m.isExtension) {
     switch (index) {
-      case 0:
-        return InOpenType(r, [&] { m.g729wAnnexB = PerReadNumber<uint16_t>(r, 1, 256); });
-      case 1:
-        return InOpenType(r, [&] { m.g729AnnexAwAnnexB = PerReadNumber<uint16_t>(r, 1, 256); });
-      case 2:
-        return InOpenType(r, [&] { DecodeG7231AnnexCCapability(m.g7231AnnexCCapability, r); });
-      case 3:
-        return InOpenType(r, [&] { DecodeGSMAudioCapability(m.gsmFullRate, r); });
-      case 4:
-        return InOpenType(r, [&] { DecodeGSMAudioCapability(m.gsmHalfRate, r); });
-      case 5:
-        return InOpenType(r, [&] { DecodeGSMAudioCapability(m.gsmEnhancedFullRate, r); });
-      case 6:
-        return InOpenType(r, [&] { DecodeGenericCapability(m.genericAudioCapability, r); });
-      case 7:
-        return InOpenType(r, [&] { DecodeG729Extensions(m.g729Extensions, r); });
-      default:
-        return PerSkipOpenTypes(r, 1);
+      case 0: return InOpenType(r, [&] { m.g729wAnnexB = PerReadNumber<uint16_t>(r, 1, 256); });
+      case 1: return InOpenType(r, [&] { m.g729AnnexAwAnnexB = PerReadNumber<uint16_t>(r, 1, 256); });
+      case 2: return InOpenType(r, [&] { DecodeG7231AnnexCCapability(m.g7231AnnexCCapability, r); });
+      case 3: return InOpenType(r, [&] { DecodeGSMAudioCapability(m.gsmFullRate, r); });
+      case 4: return InOpenType(r, [&] { DecodeGSMAudioCapability(m.gsmHalfRate, r); });
+      case 5: return InOpenType(r, [&] { DecodeGSMAudioCapability(m.gsmEnhancedFullRate, r); });
+      case 6: return InOpenType(r, [&] { DecodeGenericCapability(m.genericAudioCapability, r); });
+      case 7: return InOpenType(r, [&] { DecodeG729Extensions(m.g729Extensions, r); });
+      default: return PerSkipOpenTypes(r, 1);
     }
   }
   switch (index) {
-    case 0:
-      return DecodeNonStandardParameter(m.nonStandard, r);
-    case 1:
-      m.g711Alaw64k = PerReadNumber<uint16_t>(r, 1, 256);
-      return;
-    case 2:
-      m.g711Alaw56k = PerReadNumber<uint16_t>(r, 1, 256);
-      return;
-    case 3:
-      m.g711Ulaw64k = PerReadNumber<uint16_t>(r, 1, 256);
-      return;
-    case 4:
-      m.g711Ulaw56k = PerReadNumber<uint16_t>(r, 1, 256);
-      return;
-    case 5:
-      m.g72264k = PerReadNumber<uint16_t>(r, 1, 256);
-      return;
-    case 6:
-      m.g72256k = PerReadNumber<uint16_t>(r, 1, 256);
-      return;
-    case 7:
-      m.g72248k = PerReadNumber<uint16_t>(r, 1, 256);
-      return;
-    case 8:
-      return DecodeG7231(m.g7231, r);
-    case 9:
-      m.g728 = PerReadNumber<uint16_t>(r, 1, 256);
-      return;
-    case 10:
-      m.g729 = PerReadNumber<uint16_t>(r, 1, 256);
-      return;
-    case 11:
-      m.g729AnnexA = PerReadNumber<uint16_t>(r, 1, 256);
-      return;
-    case 12:
-      return DecodeIS11172AudioCapability(m.is11172AudioCapability, r);
-    case 13:
-      return DecodeIS13818AudioCapability(m.is13818AudioCapability, r);
-    default:
-      return;
+    case 0: return DecodeNonStandardParameter(m.nonStandard, r);
+    case 1: m.g711Alaw64k = PerReadNumber<uint16_t>(r, 1, 256); return;
+    case 2: m.g711Alaw56k = PerReadNumber<uint16_t>(r, 1, 256); return;
+    case 3: m.g711Ulaw64k = PerReadNumber<uint16_t>(r, 1, 256); return;
+    case 4: m.g711Ulaw56k = PerReadNumber<uint16_t>(r, 1, 256); return;
+    case 5: m.g72264k = PerReadNumber<uint16_t>(r, 1, 256); return;
+    case 6: m.g72256k = PerReadNumber<uint16_t>(r, 1, 256); return;
+    case 7: m.g72248k = PerReadNumber<uint16_t>(r, 1, 256); return;
+    case 8: return DecodeG7231(m.g7231, r);
+    case 9: m.g728 = PerReadNumber<uint16_t>(r, 1, 256); return;
+    case 10: m.g729 = PerReadNumber<uint16_t>(r, 1, 256); return;
+    case 11: m.g729AnnexA = PerReadNumber<uint16_t>(r, 1, 256); return;
+    case 12: return DecodeIS11172AudioCapability(m.is11172AudioCapability, r);
+    case 13: return DecodeIS13818AudioCapability(m.is13818AudioCapability, r);
+    default: return;
   }
 }
 

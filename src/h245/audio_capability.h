@@ -202,57 +202,33 @@ struct AudioCapability {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) {
       switch (m.choiceTag) {
-        case 0:
-          return v.Number("g729wAnnexB", m.g729wAnnexB);
-        case 1:
-          return v.Number("g729AnnexAwAnnexB", m.g729AnnexAwAnnexB);
-        case 2:
-          return v.Record("g7231AnnexCCapability", m.g7231AnnexCCapability);
-        case 3:
-          return v.Record("gsmFullRate", m.gsmFullRate);
-        case 4:
-          return v.Record("gsmHalfRate", m.gsmHalfRate);
-        case 5:
-          return v.Record("gsmEnhancedFullRate", m.gsmEnhancedFullRate);
-        case 6:
-          return v.Record("genericAudioCapability", m.genericAudioCapability);
-        case 7:
-          return v.Record("g729Extensions", m.g729Extensions);
-        default:
-          return v.UnknownExtension(m.choiceTag);
+        case 0: return v.Number("g729wAnnexB", m.g729wAnnexB);
+        case 1: return v.Number("g729AnnexAwAnnexB", m.g729AnnexAwAnnexB);
+        case 2: return v.Record("g7231AnnexCCapability", m.g7231AnnexCCapability);
+        case 3: return v.Record("gsmFullRate", m.gsmFullRate);
+        case 4: return v.Record("gsmHalfRate", m.gsmHalfRate);
+        case 5: return v.Record("gsmEnhancedFullRate", m.gsmEnhancedFullRate);
+        case 6: return v.Record("genericAudioCapability", m.genericAudioCapability);
+        case 7: return v.Record("g729Extensions", m.g729Extensions);
+        default: return v.UnknownExtension(m.choiceTag);
       }
     }
     switch (m.choiceTag) {
-      case 0:
-        return v.Record("nonStandard", m.nonStandard);
-      case 1:
-        return v.Number("g711Alaw64k", m.g711Alaw64k);
-      case 2:
-        return v.Number("g711Alaw56k", m.g711Alaw56k);
-      case 3:
-        return v.Number("g711Ulaw64k", m.g711Ulaw64k);
-      case 4:
-        return v.Number("g711Ulaw56k", m.g711Ulaw56k);
-      case 5:
-        return v.Number("g722-64k", m.g72264k);
-      case 6:
-        return v.Number("g722-56k", m.g72256k);
-      case 7:
-        return v.Number("g722-48k", m.g72248k);
-      case 8:
-        return v.Record("g7231", m.g7231);
-      case 9:
-        return v.Number("g728", m.g728);
-      case 10:
-        return v.Number("g729", m.g729);
-      case 11:
-        return v.Number("g729AnnexA", m.g729AnnexA);
-      case 12:
-        return v.Record("is11172AudioCapability", m.is11172AudioCapability);
-      case 13:
-        return v.Record("is13818AudioCapability", m.is13818AudioCapability);
-      default:
-        return v.UnknownRoot(m.choiceTag);
+      case 0: return v.Record("nonStandard", m.nonStandard);
+      case 1: return v.Number("g711Alaw64k", m.g711Alaw64k);
+      case 2: return v.Number("g711Alaw56k", m.g711Alaw56k);
+      case 3: return v.Number("g711Ulaw64k", m.g711Ulaw64k);
+      case 4: return v.Number("g711Ulaw56k", m.g711Ulaw56k);
+      case 5: return v.Number("g722-64k", m.g72264k);
+      case 6: return v.Number("g722-56k", m.g72256k);
+      case 7: return v.Number("g722-48k", m.g72248k);
+      case 8: return v.Record("g7231", m.g7231);
+      case 9: return v.Number("g728", m.g728);
+      case 10: return v.Number("g729", m.g729);
+      case 11: return v.Number("g729AnnexA", m.g729AnnexA);
+      case 12: return v.Record("is11172AudioCapability", m.is11172AudioCapability);
+      case 13: return v.Record("is13818AudioCapability", m.is13818AudioCapability);
+      default: return v.UnknownRoot(m.choiceTag);
     }
   }
 };

@@ -26,39 +26,24 @@ void DecodeApplication(DataApplicationCapability::Application& m, PerReader& r) 
   const uint32_t index = ReadChoice(m, r, 10);
   if (m.isExtension) {
     switch (index) {
-      case 0:
-        return InOpenType(r, [&] { DecodeDataProtocolCapability(m.t30fax, r); });
-      case 1:
-        return InOpenType(r, [&] { DecodeDataProtocolCapability(m.t140, r); });
-      case 2:
-        return InOpenType(r, [&] { DecodeT38fax(m.t38fax, r); });
-      case 3:
-        return InOpenType(r, [&] { DecodeGenericCapability(m.genericDataCapability, r); });
-      default:
-        return PerSkipOpenTypes(r, 1);
+      case 0: return InOpenType(r, [&] { DecodeDataProtocolCapability(m.t30fax, r); });
+      case 1: return InOpenType(r, [&] { DecodeDataProtocolCapability(m.t140, r); });
+      case 2: return InOpenType(r, [&] { DecodeT38fax(m.t38fax, r); });
+      case 3: return InOpenType(r, [&] { DecodeGenericCapability(m.genericDataCapability, r); });
+      default: return PerSkipOpenTypes(r, 1);
     }
   }
   switch (index) {
-    case 0:
-      return DecodeNonStandardParameter(m.nonStandard, r);
-    case 1:
-      return DecodeDataProtocolCapability(m.t120, r);
-    case 2:
-      return DecodeDataProtocolCapability(m.dsmCc, r);
-    case 3:
-      return DecodeDataProtocolCapability(m.userData, r);
-    case 4:
-      return DecodeT84(m.t84, r);
-    case 5:
-      return DecodeDataProtocolCapability(m.t434, r);
-    case 6:
-      return DecodeDataProtocolCapability(m.h224, r);
-    case 7:
-      return DecodeNlpid(m.nlpid, r);
-    case 9:
-      return DecodeDataProtocolCapability(m.h222DataPartitioning, r);
-    default:
-      return;
+    case 0: return DecodeNonStandardParameter(m.nonStandard, r);
+    case 1: return DecodeDataProtocolCapability(m.t120, r);
+    case 2: return DecodeDataProtocolCapability(m.dsmCc, r);
+    case 3: return DecodeDataProtocolCapability(m.userData, r);
+    case 4: return DecodeT84(m.t84, r);
+    case 5: return DecodeDataProtocolCapability(m.t434, r);
+    case 6: return DecodeDataProtocolCapability(m.h224, r);
+    case 7: return DecodeNlpid(m.nlpid, r);
+    case 9: return DecodeDataProtocolCapability(m.h222DataPartitioning, r);
+    default: return;
   }
 }
 

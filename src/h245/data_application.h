@@ -66,41 +66,25 @@ struct DataApplicationCapability {
     static void Walk(Record& m, Visitor& v) {
       if (m.isExtension) {
         switch (m.choiceTag) {
-          case 0:
-            return v.Record("t30fax", m.t30fax);
-          case 1:
-            return v.Record("t140", m.t140);
-          case 2:
-            return v.Record("t38fax", m.t38fax);
-          case 3:
-            return v.Record("genericDataCapability", m.genericDataCapability);
-          default:
-            return v.UnknownExtension(m.choiceTag);
+          case 0: return v.Record("t30fax", m.t30fax);
+          case 1: return v.Record("t140", m.t140);
+          case 2: return v.Record("t38fax", m.t38fax);
+          case 3: return v.Record("genericDataCapability", m.genericDataCapability);
+          default: return v.UnknownExtension(m.choiceTag);
         }
       }
       switch (m.choiceTag) {
-        case 0:
-          return v.Record("nonStandard", m.nonStandard);
-        case 1:
-          return v.Record("t120", m.t120);
-        case 2:
-          return v.Record("dsm-cc", m.dsmCc);
-        case 3:
-          return v.Record("userData", m.userData);
-        case 4:
-          return v.Record("t84", m.t84);
-        case 5:
-          return v.Record("t434", m.t434);
-        case 6:
-          return v.Record("h224", m.h224);
-        case 7:
-          return v.Record("nlpid", m.nlpid);
-        case 8:
-          return v.Null("dsvdControl");
-        case 9:
-          return v.Record("h222DataPartitioning", m.h222DataPartitioning);
-        default:
-          return v.UnknownRoot(m.choiceTag);
+        case 0: return v.Record("nonStandard", m.nonStandard);
+        case 1: return v.Record("t120", m.t120);
+        case 2: return v.Record("dsm-cc", m.dsmCc);
+        case 3: return v.Record("userData", m.userData);
+        case 4: return v.Record("t84", m.t84);
+        case 5: return v.Record("t434", m.t434);
+        case 6: return v.Record("h224", m.h224);
+        case 7: return v.Record("nlpid", m.nlpid);
+        case 8: return v.Null("dsvdControl");
+        case 9: return v.Record("h222DataPartitioning", m.h222DataPartitioning);
+        default: return v.UnknownRoot(m.choiceTag);
       }
     }
   };

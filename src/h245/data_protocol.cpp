@@ -9,14 +9,10 @@ void DecodeV76wCompression(DataProtocolCapability::V76wCompression& m, PerReader
   const uint32_t index = ReadChoice(m, r, 3);
   if (m.isExtension) return PerSkipOpenTypes(r, 1);
   switch (index) {
-    case 0:
-      return DecodeCompressionType(m.transmitCompression, r);
-    case 1:
-      return DecodeCompressionType(m.receiveCompression, r);
-    case 2:
-      return DecodeCompressionType(m.transmitAndReceiveCompression, r);
-    default:
-      return;
+    case 0: return DecodeCompressionType(m.transmitCompression, r);
+    case 1: return DecodeCompressionType(m.receiveCompression, r);
+    case 2: return DecodeCompressionType(m.transmitAndReceiveCompression, r);
+    default: return;
   }
 }
 
@@ -57,10 +53,8 @@ void DecodeCompressionType(CompressionType& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 1);
   if (m.isExtension) return PerSkipOpenTypes(r, 1);
   switch (index) {
-    case 0:
-      return DecodeV42bis(m.v42bis, r);
-    default:
-      return;
+    case 0: return DecodeV42bis(m.v42bis, r);
+    default: return;
   }
 }
 
@@ -68,27 +62,21 @@ void DecodeDataProtocolCapability(DataProtocolCapability& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 7);
   if (m.isExtension) {
     switch (index) {
-      case 4:
-        return InOpenType(r, [&] { DecodeV76wCompression(m.v76wCompression, r); });
-      default:
-        return PerSkipOpenTypes(r, 1);
+      case 4: return InOpenType(r, [&] { DecodeV76wCompression(m.v76wCompression, r); });
+      default: return PerSkipOpenTypes(r, 1);
     }
   }
   switch (index) {
-    case 0:
-      return DecodeNonStandardParameter(m.nonStandard, r);
-    default:
-      return;
+    case 0: return DecodeNonStandardParameter(m.nonStandard, r);
+    default: return;
   }
 }
 
 void DecodeT84Profile(T84Profile& m, PerReader& r) {
   const uint32_t index = ReadRootChoice(m, r, 2);
   switch (index) {
-    case 1:
-      return DecodeT84Restricted(m.t84Restricted, r);
-    default:
-      return;
+    case 1: return DecodeT84Restricted(m.t84Restricted, r);
+    default: return;
   }
 }
 

@@ -33,10 +33,8 @@ struct CompressionType {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) return v.UnknownExtension(m.choiceTag);
     switch (m.choiceTag) {
-      case 0:
-        return v.Record("v42bis", m.v42bis);
-      default:
-        return v.UnknownRoot(m.choiceTag);
+      case 0: return v.Record("v42bis", m.v42bis);
+      default: return v.UnknownRoot(m.choiceTag);
     }
   }
 };
@@ -55,14 +53,10 @@ struct DataProtocolCapability {
     static void Walk(Record& m, Visitor& v) {
       if (m.isExtension) return v.UnknownExtension(m.choiceTag);
       switch (m.choiceTag) {
-        case 0:
-          return v.Record("transmitCompression", m.transmitCompression);
-        case 1:
-          return v.Record("receiveCompression", m.receiveCompression);
-        case 2:
-          return v.Record("transmitAndReceiveCompression", m.transmitAndReceiveCompression);
-        default:
-          return v.UnknownRoot(m.choiceTag);
+        case 0: return v.Record("transmitCompression", m.transmitCompression);
+        case 1: return v.Record("receiveCompression", m.receiveCompression);
+        case 2: return v.Record("transmitAndReceiveCompression", m.transmitAndReceiveCompression);
+        default: return v.UnknownRoot(m.choiceTag);
       }
     }
   };
@@ -78,41 +72,25 @@ struct DataProtocolCapability {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) {
       switch (m.choiceTag) {
-        case 0:
-          return v.Null("segmentationAndReassembly");
-        case 1:
-          return v.Null("hdlcFrameTunnelingwSAR");
-        case 2:
-          return v.Null("v120");
-        case 3:
-          return v.Null("separateLANStack");
-        case 4:
-          return v.Record("v76wCompression", m.v76wCompression);
-        case 5:
-          return v.Null("tcp");
-        case 6:
-          return v.Null("udp");
-        default:
-          return v.UnknownExtension(m.choiceTag);
+        case 0: return v.Null("segmentationAndReassembly");
+        case 1: return v.Null("hdlcFrameTunnelingwSAR");
+        case 2: return v.Null("v120");
+        case 3: return v.Null("separateLANStack");
+        case 4: return v.Record("v76wCompression", m.v76wCompression);
+        case 5: return v.Null("tcp");
+        case 6: return v.Null("udp");
+        default: return v.UnknownExtension(m.choiceTag);
       }
     }
     switch (m.choiceTag) {
-      case 0:
-        return v.Record("nonStandard", m.nonStandard);
-      case 1:
-        return v.Null("v14buffered");
-      case 2:
-        return v.Null("v42lapm");
-      case 3:
-        return v.Null("hdlcFrameTunnelling");
-      case 4:
-        return v.Null("h310SeparateVCStack");
-      case 5:
-        return v.Null("h310SingleVCStack");
-      case 6:
-        return v.Null("transparent");
-      default:
-        return v.UnknownRoot(m.choiceTag);
+      case 0: return v.Record("nonStandard", m.nonStandard);
+      case 1: return v.Null("v14buffered");
+      case 2: return v.Null("v42lapm");
+      case 3: return v.Null("hdlcFrameTunnelling");
+      case 4: return v.Null("h310SeparateVCStack");
+      case 5: return v.Null("h310SingleVCStack");
+      case 6: return v.Null("transparent");
+      default: return v.UnknownRoot(m.choiceTag);
     }
   }
 };
@@ -172,12 +150,9 @@ struct T84Profile {
   template <class Record, class Visitor>
   static void Walk(Record& m, Visitor& v) {
     switch (m.choiceTag) {
-      case 0:
-        return v.Null("t84Unrestricted");
-      case 1:
-        return v.Record("t84Restricted", m.t84Restricted);
-      default:
-        return v.UnknownRoot(m.choiceTag);
+      case 0: return v.Null("t84Unrestricted");
+      case 1: return v.Record("t84Restricted", m.t84Restricted);
+      default: return v.UnknownRoot(m.choiceTag);
     }
   }
 };

@@ -21,8 +21,7 @@ void DecodeFrameToThreadMapping(RTPH263VideoRedundancyEncoding::FrameToThreadMap
                       DecodeRTPH263VideoRedundancyFrameMapping))
         return;
       return;
-    default:
-      return;
+    default: return;
   }
 }
 
@@ -63,12 +62,9 @@ void DecodeSeparateStream(FECData::Rfc2733::Mode::SeparateStream& m, PerReader& 
   const uint32_t index = ReadChoice(m, r, 2);
   if (m.isExtension) return PerSkipOpenTypes(r, 1);
   switch (index) {
-    case 0:
-      return DecodeDifferentPort(m.differentPort, r);
-    case 1:
-      return DecodeSamePort(m.samePort, r);
-    default:
-      return;
+    case 0: return DecodeDifferentPort(m.differentPort, r);
+    case 1: return DecodeSamePort(m.samePort, r);
+    default: return;
   }
 }
 
@@ -76,10 +72,8 @@ void DecodeMode(FECData::Rfc2733::Mode& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 2);
   if (m.isExtension) return PerSkipOpenTypes(r, 1);
   switch (index) {
-    case 1:
-      return DecodeSeparateStream(m.separateStream, r);
-    default:
-      return;
+    case 1: return DecodeSeparateStream(m.separateStream, r);
+    default: return;
   }
 }
 
@@ -93,27 +87,18 @@ void DecodeMediaType(H235Media::MediaType& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 4);
   if (m.isExtension) {
     switch (index) {
-      case 0:
-        return InOpenType(r, [&] { DecodeRedundancyEncoding(m.redundancyEncoding, r); });
-      case 1:
-        return InOpenType(r, [&] { DecodeMultiplePayloadStream(m.multiplePayloadStream, r); });
-      case 2:
-        return InOpenType(r, [&] { DecodeFECData(m.fec, r); });
-      default:
-        return PerSkipOpenTypes(r, 1);
+      case 0: return InOpenType(r, [&] { DecodeRedundancyEncoding(m.redundancyEncoding, r); });
+      case 1: return InOpenType(r, [&] { DecodeMultiplePayloadStream(m.multiplePayloadStream, r); });
+      case 2: return InOpenType(r, [&] { DecodeFECData(m.fec, r); });
+      default: return PerSkipOpenTypes(r, 1);
     }
   }
   switch (index) {
-    case 0:
-      return DecodeNonStandardParameter(m.nonStandard, r);
-    case 1:
-      return DecodeVideoCapability(m.videoData, r);
-    case 2:
-      return DecodeAudioCapability(m.audioData, r);
-    case 3:
-      return DecodeDataApplicationCapability(m.data, r);
-    default:
-      return;
+    case 0: return DecodeNonStandardParameter(m.nonStandard, r);
+    case 1: return DecodeVideoCapability(m.videoData, r);
+    case 2: return DecodeAudioCapability(m.audioData, r);
+    case 3: return DecodeDataApplicationCapability(m.data, r);
+    default: return;
   }
 }
 
@@ -148,17 +133,13 @@ void DecodeRedundancyEncodingMethod(RedundancyEncodingMethod& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 2);
   if (m.isExtension) {
     switch (index) {
-      case 0:
-        return InOpenType(r, [&] { DecodeRTPH263VideoRedundancyEncoding(m.rtpH263VideoRedundancyEncoding, r); });
-      default:
-        return PerSkipOpenTypes(r, 1);
+      case 0: return InOpenType(r, [&] { DecodeRTPH263VideoRedundancyEncoding(m.rtpH263VideoRedundancyEncoding, r); });
+      default: return PerSkipOpenTypes(r, 1);
     }
   }
   switch (index) {
-    case 0:
-      return DecodeNonStandardParameter(m.nonStandard, r);
-    default:
-      return;
+    case 0: return DecodeNonStandardParameter(m.nonStandard, r);
+    default: return;
   }
 }
 
@@ -203,10 +184,8 @@ void DecodeMultiplePayloadStream(MultiplePayloadStream& m, PerReader& r) {
 void DecodeFECData(FECData& m, PerReader& r) {
   const uint32_t index = ReadRootChoice(m, r, 1);
   switch (index) {
-    case 0:
-      return DecodeRfc2733(m.rfc2733, r);
-    default:
-      return;
+    case 0: return DecodeRfc2733(m.rfc2733, r);
+    default: return;
   }
 }
 
@@ -230,35 +209,22 @@ void DecodeDataType(DataType& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 6);
   if (m.isExtension) {
     switch (index) {
-      case 0:
-        return InOpenType(r, [&] { DecodeNonStandardParameter(m.h235Control, r); });
-      case 1:
-        return InOpenType(r, [&] { DecodeH235Media(m.h235Media, r); });
-      case 2:
-        return InOpenType(r, [&] { DecodeMultiplexedStreamParameter(m.multiplexedStream, r); });
-      case 3:
-        return InOpenType(r, [&] { DecodeRedundancyEncoding(m.redundancyEncoding, r); });
-      case 4:
-        return InOpenType(r, [&] { DecodeMultiplePayloadStream(m.multiplePayloadStream, r); });
-      case 5:
-        return InOpenType(r, [&] { DecodeFECData(m.fec, r); });
-      default:
-        return PerSkipOpenTypes(r, 1);
+      case 0: return InOpenType(r, [&] { DecodeNonStandardParameter(m.h235Control, r); });
+      case 1: return InOpenType(r, [&] { DecodeH235Media(m.h235Media, r); });
+      case 2: return InOpenType(r, [&] { DecodeMultiplexedStreamParameter(m.multiplexedStream, r); });
+      case 3: return InOpenType(r, [&] { DecodeRedundancyEncoding(m.redundancyEncoding, r); });
+      case 4: return InOpenType(r, [&] { DecodeMultiplePayloadStream(m.multiplePayloadStream, r); });
+      case 5: return InOpenType(r, [&] { DecodeFECData(m.fec, r); });
+      default: return PerSkipOpenTypes(r, 1);
     }
   }
   switch (index) {
-    case 0:
-      return DecodeNonStandardParameter(m.nonStandard, r);
-    case 2:
-      return DecodeVideoCapability(m.videoData, r);
-    case 3:
-      return DecodeAudioCapability(m.audioData, r);
-    case 4:
-      return DecodeDataApplicationCapability(m.data, r);
-    case 5:
-      return DecodeEncryptionMode(m.encryptionData, r);
-    default:
-      return;
+    case 0: return DecodeNonStandardParameter(m.nonStandard, r);
+    case 2: return DecodeVideoCapability(m.videoData, r);
+    case 3: return DecodeAudioCapability(m.audioData, r);
+    case 4: return DecodeDataApplicationCapability(m.data, r);
+    case 5: return DecodeEncryptionMode(m.encryptionData, r);
+    default: return;
   }
 }
 

@@ -45,12 +45,9 @@ struct RTPH263VideoRedundancyEncoding {
     static void Walk(Record& m, Visitor& v) {
       if (m.isExtension) return v.UnknownExtension(m.choiceTag);
       switch (m.choiceTag) {
-        case 0:
-          return v.Null("roundrobin");
-        case 1:
-          return v.List("custom", Slot<RTPH263VideoRedundancyFrameMapping>(&m.custom.elements), m.custom.count);
-        default:
-          return v.UnknownRoot(m.choiceTag);
+        case 0: return v.Null("roundrobin");
+        case 1: return v.List("custom", Slot<RTPH263VideoRedundancyFrameMapping>(&m.custom.elements), m.custom.count);
+        default: return v.UnknownRoot(m.choiceTag);
       }
     }
   };
@@ -85,19 +82,14 @@ struct RedundancyEncodingMethod {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) {
       switch (m.choiceTag) {
-        case 0:
-          return v.Record("rtpH263VideoRedundancyEncoding", m.rtpH263VideoRedundancyEncoding);
-        default:
-          return v.UnknownExtension(m.choiceTag);
+        case 0: return v.Record("rtpH263VideoRedundancyEncoding", m.rtpH263VideoRedundancyEncoding);
+        default: return v.UnknownExtension(m.choiceTag);
       }
     }
     switch (m.choiceTag) {
-      case 0:
-        return v.Record("nonStandard", m.nonStandard);
-      case 1:
-        return v.Null("rtpAudioRedundancyEncoding");
-      default:
-        return v.UnknownRoot(m.choiceTag);
+      case 0: return v.Record("nonStandard", m.nonStandard);
+      case 1: return v.Null("rtpAudioRedundancyEncoding");
+      default: return v.UnknownRoot(m.choiceTag);
     }
   }
 };
@@ -208,12 +200,9 @@ struct FECData {
         static void Walk(Record& m, Visitor& v) {
           if (m.isExtension) return v.UnknownExtension(m.choiceTag);
           switch (m.choiceTag) {
-            case 0:
-              return v.Record("differentPort", m.differentPort);
-            case 1:
-              return v.Record("samePort", m.samePort);
-            default:
-              return v.UnknownRoot(m.choiceTag);
+            case 0: return v.Record("differentPort", m.differentPort);
+            case 1: return v.Record("samePort", m.samePort);
+            default: return v.UnknownRoot(m.choiceTag);
           }
         }
       };
@@ -228,12 +217,9 @@ struct FECData {
       static void Walk(Record& m, Visitor& v) {
         if (m.isExtension) return v.UnknownExtension(m.choiceTag);
         switch (m.choiceTag) {
-          case 0:
-            return v.Null("redundancyEncoding");
-          case 1:
-            return v.Record("separateStream", m.separateStream);
-          default:
-            return v.UnknownRoot(m.choiceTag);
+          case 0: return v.Null("redundancyEncoding");
+          case 1: return v.Record("separateStream", m.separateStream);
+          default: return v.UnknownRoot(m.choiceTag);
         }
       }
     };
@@ -255,10 +241,8 @@ struct FECData {
   template <class Record, class Visitor>
   static void Walk(Record& m, Visitor& v) {
     switch (m.choiceTag) {
-      case 0:
-        return v.Record("rfc2733", m.rfc2733);
-      default:
-        return v.UnknownRoot(m.choiceTag);
+      case 0: return v.Record("rfc2733", m.rfc2733);
+      default: return v.UnknownRoot(m.choiceTag);
     }
   }
 };
@@ -293,27 +277,18 @@ struct H235Media {
     static void Walk(Record& m, Visitor& v) {
       if (m.isExtension) {
         switch (m.choiceTag) {
-          case 0:
-            return v.Record("redundancyEncoding", m.redundancyEncoding);
-          case 1:
-            return v.Record("multiplePayloadStream", m.multiplePayloadStream);
-          case 2:
-            return v.Record("fec", m.fec);
-          default:
-            return v.UnknownExtension(m.choiceTag);
+          case 0: return v.Record("redundancyEncoding", m.redundancyEncoding);
+          case 1: return v.Record("multiplePayloadStream", m.multiplePayloadStream);
+          case 2: return v.Record("fec", m.fec);
+          default: return v.UnknownExtension(m.choiceTag);
         }
       }
       switch (m.choiceTag) {
-        case 0:
-          return v.Record("nonStandard", m.nonStandard);
-        case 1:
-          return v.Record("videoData", m.videoData);
-        case 2:
-          return v.Record("audioData", m.audioData);
-        case 3:
-          return v.Record("data", m.data);
-        default:
-          return v.UnknownRoot(m.choiceTag);
+        case 0: return v.Record("nonStandard", m.nonStandard);
+        case 1: return v.Record("videoData", m.videoData);
+        case 2: return v.Record("audioData", m.audioData);
+        case 3: return v.Record("data", m.data);
+        default: return v.UnknownRoot(m.choiceTag);
       }
     }
   };
@@ -350,37 +325,23 @@ struct DataType {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) {
       switch (m.choiceTag) {
-        case 0:
-          return v.Record("h235Control", m.h235Control);
-        case 1:
-          return v.Record("h235Media", m.h235Media);
-        case 2:
-          return v.Record("multiplexedStream", m.multiplexedStream);
-        case 3:
-          return v.Record("redundancyEncoding", m.redundancyEncoding);
-        case 4:
-          return v.Record("multiplePayloadStream", m.multiplePayloadStream);
-        case 5:
-          return v.Record("fec", m.fec);
-        default:
-          return v.UnknownExtension(m.choiceTag);
+        case 0: return v.Record("h235Control", m.h235Control);
+        case 1: return v.Record("h235Media", m.h235Media);
+        case 2: return v.Record("multiplexedStream", m.multiplexedStream);
+        case 3: return v.Record("redundancyEncoding", m.redundancyEncoding);
+        case 4: return v.Record("multiplePayloadStream", m.multiplePayloadStream);
+        case 5: return v.Record("fec", m.fec);
+        default: return v.UnknownExtension(m.choiceTag);
       }
     }
     switch (m.choiceTag) {
-      case 0:
-        return v.Record("nonStandard", m.nonStandard);
-      case 1:
-        return v.Null("nullData");
-      case 2:
-        return v.Record("videoData", m.videoData);
-      case 3:
-        return v.Record("audioData", m.audioData);
-      case 4:
-        return v.Record("data", m.data);
-      case 5:
-        return v.Record("encryptionData", m.encryptionData);
-      default:
-        return v.UnknownRoot(m.choiceTag);
+      case 0: return v.Record("nonStandard", m.nonStandard);
+      case 1: return v.Null("nullData");
+      case 2: return v.Record("videoData", m.videoData);
+      case 3: return v.Record("audioData", m.audioData);
+      case 4: return v.Record("data", m.data);
+      case 5: return v.Record("encryptionData", m.encryptionData);
+      default: return v.UnknownRoot(m.choiceTag);
     }
   }
 };

@@ -8,10 +8,8 @@ void DecodeEncryptionMode(EncryptionMode& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 2);
   if (m.isExtension) return PerSkipOpenTypes(r, 1);
   switch (index) {
-    case 0:
-      return DecodeNonStandardParameter(m.nonStandard, r);
-    default:
-      return;
+    case 0: return DecodeNonStandardParameter(m.nonStandard, r);
+    default: return;
   }
 }
 
@@ -19,12 +17,9 @@ void DecodeMediaEncryptionAlgorithm(MediaEncryptionAlgorithm& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 2);
   if (m.isExtension) return PerSkipOpenTypes(r, 1);
   switch (index) {
-    case 0:
-      return DecodeNonStandardParameter(m.nonStandard, r);
-    case 1:
-      return PerReadObjectIdentifier(m.algorithm, r);
-    default:
-      return;
+    case 0: return DecodeNonStandardParameter(m.nonStandard, r);
+    case 1: return PerReadObjectIdentifier(m.algorithm, r);
+    default: return;
   }
 }
 

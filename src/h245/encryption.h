@@ -20,12 +20,9 @@ struct EncryptionMode {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) return v.UnknownExtension(m.choiceTag);
     switch (m.choiceTag) {
-      case 0:
-        return v.Record("nonStandard", m.nonStandard);
-      case 1:
-        return v.Null("h233Encryption");
-      default:
-        return v.UnknownRoot(m.choiceTag);
+      case 0: return v.Record("nonStandard", m.nonStandard);
+      case 1: return v.Null("h233Encryption");
+      default: return v.UnknownRoot(m.choiceTag);
     }
   }
 };
@@ -42,12 +39,9 @@ struct MediaEncryptionAlgorithm {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) return v.UnknownExtension(m.choiceTag);
     switch (m.choiceTag) {
-      case 0:
-        return v.Record("nonStandard", m.nonStandard);
-      case 1:
-        return v.ObjectIdentifier("algorithm", m.algorithm);
-      default:
-        return v.UnknownRoot(m.choiceTag);
+      case 0: return v.Record("nonStandard", m.nonStandard);
+      case 1: return v.ObjectIdentifier("algorithm", m.algorithm);
+      default: return v.UnknownRoot(m.choiceTag);
     }
   }
 };

@@ -9,16 +9,11 @@ void DecodeCapabilityIdentifier(CapabilityIdentifier& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 4);
   if (m.isExtension) return PerSkipOpenTypes(r, 1);
   switch (index) {
-    case 0:
-      return PerReadObjectIdentifier(m.standard, r);
-    case 1:
-      return DecodeNonStandardParameter(m.h221NonStandard, r);
-    case 2:
-      return PerReadFixedOctets(m.uuid, r, 16);
-    case 3:
-      return PerReadSizedOctets(m.domainBased, r, 64, 1);
-    default:
-      return;
+    case 0: return PerReadObjectIdentifier(m.standard, r);
+    case 1: return DecodeNonStandardParameter(m.h221NonStandard, r);
+    case 2: return PerReadFixedOctets(m.uuid, r, 16);
+    case 3: return PerReadSizedOctets(m.domainBased, r, 64, 1);
+    default: return;
   }
 }
 
@@ -26,17 +21,11 @@ void DecodeParameterIdentifier(ParameterIdentifier& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 4);
   if (m.isExtension) return PerSkipOpenTypes(r, 1);
   switch (index) {
-    case 0:
-      m.standard = PerReadNumber<uint8_t>(r, 0, 127);
-      return;
-    case 1:
-      return DecodeNonStandardParameter(m.h221NonStandard, r);
-    case 2:
-      return PerReadFixedOctets(m.uuid, r, 16);
-    case 3:
-      return PerReadSizedOctets(m.domainBased, r, 64, 1);
-    default:
-      return;
+    case 0: m.standard = PerReadNumber<uint8_t>(r, 0, 127); return;
+    case 1: return DecodeNonStandardParameter(m.h221NonStandard, r);
+    case 2: return PerReadFixedOctets(m.uuid, r, 16);
+    case 3: return PerReadSizedOctets(m.domainBased, r, 64, 1);
+    default: return;
   }
 }
 
@@ -44,30 +33,18 @@ void DecodeParameterValue(ParameterValue& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 8);
   if (m.isExtension) return PerSkipOpenTypes(r, 1);
   switch (index) {
-    case 1:
-      m.booleanArray = PerReadNumber<uint8_t>(r, 0, 255);
-      return;
-    case 2:
-      m.unsignedMin = PerReadNumber<uint16_t>(r, 0, 65535);
-      return;
-    case 3:
-      m.unsignedMax = PerReadNumber<uint16_t>(r, 0, 65535);
-      return;
-    case 4:
-      m.unsigned32Min = PerReadNumber<uint32_t>(r, 0, kUnsigned32Maximum);
-      return;
-    case 5:
-      m.unsigned32Max = PerReadNumber<uint32_t>(r, 0, kUnsigned32Maximum);
-      return;
-    case 6:
-      return PerReadOctetString(m.octetString, r);
+    case 1: m.booleanArray = PerReadNumber<uint8_t>(r, 0, 255); return;
+    case 2: m.unsignedMin = PerReadNumber<uint16_t>(r, 0, 65535); return;
+    case 3: m.unsignedMax = PerReadNumber<uint16_t>(r, 0, 65535); return;
+    case 4: m.unsigned32Min = PerReadNumber<uint32_t>(r, 0, kUnsigned32Maximum); return;
+    case 5: m.unsigned32Max = PerReadNumber<uint32_t>(r, 0, kUnsigned32Maximum); return;
+    case 6: return PerReadOctetString(m.octetString, r);
     case 7:
       if (!DecodeSequenceOf(r, &m.genericParameter.count, Slot<GenericParameter>(&m.genericParameter.elements),
                             DecodeGenericParameter))
         return;
       return;
-    default:
-      return;
+    default: return;
   }
 }
 

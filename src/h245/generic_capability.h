@@ -25,16 +25,11 @@ struct CapabilityIdentifier {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) return v.UnknownExtension(m.choiceTag);
     switch (m.choiceTag) {
-      case 0:
-        return v.ObjectIdentifier("standard", m.standard);
-      case 1:
-        return v.Record("h221NonStandard", m.h221NonStandard);
-      case 2:
-        return WalkOctets(v, "uuid", m.uuid);
-      case 3:
-        return WalkOctets(v, "domainBased", m.domainBased, OctetNotation::kCharacters);
-      default:
-        return v.UnknownRoot(m.choiceTag);
+      case 0: return v.ObjectIdentifier("standard", m.standard);
+      case 1: return v.Record("h221NonStandard", m.h221NonStandard);
+      case 2: return WalkOctets(v, "uuid", m.uuid);
+      case 3: return WalkOctets(v, "domainBased", m.domainBased, OctetNotation::kCharacters);
+      default: return v.UnknownRoot(m.choiceTag);
     }
   }
 };
@@ -53,16 +48,11 @@ struct ParameterIdentifier {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) return v.UnknownExtension(m.choiceTag);
     switch (m.choiceTag) {
-      case 0:
-        return v.Number("standard", m.standard);
-      case 1:
-        return v.Record("h221NonStandard", m.h221NonStandard);
-      case 2:
-        return WalkOctets(v, "uuid", m.uuid);
-      case 3:
-        return WalkOctets(v, "domainBased", m.domainBased, OctetNotation::kCharacters);
-      default:
-        return v.UnknownRoot(m.choiceTag);
+      case 0: return v.Number("standard", m.standard);
+      case 1: return v.Record("h221NonStandard", m.h221NonStandard);
+      case 2: return WalkOctets(v, "uuid", m.uuid);
+      case 3: return WalkOctets(v, "domainBased", m.domainBased, OctetNotation::kCharacters);
+      default: return v.UnknownRoot(m.choiceTag);
     }
   }
 };
@@ -89,25 +79,17 @@ struct ParameterValue {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) return v.UnknownExtension(m.choiceTag);
     switch (m.choiceTag) {
-      case 0:
-        return v.Null("logical");
-      case 1:
-        return v.Number("booleanArray", m.booleanArray);
-      case 2:
-        return v.Number("unsignedMin", m.unsignedMin);
-      case 3:
-        return v.Number("unsignedMax", m.unsignedMax);
-      case 4:
-        return v.Number("unsigned32Min", m.unsigned32Min);
-      case 5:
-        return v.Number("unsigned32Max", m.unsigned32Max);
-      case 6:
-        return WalkOctets(v, "octetString", m.octetString);
+      case 0: return v.Null("logical");
+      case 1: return v.Number("booleanArray", m.booleanArray);
+      case 2: return v.Number("unsignedMin", m.unsignedMin);
+      case 3: return v.Number("unsignedMax", m.unsignedMax);
+      case 4: return v.Number("unsigned32Min", m.unsigned32Min);
+      case 5: return v.Number("unsigned32Max", m.unsigned32Max);
+      case 6: return WalkOctets(v, "octetString", m.octetString);
       case 7:
         return v.List("genericParameter", Slot<GenericParameter>(&m.genericParameter.elements),
                       m.genericParameter.count);
-      default:
-        return v.UnknownRoot(m.choiceTag);
+      default: return v.UnknownRoot(m.choiceTag);
     }
   }
 };

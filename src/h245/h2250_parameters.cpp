@@ -73,10 +73,8 @@ void DecodeMediaTransportType(MediaTransportType& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 4);
   if (m.isExtension) {
     switch (index) {
-      case 0:
-        return InOpenType(r, [&] { DecodeAtmAAL5Compressed(m.atmAAL5Compressed, r); });
-      default:
-        return PerSkipOpenTypes(r, 1);
+      case 0: return InOpenType(r, [&] { DecodeAtmAAL5Compressed(m.atmAAL5Compressed, r); });
+      default: return PerSkipOpenTypes(r, 1);
     }
   }
 }
@@ -167,7 +165,7 @@ void DecodeH2250LogicalChannelAckParameters(H2250LogicalChannelAckParameters& m,
   m.hasFlowControlToZero = PerReadAdditionBit(r, additions, 0);
   m.hasPortNumber = PerReadAdditionBit(r, additions, 1);
   const int32_t unknown = PerCountUnknownAdditions(r, additions, 2);
-  if (m.hasFlowControlToZero) InOpenType(r, [&] { m.flowControlToZero = PerReadBit(r); });
+  if (m.hasFlowControlToZero) m.flowControlToZero = PerReadOpenBoolean(r);
   if (m.hasPortNumber) InOpenType(r, [&] { m.portNumber = PerReadNumber<uint16_t>(r, 0, 65535); });
   PerSkipOpenTypes(r, unknown);
 }

@@ -112,23 +112,16 @@ struct MediaTransportType {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) {
       switch (m.choiceTag) {
-        case 0:
-          return v.Record("atm-AAL5-compressed", m.atmAAL5Compressed);
-        default:
-          return v.UnknownExtension(m.choiceTag);
+        case 0: return v.Record("atm-AAL5-compressed", m.atmAAL5Compressed);
+        default: return v.UnknownExtension(m.choiceTag);
       }
     }
     switch (m.choiceTag) {
-      case 0:
-        return v.Null("ip-UDP");
-      case 1:
-        return v.Null("ip-TCP");
-      case 2:
-        return v.Null("atm-AAL5-UNIDIR");
-      case 3:
-        return v.Null("atm-AAL5-BIDIR");
-      default:
-        return v.UnknownRoot(m.choiceTag);
+      case 0: return v.Null("ip-UDP");
+      case 1: return v.Null("ip-TCP");
+      case 2: return v.Null("atm-AAL5-UNIDIR");
+      case 3: return v.Null("atm-AAL5-BIDIR");
+      default: return v.UnknownRoot(m.choiceTag);
     }
   }
 };
@@ -177,12 +170,9 @@ struct H2250LogicalChannelParameters {
     static void Walk(Record& m, Visitor& v) {
       if (!m.isExtension) return v.Null("h261aVideoPacketization");
       switch (m.choiceTag) {
-        case 0:
-          return v.Null("rtpPayloadType");
-        case 1:
-          return v.Number("extension-1", m.mediaPacketizationOctet);
-        default:
-          return v.UnknownExtension(m.choiceTag);
+        case 0: return v.Null("rtpPayloadType");
+        case 1: return v.Number("extension-1", m.mediaPacketizationOctet);
+        default: return v.UnknownExtension(m.choiceTag);
       }
     }
   };

@@ -34,14 +34,10 @@ void DecodeMultimediaSystemControlMessage(H245MessageRecord& m, PerReader& r) {
   }
   m.choiceTag = static_cast<uint8_t>(PerReadConstrainedWholeNumber(r, 4));
   switch (m.choiceTag) {
-    case kRequest:
-      return DecodeRequestMessage(m.request, r);
-    case kResponse:
-      return DecodeResponseMessage(m.response, r);
-    case kCommand:
-      return DecodeClassTag(m.command, r);
-    default:
-      return DecodeClassTag(m.indication, r);
+    case kRequest: return DecodeRequestMessage(m.request, r);
+    case kResponse: return DecodeResponseMessage(m.response, r);
+    case kCommand: return DecodeClassTag(m.command, r);
+    default: return DecodeClassTag(m.indication, r);
   }
 }
 

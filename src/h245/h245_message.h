@@ -138,16 +138,11 @@ struct H245MessageRecord {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) return v.UnknownExtension(m.choiceTag);
     switch (m.choiceTag) {
-      case kRequest:
-        return v.Record("request", m.request);
-      case kResponse:
-        return v.Record("response", m.response);
-      case kCommand:
-        return v.Record("command", m.command);
-      case kIndication:
-        return v.Record("indication", m.indication);
-      default:
-        return v.UnknownRoot(m.choiceTag);
+      case kRequest: return v.Record("request", m.request);
+      case kResponse: return v.Record("response", m.response);
+      case kCommand: return v.Record("command", m.command);
+      case kIndication: return v.Record("indication", m.indication);
+      default: return v.UnknownRoot(m.choiceTag);
     }
   }
 };

@@ -35,13 +35,9 @@ void DecodeRangeOfBitRates(VCCapability::AvailableBitRates::Type::RangeOfBitRate
 void DecodeType(VCCapability::AvailableBitRates::Type& m, PerReader& r) {
   const uint32_t index = ReadRootChoice(m, r, 2);
   switch (index) {
-    case 0:
-      m.singleBitRate = PerReadNumber<uint16_t>(r, 1, 65535);
-      return;
-    case 1:
-      return DecodeRangeOfBitRates(m.rangeOfBitRates, r);
-    default:
-      return;
+    case 0: m.singleBitRate = PerReadNumber<uint16_t>(r, 1, 65535); return;
+    case 1: return DecodeRangeOfBitRates(m.rangeOfBitRates, r);
+    default: return;
   }
 }
 
@@ -78,10 +74,8 @@ void DecodeEnhanced(H223Capability::H223MultiplexTableCapability::Enhanced& m, P
 void DecodeH223MultiplexTableCapability(H223Capability::H223MultiplexTableCapability& m, PerReader& r) {
   const uint32_t index = ReadRootChoice(m, r, 2);
   switch (index) {
-    case 1:
-      return DecodeEnhanced(m.enhanced, r);
-    default:
-      return;
+    case 1: return DecodeEnhanced(m.enhanced, r);
+    default: return;
   }
 }
 
@@ -149,7 +143,7 @@ void DecodeH223AnnexCCapability(H223AnnexCCapability& m, PerReader& r) {
   const uint8_t additions = PerReadBitmapLength8(r);
   m.hasRsCodeCapability = PerReadAdditionBit(r, additions, 0);
   const int32_t unknown = PerCountUnknownAdditions(r, additions, 1);
-  if (m.hasRsCodeCapability) InOpenType(r, [&] { m.rsCodeCapability = PerReadBit(r); });
+  if (m.hasRsCodeCapability) m.rsCodeCapability = PerReadOpenBoolean(r);
   PerSkipOpenTypes(r, unknown);
 }
 
@@ -179,8 +173,8 @@ void DecodeH223Capability(H223Capability& m, PerReader& r) {
   m.hasBitRate = PerReadAdditionBit(r, additions, 4);
   m.hasMobileMultilinkFrameCapability = PerReadAdditionBit(r, additions, 5);
   const int32_t unknown = PerCountUnknownAdditions(r, additions, 6);
-  if (m.hasMaxMUXPDUSizeCapability) InOpenType(r, [&] { m.maxMUXPDUSizeCapability = PerReadBit(r); });
-  if (m.hasNsrpSupport) InOpenType(r, [&] { m.nsrpSupport = PerReadBit(r); });
+  if (m.hasMaxMUXPDUSizeCapability) m.maxMUXPDUSizeCapability = PerReadOpenBoolean(r);
+  if (m.hasNsrpSupport) m.nsrpSupport = PerReadOpenBoolean(r);
   if (m.hasMobileOperationTransmitCapability)
     InOpenType(r, [&] { DecodeMobileOperationTransmitCapability(m.mobileOperationTransmitCapability, r); });
   if (m.hasH223AnnexCCapability) InOpenType(r, [&] { DecodeH223AnnexCCapability(m.h223AnnexCCapability, r); });
@@ -194,14 +188,10 @@ void DecodeMultiplexFormat(MultiplexFormat& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 3);
   if (m.isExtension) return PerSkipOpenTypes(r, 1);
   switch (index) {
-    case 0:
-      return DecodeNonStandardParameter(m.nonStandard, r);
-    case 1:
-      return DecodeH222Capability(m.h222Capability, r);
-    case 2:
-      return DecodeH223Capability(m.h223Capability, r);
-    default:
-      return;
+    case 0: return DecodeNonStandardParameter(m.nonStandard, r);
+    case 1: return DecodeH222Capability(m.h222Capability, r);
+    case 2: return DecodeH223Capability(m.h223Capability, r);
+    default: return;
   }
 }
 

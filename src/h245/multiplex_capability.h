@@ -70,12 +70,9 @@ struct VCCapability {
       template <class Record, class Visitor>
       static void Walk(Record& m, Visitor& v) {
         switch (m.choiceTag) {
-          case 0:
-            return v.Number("singleBitRate", m.singleBitRate);
-          case 1:
-            return v.Record("rangeOfBitRates", m.rangeOfBitRates);
-          default:
-            return v.UnknownRoot(m.choiceTag);
+          case 0: return v.Number("singleBitRate", m.singleBitRate);
+          case 1: return v.Record("rangeOfBitRates", m.rangeOfBitRates);
+          default: return v.UnknownRoot(m.choiceTag);
         }
       }
     };
@@ -214,12 +211,9 @@ struct H223Capability {
     template <class Record, class Visitor>
     static void Walk(Record& m, Visitor& v) {
       switch (m.choiceTag) {
-        case 0:
-          return v.Null("basic");
-        case 1:
-          return v.Record("enhanced", m.enhanced);
-        default:
-          return v.UnknownRoot(m.choiceTag);
+        case 0: return v.Null("basic");
+        case 1: return v.Record("enhanced", m.enhanced);
+        default: return v.UnknownRoot(m.choiceTag);
       }
     }
   };
@@ -322,14 +316,10 @@ struct MultiplexFormat {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) return v.UnknownExtension(m.choiceTag);
     switch (m.choiceTag) {
-      case 0:
-        return v.Record("nonStandard", m.nonStandard);
-      case 1:
-        return v.Record("h222Capability", m.h222Capability);
-      case 2:
-        return v.Record("h223Capability", m.h223Capability);
-      default:
-        return v.UnknownRoot(m.choiceTag);
+      case 0: return v.Record("nonStandard", m.nonStandard);
+      case 1: return v.Record("h222Capability", m.h222Capability);
+      case 2: return v.Record("h223Capability", m.h223Capability);
+      default: return v.UnknownRoot(m.choiceTag);
     }
   }
 };

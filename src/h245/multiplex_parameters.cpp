@@ -9,11 +9,8 @@ void DecodeNumberOfRetransmissions(H223AnnexCArqParameters::NumberOfRetransmissi
   const uint32_t index = ReadChoice(m, r, 2);
   if (m.isExtension) return PerSkipOpenTypes(r, 1);
   switch (index) {
-    case 0:
-      m.finite = PerReadNumber<uint8_t>(r, 0, 16);
-      return;
-    default:
-      return;
+    case 0: m.finite = PerReadNumber<uint8_t>(r, 0, 16); return;
+    default: return;
   }
 }
 
@@ -21,12 +18,9 @@ void DecodeArqType(H223AL1MParameters::ArqType& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 3);
   if (m.isExtension) return PerSkipOpenTypes(r, 1);
   switch (index) {
-    case 1:
-      return DecodeH223AnnexCArqParameters(m.typeIArq, r);
-    case 2:
-      return DecodeH223AnnexCArqParameters(m.typeIIArq, r);
-    default:
-      return;
+    case 1: return DecodeH223AnnexCArqParameters(m.typeIArq, r);
+    case 2: return DecodeH223AnnexCArqParameters(m.typeIIArq, r);
+    default: return;
   }
 }
 
@@ -34,12 +28,9 @@ void DecodeArqType(H223AL3MParameters::ArqType& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 3);
   if (m.isExtension) return PerSkipOpenTypes(r, 1);
   switch (index) {
-    case 1:
-      return DecodeH223AnnexCArqParameters(m.typeIArq, r);
-    case 2:
-      return DecodeH223AnnexCArqParameters(m.typeIIArq, r);
-    default:
-      return;
+    case 1: return DecodeH223AnnexCArqParameters(m.typeIArq, r);
+    case 2: return DecodeH223AnnexCArqParameters(m.typeIIArq, r);
+    default: return;
   }
 }
 
@@ -52,23 +43,16 @@ void DecodeAdaptationLayerType(H223LogicalChannelParameters::AdaptationLayerType
   const uint32_t index = ReadChoice(m, r, 6);
   if (m.isExtension) {
     switch (index) {
-      case 0:
-        return InOpenType(r, [&] { DecodeH223AL1MParameters(m.al1M, r); });
-      case 1:
-        return InOpenType(r, [&] { DecodeH223AL2MParameters(m.al2M, r); });
-      case 2:
-        return InOpenType(r, [&] { DecodeH223AL3MParameters(m.al3M, r); });
-      default:
-        return PerSkipOpenTypes(r, 1);
+      case 0: return InOpenType(r, [&] { DecodeH223AL1MParameters(m.al1M, r); });
+      case 1: return InOpenType(r, [&] { DecodeH223AL2MParameters(m.al2M, r); });
+      case 2: return InOpenType(r, [&] { DecodeH223AL3MParameters(m.al3M, r); });
+      default: return PerSkipOpenTypes(r, 1);
     }
   }
   switch (index) {
-    case 0:
-      return DecodeNonStandardParameter(m.nonStandard, r);
-    case 5:
-      return DecodeAl3(m.al3, r);
-    default:
-      return;
+    case 0: return DecodeNonStandardParameter(m.nonStandard, r);
+    case 5: return DecodeAl3(m.al3, r);
+    default: return;
   }
 }
 
@@ -83,10 +67,8 @@ void DecodeMode(V76LogicalChannelParameters::Mode& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 2);
   if (m.isExtension) return PerSkipOpenTypes(r, 1);
   switch (index) {
-    case 0:
-      return DecodeERM(m.eRM, r);
-    default:
-      return;
+    case 0: return DecodeERM(m.eRM, r);
+    default: return;
   }
 }
 

@@ -43,12 +43,9 @@ struct H223AnnexCArqParameters {
     static void Walk(Record& m, Visitor& v) {
       if (m.isExtension) return v.UnknownExtension(m.choiceTag);
       switch (m.choiceTag) {
-        case 0:
-          return v.Number("finite", m.finite);
-        case 1:
-          return v.Null("infinite");
-        default:
-          return v.UnknownRoot(m.choiceTag);
+        case 0: return v.Number("finite", m.finite);
+        case 1: return v.Null("infinite");
+        default: return v.UnknownRoot(m.choiceTag);
       }
     }
   };
@@ -96,14 +93,10 @@ struct H223AL1MParameters {
     static void Walk(Record& m, Visitor& v) {
       if (m.isExtension) return v.UnknownExtension(m.choiceTag);
       switch (m.choiceTag) {
-        case 0:
-          return v.Null("noArq");
-        case 1:
-          return v.Record("typeIArq", m.typeIArq);
-        case 2:
-          return v.Record("typeIIArq", m.typeIIArq);
-        default:
-          return v.UnknownRoot(m.choiceTag);
+        case 0: return v.Null("noArq");
+        case 1: return v.Record("typeIArq", m.typeIArq);
+        case 2: return v.Record("typeIIArq", m.typeIIArq);
+        default: return v.UnknownRoot(m.choiceTag);
       }
     }
   };
@@ -176,14 +169,10 @@ struct H223AL3MParameters {
     static void Walk(Record& m, Visitor& v) {
       if (m.isExtension) return v.UnknownExtension(m.choiceTag);
       switch (m.choiceTag) {
-        case 0:
-          return v.Null("noArq");
-        case 1:
-          return v.Record("typeIArq", m.typeIArq);
-        case 2:
-          return v.Record("typeIIArq", m.typeIIArq);
-        default:
-          return v.UnknownRoot(m.choiceTag);
+        case 0: return v.Null("noArq");
+        case 1: return v.Record("typeIArq", m.typeIArq);
+        case 2: return v.Record("typeIIArq", m.typeIIArq);
+        default: return v.UnknownRoot(m.choiceTag);
       }
     }
   };
@@ -235,31 +224,20 @@ struct H223LogicalChannelParameters {
     static void Walk(Record& m, Visitor& v) {
       if (m.isExtension) {
         switch (m.choiceTag) {
-          case 0:
-            return v.Record("al1M", m.al1M);
-          case 1:
-            return v.Record("al2M", m.al2M);
-          case 2:
-            return v.Record("al3M", m.al3M);
-          default:
-            return v.UnknownExtension(m.choiceTag);
+          case 0: return v.Record("al1M", m.al1M);
+          case 1: return v.Record("al2M", m.al2M);
+          case 2: return v.Record("al3M", m.al3M);
+          default: return v.UnknownExtension(m.choiceTag);
         }
       }
       switch (m.choiceTag) {
-        case 0:
-          return v.Record("nonStandard", m.nonStandard);
-        case 1:
-          return v.Null("al1Framed");
-        case 2:
-          return v.Null("al1NotFramed");
-        case 3:
-          return v.Null("al2WithoutSequenceNumbers");
-        case 4:
-          return v.Null("al2WithSequenceNumbers");
-        case 5:
-          return v.Record("al3", m.al3);
-        default:
-          return v.UnknownRoot(m.choiceTag);
+        case 0: return v.Record("nonStandard", m.nonStandard);
+        case 1: return v.Null("al1Framed");
+        case 2: return v.Null("al1NotFramed");
+        case 3: return v.Null("al2WithoutSequenceNumbers");
+        case 4: return v.Null("al2WithSequenceNumbers");
+        case 5: return v.Record("al3", m.al3);
+        default: return v.UnknownRoot(m.choiceTag);
       }
     }
   };
@@ -342,12 +320,9 @@ struct V76LogicalChannelParameters {
     static void Walk(Record& m, Visitor& v) {
       if (m.isExtension) return v.UnknownExtension(m.choiceTag);
       switch (m.choiceTag) {
-        case 0:
-          return v.Record("eRM", m.eRM);
-        case 1:
-          return v.Null("uNERM");
-        default:
-          return v.UnknownRoot(m.choiceTag);
+        case 0: return v.Record("eRM", m.eRM);
+        case 1: return v.Null("uNERM");
+        default: return v.UnknownRoot(m.choiceTag);
       }
     }
   };

@@ -9,12 +9,9 @@ void DecodeAddress(Q2931Address::Address& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 2);
   if (m.isExtension) return PerSkipOpenTypes(r, 1);
   switch (index) {
-    case 0:
-      return PerReadNumeric(m.internationalNumber, r, PerReadNumber<uint32_t>(r, 1, 16));
-    case 1:
-      return PerReadSizedOctets(m.nsapAddress, r, 20, 1);
-    default:
-      return;
+    case 0: return PerReadNumeric(m.internationalNumber, r, PerReadNumber<uint32_t>(r, 1, 16));
+    case 1: return PerReadSizedOctets(m.nsapAddress, r, 20, 1);
+    default: return;
   }
 }
 
@@ -22,14 +19,10 @@ void DecodeNetworkAddress(NetworkAccessParameters::NetworkAddress& m, PerReader&
   const uint32_t index = ReadChoice(m, r, 3);
   if (m.isExtension) return PerSkipOpenTypes(r, 1);
   switch (index) {
-    case 0:
-      return DecodeQ2931Address(m.q2931Address, r);
-    case 1:
-      return PerReadDigits(m.e164Address, r, PerReadNumber<uint32_t>(r, 1, 128));
-    case 2:
-      return DecodeTransportAddress(m.localAreaAddress, r);
-    default:
-      return;
+    case 0: return DecodeQ2931Address(m.q2931Address, r);
+    case 1: return PerReadDigits(m.e164Address, r, PerReadNumber<uint32_t>(r, 1, 128));
+    case 2: return DecodeTransportAddress(m.localAreaAddress, r);
+    default: return;
   }
 }
 

@@ -23,12 +23,9 @@ struct Q2931Address {
     static void Walk(Record& m, Visitor& v) {
       if (m.isExtension) return v.UnknownExtension(m.choiceTag);
       switch (m.choiceTag) {
-        case 0:
-          return WalkOctets(v, "internationalNumber", m.internationalNumber, OctetNotation::kCharacters);
-        case 1:
-          return WalkOctets(v, "nsapAddress", m.nsapAddress);
-        default:
-          return v.UnknownRoot(m.choiceTag);
+        case 0: return WalkOctets(v, "internationalNumber", m.internationalNumber, OctetNotation::kCharacters);
+        case 1: return WalkOctets(v, "nsapAddress", m.nsapAddress);
+        default: return v.UnknownRoot(m.choiceTag);
       }
     }
   };
@@ -65,14 +62,10 @@ struct NetworkAccessParameters {
     static void Walk(Record& m, Visitor& v) {
       if (m.isExtension) return v.UnknownExtension(m.choiceTag);
       switch (m.choiceTag) {
-        case 0:
-          return v.Record("q2931Address", m.q2931Address);
-        case 1:
-          return WalkOctets(v, "e164Address", m.e164Address, OctetNotation::kDigits);
-        case 2:
-          return v.Record("localAreaAddress", m.localAreaAddress);
-        default:
-          return v.UnknownRoot(m.choiceTag);
+        case 0: return v.Record("q2931Address", m.q2931Address);
+        case 1: return WalkOctets(v, "e164Address", m.e164Address, OctetNotation::kDigits);
+        case 2: return v.Record("localAreaAddress", m.localAreaAddress);
+        default: return v.UnknownRoot(m.choiceTag);
       }
     }
   };

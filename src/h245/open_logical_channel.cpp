@@ -14,21 +14,15 @@ void DecodeMultiplexParameters(OpenLogicalChannel::ForwardLogicalChannelParamete
   const uint32_t index = ReadChoice(m, r, 3);
   if (m.isExtension) {
     switch (index) {
-      case 0:
-        return InOpenType(r, [&] { DecodeH2250LogicalChannelParameters(m.h2250LogicalChannelParameters, r); });
-      default:
-        return PerSkipOpenTypes(r, 1);
+      case 0: return InOpenType(r, [&] { DecodeH2250LogicalChannelParameters(m.h2250LogicalChannelParameters, r); });
+      default: return PerSkipOpenTypes(r, 1);
     }
   }
   switch (index) {
-    case 0:
-      return DecodeH222LogicalChannelParameters(m.h222LogicalChannelParameters, r);
-    case 1:
-      return DecodeH223LogicalChannelParameters(m.h223LogicalChannelParameters, r);
-    case 2:
-      return DecodeV76LogicalChannelParameters(m.v76LogicalChannelParameters, r);
-    default:
-      return;
+    case 0: return DecodeH222LogicalChannelParameters(m.h222LogicalChannelParameters, r);
+    case 1: return DecodeH223LogicalChannelParameters(m.h223LogicalChannelParameters, r);
+    case 2: return DecodeV76LogicalChannelParameters(m.v76LogicalChannelParameters, r);
+    default: return;
   }
 }
 
@@ -55,19 +49,14 @@ void DecodeMultiplexParameters(OpenLogicalChannel::ReverseLogicalChannelParamete
   const uint32_t index = ReadChoice(m, r, 2);
   if (m.isExtension) {
     switch (index) {
-      case 0:
-        return InOpenType(r, [&] { DecodeH2250LogicalChannelParameters(m.h2250LogicalChannelParameters, r); });
-      default:
-        return PerSkipOpenTypes(r, 1);
+      case 0: return InOpenType(r, [&] { DecodeH2250LogicalChannelParameters(m.h2250LogicalChannelParameters, r); });
+      default: return PerSkipOpenTypes(r, 1);
     }
   }
   switch (index) {
-    case 0:
-      return DecodeH223LogicalChannelParameters(m.h223LogicalChannelParameters, r);
-    case 1:
-      return DecodeV76LogicalChannelParameters(m.v76LogicalChannelParameters, r);
-    default:
-      return;
+    case 0: return DecodeH223LogicalChannelParameters(m.h223LogicalChannelParameters, r);
+    case 1: return DecodeV76LogicalChannelParameters(m.v76LogicalChannelParameters, r);
+    default: return;
   }
 }
 
@@ -93,17 +82,13 @@ void DecodeMultiplexParameters(OpenLogicalChannelAck::ReverseLogicalChannelParam
   const uint32_t index = ReadChoice(m, r, 1);
   if (m.isExtension) {
     switch (index) {
-      case 0:
-        return InOpenType(r, [&] { DecodeH2250LogicalChannelParameters(m.h2250LogicalChannelParameters, r); });
-      default:
-        return PerSkipOpenTypes(r, 1);
+      case 0: return InOpenType(r, [&] { DecodeH2250LogicalChannelParameters(m.h2250LogicalChannelParameters, r); });
+      default: return PerSkipOpenTypes(r, 1);
     }
   }
   switch (index) {
-    case 0:
-      return DecodeH222LogicalChannelParameters(m.h222LogicalChannelParameters, r);
-    default:
-      return;
+    case 0: return DecodeH222LogicalChannelParameters(m.h222LogicalChannelParameters, r);
+    default: return;
   }
 }
 
@@ -127,10 +112,8 @@ void DecodeForwardMultiplexAckParameters(OpenLogicalChannelAck::ForwardMultiplex
   const uint32_t index = ReadChoice(m, r, 1);
   if (m.isExtension) return PerSkipOpenTypes(r, 1);
   switch (index) {
-    case 0:
-      return DecodeH2250LogicalChannelAckParameters(m.h2250LogicalChannelAckParameters, r);
-    default:
-      return;
+    case 0: return DecodeH2250LogicalChannelAckParameters(m.h2250LogicalChannelAckParameters, r);
+    default: return;
   }
 }
 

@@ -26,23 +26,16 @@ struct OpenLogicalChannel {
       static void Walk(Record& m, Visitor& v) {
         if (m.isExtension) {
           switch (m.choiceTag) {
-            case 0:
-              return v.Record("h2250LogicalChannelParameters", m.h2250LogicalChannelParameters);
-            case 1:
-              return v.Null("none");
-            default:
-              return v.UnknownExtension(m.choiceTag);
+            case 0: return v.Record("h2250LogicalChannelParameters", m.h2250LogicalChannelParameters);
+            case 1: return v.Null("none");
+            default: return v.UnknownExtension(m.choiceTag);
           }
         }
         switch (m.choiceTag) {
-          case 0:
-            return v.Record("h222LogicalChannelParameters", m.h222LogicalChannelParameters);
-          case 1:
-            return v.Record("h223LogicalChannelParameters", m.h223LogicalChannelParameters);
-          case 2:
-            return v.Record("v76LogicalChannelParameters", m.v76LogicalChannelParameters);
-          default:
-            return v.UnknownRoot(m.choiceTag);
+          case 0: return v.Record("h222LogicalChannelParameters", m.h222LogicalChannelParameters);
+          case 1: return v.Record("h223LogicalChannelParameters", m.h223LogicalChannelParameters);
+          case 2: return v.Record("v76LogicalChannelParameters", m.v76LogicalChannelParameters);
+          default: return v.UnknownRoot(m.choiceTag);
         }
       }
     };
@@ -82,19 +75,14 @@ struct OpenLogicalChannel {
       static void Walk(Record& m, Visitor& v) {
         if (m.isExtension) {
           switch (m.choiceTag) {
-            case 0:
-              return v.Record("h2250LogicalChannelParameters", m.h2250LogicalChannelParameters);
-            default:
-              return v.UnknownExtension(m.choiceTag);
+            case 0: return v.Record("h2250LogicalChannelParameters", m.h2250LogicalChannelParameters);
+            default: return v.UnknownExtension(m.choiceTag);
           }
         }
         switch (m.choiceTag) {
-          case 0:
-            return v.Record("h223LogicalChannelParameters", m.h223LogicalChannelParameters);
-          case 1:
-            return v.Record("v76LogicalChannelParameters", m.v76LogicalChannelParameters);
-          default:
-            return v.UnknownRoot(m.choiceTag);
+          case 0: return v.Record("h223LogicalChannelParameters", m.h223LogicalChannelParameters);
+          case 1: return v.Record("v76LogicalChannelParameters", m.v76LogicalChannelParameters);
+          default: return v.UnknownRoot(m.choiceTag);
         }
       }
     };
@@ -153,17 +141,13 @@ struct OpenLogicalChannelAck {
       static void Walk(Record& m, Visitor& v) {
         if (m.isExtension) {
           switch (m.choiceTag) {
-            case 0:
-              return v.Record("h2250LogicalChannelParameters", m.h2250LogicalChannelParameters);
-            default:
-              return v.UnknownExtension(m.choiceTag);
+            case 0: return v.Record("h2250LogicalChannelParameters", m.h2250LogicalChannelParameters);
+            default: return v.UnknownExtension(m.choiceTag);
           }
         }
         switch (m.choiceTag) {
-          case 0:
-            return v.Record("h222LogicalChannelParameters", m.h222LogicalChannelParameters);
-          default:
-            return v.UnknownRoot(m.choiceTag);
+          case 0: return v.Record("h222LogicalChannelParameters", m.h222LogicalChannelParameters);
+          default: return v.UnknownRoot(m.choiceTag);
         }
       }
     };
@@ -197,10 +181,8 @@ struct OpenLogicalChannelAck {
     static void Walk(Record& m, Visitor& v) {
       if (m.isExtension) return v.UnknownExtension(m.choiceTag);
       switch (m.choiceTag) {
-        case 0:
-          return v.Record("h2250LogicalChannelAckParameters", m.h2250LogicalChannelAckParameters);
-        default:
-          return v.UnknownRoot(m.choiceTag);
+        case 0: return v.Record("h2250LogicalChannelAckParameters", m.h2250LogicalChannelAckParameters);
+        default: return v.UnknownRoot(m.choiceTag);
       }
     }
   };

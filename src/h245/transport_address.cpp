@@ -33,9 +33,8 @@ void DecodeIPSourceRouteAddress(UnicastAddress::IPSourceRouteAddress& m, PerRead
   m.routing.choiceTag = static_cast<uint8_t>(PerReadConstrainedWholeNumber(r, 2));
   m.network.data = PerReadOctets(r, 4);
   m.tsapIdentifier = PerReadNumber<uint16_t>(r, 0, 65535);
-  m.routeCount = PerReadCount8(r);
-  if (!DecodeList(r, Slot<OctetStringValue>(&m.route), m.routeCount,
-                  [](OctetStringValue& value, PerReader& reader) { value.data = PerReadOctets(reader, 4); })) {
+  if (!DecodeSequenceOf(r, &m.routeCount, Slot<OctetStringValue>(&m.route),
+                        [](OctetStringValue& value, PerReader& reader) { value.data = PerReadOctets(reader, 4); })) {
     return;
   }
   if (m.isExtended) PerSkipExtensionAdditions(r);
@@ -61,28 +60,18 @@ void DecodeUnicastAddress(UnicastAddress& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 5);
   if (m.isExtension) {
     switch (index) {
-      case 0:
-        return InOpenType(r, [&] { PerReadSizedOctets(m.nsap, r, 20, 1); });
-      case 1:
-        return InOpenType(r, [&] { DecodeNonStandardParameter(m.nonStandardAddress, r); });
-      default:
-        return PerSkipOpenTypes(r, 1);
+      case 0: return InOpenType(r, [&] { PerReadSizedOctets(m.nsap, r, 20, 1); });
+      case 1: return InOpenType(r, [&] { DecodeNonStandardParameter(m.nonStandardAddress, r); });
+      default: return PerSkipOpenTypes(r, 1);
     }
   }
   switch (index) {
-    case 0:
-      return DecodeIPAddress(m.iPAddress, r);
-    case 1:
-      return DecodeIPXAddress(m.iPXAddress, r);
-    case 2:
-      return DecodeIP6Address(m.iP6Address, r);
-    case 3:
-      m.netBios.data = PerReadOctets(r, 16);
-      return;
-    case 4:
-      return DecodeIPSourceRouteAddress(m.iPSourceRouteAddress, r);
-    default:
-      return;
+    case 0: return DecodeIPAddress(m.iPAddress, r);
+    case 1: return DecodeIPXAddress(m.iPXAddress, r);
+    case 2: return DecodeIP6Address(m.iP6Address, r);
+    case 3: m.netBios.data = PerReadOctets(r, 16); return;
+    case 4: return DecodeIPSourceRouteAddress(m.iPSourceRouteAddress, r);
+    default: return;
   }
 }
 
@@ -90,21 +79,15 @@ void DecodeMulticastAddress(MulticastAddress& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 2);
   if (m.isExtension) {
     switch (index) {
-      case 0:
-        return InOpenType(r, [&] { PerReadSizedOctets(m.nsap, r, 20, 1); });
-      case 1:
-        return InOpenType(r, [&] { DecodeNonStandardParameter(m.nonStandardAddress, r); });
-      default:
-        return PerSkipOpenTypes(r, 1);
+      case 0: return InOpenType(r, [&] { PerReadSizedOctets(m.nsap, r, 20, 1); });
+      case 1: return InOpenType(r, [&] { DecodeNonStandardParameter(m.nonStandardAddress, r); });
+      default: return PerSkipOpenTypes(r, 1);
     }
   }
   switch (index) {
-    case 0:
-      return DecodeIPAddress(m.iPAddress, r);
-    case 1:
-      return DecodeIP6Address(m.iP6Address, r);
-    default:
-      return;
+    case 0: return DecodeIPAddress(m.iPAddress, r);
+    case 1: return DecodeIP6Address(m.iP6Address, r);
+    default: return;
   }
 }
 

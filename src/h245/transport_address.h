@@ -92,27 +92,18 @@ struct UnicastAddress {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) {
       switch (m.choiceTag) {
-        case 0:
-          return WalkOctets(v, "nsap", m.nsap);
-        case 1:
-          return v.Record("nonStandardAddress", m.nonStandardAddress);
-        default:
-          return v.UnknownExtension(m.choiceTag);
+        case 0: return WalkOctets(v, "nsap", m.nsap);
+        case 1: return v.Record("nonStandardAddress", m.nonStandardAddress);
+        default: return v.UnknownExtension(m.choiceTag);
       }
     }
     switch (m.choiceTag) {
-      case 0:
-        return v.Record("iPAddress", m.iPAddress);
-      case 1:
-        return v.Record("iPXAddress", m.iPXAddress);
-      case 2:
-        return v.Record("iP6Address", m.iP6Address);
-      case 3:
-        return v.Octets("netBios", Slot<uint8_t>(&m.netBios.data), 16, OctetNotation::kOctets);
-      case 4:
-        return v.Record("iPSourceRouteAddress", m.iPSourceRouteAddress);
-      default:
-        return v.UnknownRoot(m.choiceTag);
+      case 0: return v.Record("iPAddress", m.iPAddress);
+      case 1: return v.Record("iPXAddress", m.iPXAddress);
+      case 2: return v.Record("iP6Address", m.iP6Address);
+      case 3: return v.Octets("netBios", Slot<uint8_t>(&m.netBios.data), 16, OctetNotation::kOctets);
+      case 4: return v.Record("iPSourceRouteAddress", m.iPSourceRouteAddress);
+      default: return v.UnknownRoot(m.choiceTag);
     }
   }
 };
@@ -155,21 +146,15 @@ struct MulticastAddress {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) {
       switch (m.choiceTag) {
-        case 0:
-          return WalkOctets(v, "nsap", m.nsap);
-        case 1:
-          return v.Record("nonStandardAddress", m.nonStandardAddress);
-        default:
-          return v.UnknownExtension(m.choiceTag);
+        case 0: return WalkOctets(v, "nsap", m.nsap);
+        case 1: return v.Record("nonStandardAddress", m.nonStandardAddress);
+        default: return v.UnknownExtension(m.choiceTag);
       }
     }
     switch (m.choiceTag) {
-      case 0:
-        return v.Record("iPAddress", m.iPAddress);
-      case 1:
-        return v.Record("iP6Address", m.iP6Address);
-      default:
-        return v.UnknownRoot(m.choiceTag);
+      case 0: return v.Record("iPAddress", m.iPAddress);
+      case 1: return v.Record("iP6Address", m.iP6Address);
+      default: return v.UnknownRoot(m.choiceTag);
     }
   }
 };
@@ -186,12 +171,9 @@ struct TransportAddress {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) return v.UnknownExtension(m.choiceTag);
     switch (m.choiceTag) {
-      case 0:
-        return v.Record("unicastAddress", m.unicastAddress);
-      case 1:
-        return v.Record("multicastAddress", m.multicastAddress);
-      default:
-        return v.UnknownRoot(m.choiceTag);
+      case 0: return v.Record("unicastAddress", m.unicastAddress);
+      case 1: return v.Record("multicastAddress", m.multicastAddress);
+      default: return v.UnknownRoot(m.choiceTag);
     }
   }
 };

@@ -72,9 +72,7 @@ void DecodePixelAspectInformation(CustomPictureFormat::PixelAspectInformation& m
   const uint32_t index = ReadChoice(m, r, 3);
   if (m.isExtension) return PerSkipOpenTypes(r, 1);
   switch (index) {
-    case 0:
-      m.anyPixelAspectRatio = PerReadBit(r);
-      return;
+    case 0: m.anyPixelAspectRatio = PerReadBit(r); return;
     case 1:
       m.pixelAspectCode.count = PerReadNumber<uint8_t>(r, 1, 14);
       if (!DecodeList(r, Slot<uint8_t>(&m.pixelAspectCode.elements), m.pixelAspectCode.count,
@@ -87,8 +85,7 @@ void DecodePixelAspectInformation(CustomPictureFormat::PixelAspectInformation& m
                       m.extendedPAR.count, DecodeExtendedPARElement))
         return;
       return;
-    default:
-      return;
+    default: return;
   }
 }
 
@@ -108,7 +105,7 @@ void DecodeH261VideoCapability(H261VideoCapability& m, PerReader& r) {
   const uint8_t additions = PerReadBitmapLength8(r);
   m.hasVideoBadMBsCap = PerReadAdditionBit(r, additions, 0);
   const int32_t unknown = PerCountUnknownAdditions(r, additions, 1);
-  if (m.hasVideoBadMBsCap) InOpenType(r, [&] { m.videoBadMBsCap = PerReadBit(r); });
+  if (m.hasVideoBadMBsCap) m.videoBadMBsCap = PerReadOpenBoolean(r);
   PerSkipOpenTypes(r, unknown);
 }
 
@@ -142,7 +139,7 @@ void DecodeH262VideoCapability(H262VideoCapability& m, PerReader& r) {
   const uint8_t additions = PerReadBitmapLength8(r);
   m.hasVideoBadMBsCap = PerReadAdditionBit(r, additions, 0);
   const int32_t unknown = PerCountUnknownAdditions(r, additions, 1);
-  if (m.hasVideoBadMBsCap) InOpenType(r, [&] { m.videoBadMBsCap = PerReadBit(r); });
+  if (m.hasVideoBadMBsCap) m.videoBadMBsCap = PerReadOpenBoolean(r);
   PerSkipOpenTypes(r, unknown);
 }
 
@@ -166,7 +163,7 @@ void DecodeIS11172VideoCapability(IS11172VideoCapability& m, PerReader& r) {
   const uint8_t additions = PerReadBitmapLength8(r);
   m.hasVideoBadMBsCap = PerReadAdditionBit(r, additions, 0);
   const int32_t unknown = PerCountUnknownAdditions(r, additions, 1);
-  if (m.hasVideoBadMBsCap) InOpenType(r, [&] { m.videoBadMBsCap = PerReadBit(r); });
+  if (m.hasVideoBadMBsCap) m.videoBadMBsCap = PerReadOpenBoolean(r);
   PerSkipOpenTypes(r, unknown);
 }
 
@@ -266,7 +263,7 @@ void DecodeH263ModeComboFlags(H263ModeComboFlags& m, PerReader& r) {
   m.hasEnhancedReferencePicSelect = PerReadAdditionBit(r, additions, 0);
   m.hasH263Version3Options = PerReadAdditionBit(r, additions, 1);
   const int32_t unknown = PerCountUnknownAdditions(r, additions, 2);
-  if (m.hasEnhancedReferencePicSelect) InOpenType(r, [&] { m.enhancedReferencePicSelect = PerReadBit(r); });
+  if (m.hasEnhancedReferencePicSelect) m.enhancedReferencePicSelect = PerReadOpenBoolean(r);
   if (m.hasH263Version3Options) InOpenType(r, [&] { DecodeH263Version3Options(m.h263Version3Options, r); });
   PerSkipOpenTypes(r, unknown);
 }
@@ -336,7 +333,7 @@ void DecodeH263Options(H263Options& m, PerReader& r) {
   m.hasVideoBadMBsCap = PerReadAdditionBit(r, additions, 0);
   m.hasH263Version3Options = PerReadAdditionBit(r, additions, 1);
   const int32_t unknown = PerCountUnknownAdditions(r, additions, 2);
-  if (m.hasVideoBadMBsCap) InOpenType(r, [&] { m.videoBadMBsCap = PerReadBit(r); });
+  if (m.hasVideoBadMBsCap) m.videoBadMBsCap = PerReadOpenBoolean(r);
   if (m.hasH263Version3Options) InOpenType(r, [&] { DecodeH263Version3Options(m.h263Version3Options, r); });
   PerSkipOpenTypes(r, unknown);
 }
@@ -445,7 +442,7 @@ void DecodeH263VideoCapability(H263VideoCapability& m, PerReader& r) {
   if (m.hasSlowCifMPI) InOpenType(r, [&] { m.slowCifMPI = PerReadNumber<uint16_t>(r, 1, 3600); });
   if (m.hasSlowCif4MPI) InOpenType(r, [&] { m.slowCif4MPI = PerReadNumber<uint16_t>(r, 1, 3600); });
   if (m.hasSlowCif16MPI) InOpenType(r, [&] { m.slowCif16MPI = PerReadNumber<uint16_t>(r, 1, 3600); });
-  if (m.hasErrorCompensation) InOpenType(r, [&] { m.errorCompensation = PerReadBit(r); });
+  if (m.hasErrorCompensation) m.errorCompensation = PerReadOpenBoolean(r);
   if (m.hasEnhancementLayerInfo) InOpenType(r, [&] { DecodeEnhancementLayerInfo(m.enhancementLayerInfo, r); });
   if (m.hasH263Options) InOpenType(r, [&] { DecodeH263Options(m.h263Options, r); });
   PerSkipOpenTypes(r, unknown);
@@ -469,29 +466,21 @@ void DecodeVideoCapability(VideoCapability& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 5);
   if (m.isExtension) {
     switch (index) {
-      case 0:
-        return InOpenType(r, [&] { DecodeGenericCapability(m.genericVideoCapability, r); });
+      case 0: return InOpenType(r, [&] { DecodeGenericCapability(m.genericVideoCapability, r); });
       case 1:
         return InOpenType(r, [&] {
           DecodePointer(r, Slot<ExtendedVideoCapability>(&m.extendedVideoCapability), DecodeExtendedVideoCapability);
         });
-      default:
-        return PerSkipOpenTypes(r, 1);
+      default: return PerSkipOpenTypes(r, 1);
     }
   }
   switch (index) {
-    case 0:
-      return DecodeNonStandardParameter(m.nonStandard, r);
-    case 1:
-      return DecodeH261VideoCapability(m.h261VideoCapability, r);
-    case 2:
-      return DecodeH262VideoCapability(m.h262VideoCapability, r);
-    case 3:
-      return DecodeH263VideoCapability(m.h263VideoCapability, r);
-    case 4:
-      return DecodeIS11172VideoCapability(m.is11172VideoCapability, r);
-    default:
-      return;
+    case 0: return DecodeNonStandardParameter(m.nonStandard, r);
+    case 1: return DecodeH261VideoCapability(m.h261VideoCapability, r);
+    case 2: return DecodeH262VideoCapability(m.h262VideoCapability, r);
+    case 3: return DecodeH263VideoCapability(m.h263VideoCapability, r);
+    case 4: return DecodeIS11172VideoCapability(m.is11172VideoCapability, r);
+    default: return;
   }
 }
 

@@ -302,14 +302,11 @@ struct CustomPictureFormat {
     static void Walk(Record& m, Visitor& v) {
       if (m.isExtension) return v.UnknownExtension(m.choiceTag);
       switch (m.choiceTag) {
-        case 0:
-          return v.Boolean("anyPixelAspectRatio", m.anyPixelAspectRatio);
+        case 0: return v.Boolean("anyPixelAspectRatio", m.anyPixelAspectRatio);
         case 1:
           return v.Numbers("pixelAspectCode", Slot<uint8_t>(&m.pixelAspectCode.elements), m.pixelAspectCode.count);
-        case 2:
-          return v.List("extendedPAR", Slot<ExtendedPARElement>(&m.extendedPAR.elements), m.extendedPAR.count);
-        default:
-          return v.UnknownRoot(m.choiceTag);
+        case 2: return v.List("extendedPAR", Slot<ExtendedPARElement>(&m.extendedPAR.elements), m.extendedPAR.count);
+        default: return v.UnknownRoot(m.choiceTag);
       }
     }
   };
@@ -696,27 +693,18 @@ struct VideoCapability {
   static void Walk(Record& m, Visitor& v) {
     if (m.isExtension) {
       switch (m.choiceTag) {
-        case 0:
-          return v.Record("genericVideoCapability", m.genericVideoCapability);
-        case 1:
-          return v.Pointer("extendedVideoCapability", Slot<ExtendedVideoCapability>(&m.extendedVideoCapability));
-        default:
-          return v.UnknownExtension(m.choiceTag);
+        case 0: return v.Record("genericVideoCapability", m.genericVideoCapability);
+        case 1: return v.Pointer("extendedVideoCapability", Slot<ExtendedVideoCapability>(&m.extendedVideoCapability));
+        default: return v.UnknownExtension(m.choiceTag);
       }
     }
     switch (m.choiceTag) {
-      case 0:
-        return v.Record("nonStandard", m.nonStandard);
-      case 1:
-        return v.Record("h261VideoCapability", m.h261VideoCapability);
-      case 2:
-        return v.Record("h262VideoCapability", m.h262VideoCapability);
-      case 3:
-        return v.Record("h263VideoCapability", m.h263VideoCapability);
-      case 4:
-        return v.Record("is11172VideoCapability", m.is11172VideoCapability);
-      default:
-        return v.UnknownRoot(m.choiceTag);
+      case 0: return v.Record("nonStandard", m.nonStandard);
+      case 1: return v.Record("h261VideoCapability", m.h261VideoCapability);
+      case 2: return v.Record("h262VideoCapability", m.h262VideoCapability);
+      case 3: return v.Record("h263VideoCapability", m.h263VideoCapability);
+      case 4: return v.Record("is11172VideoCapability", m.is11172VideoCapability);
+      default: return v.UnknownRoot(m.choiceTag);
     }
   }
 };

@@ -27,6 +27,13 @@ void PerSkipOpenTypes(PerReader& reader, int32_t count) {
   }
 }
 
+uint32_t PerReadOpenBoolean(PerReader& reader) {
+  OpenTypeBegin(reader);
+  const uint32_t value = PerReadBit(reader);
+  OpenTypeEnd(reader);
+  return value;
+}
+
 int32_t PerReadBitmapLength(PerReader& reader) { return static_cast<int32_t>(PerReadNormallySmall(reader) + 1); }
 
 uint32_t PerReadAdditionBit(PerReader& reader, int32_t bitmapLength, int32_t index) {

@@ -14,6 +14,9 @@ void OpenTypeEnd(PerReader& reader);
 // Passes over `count` open types. A length past the end leaves the reader beyond it.
 void PerSkipOpenTypes(PerReader& reader, int32_t count);
 
+// A BOOLEAN that is an addition, in its open type.
+uint32_t PerReadOpenBoolean(PerReader& reader);
+
 // How many additions the bitmap of a SEQUENCE covers, 1 or more in a lawful message.
 int32_t PerReadBitmapLength(PerReader& reader);
 // The presence bit of known addition `index`, absent where the bitmap does not cover it.
