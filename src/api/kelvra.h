@@ -36,7 +36,8 @@ extern "C" {
 //
 // Returns the address in `buffer` of the first octet after the message, or 0 when the message was
 // malformed or cut short, or an argument is null. On failure the record's blocks are already released
-// and its pointers null; tags, counts and plain values keep what was decoded.
+// and its pointers null; tags, counts and plain values keep what was decoded. Of an alternative that the
+// record has no body for only the tag is read, and the address is that behind the tag.
 // Only the low 16 bits of `length` count. A message that ends exactly with its buffer is refused,
 // because success is judged by the reader standing before the end: hand over one spare octet (zero)
 // behind the message and count it in `length`.
