@@ -1,0 +1,37 @@
+#include "console.h"
+
+#include <array>
+#include <cstdio>
+
+#if defined(_WIN32)
+#include <fcntl.h>
+#include <io.h>
+#else
+#include <unistd.h>
+#endif
+
+namespace {
+
+#if defined(_WIN32)
+constexpr int kInput = 0;
+constexpr int kOutput = 1;
+#endif
+
+}  // namespace
+
+void PrepareStandardStreams() {
+#if defined(_WIN32)
+  _setmode(kInput, _O_BINARY);
+  _setmode(kOutput, _O_BINARY);
+#endif
+  static std::array<char, 1 << 16> buffer;
+  std::setvbuf(stdout, buffer.data(), _IOFBF, buffer.size());
+}
+
+bool OutputIsTerminal() {
+#if defined(_WIN32)
+  return _isatty(kOutput) != 0;
+#else
+  return isatty(STDOUT_FILENO) != 0;
+#endif
+}

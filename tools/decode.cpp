@@ -1,0 +1,84 @@
+#include "decode.h"
+
+#include <limits>
+
+#include "api/kelvra.h"
+#include "hex.h"
+#include "json_path.h"
+
+namespace {
+
+using kelvra::h225::Q931MessageRecord;
+using kelvra::h225::RasMessageRecord;
+using kelvra::h245::H245MessageRecord;
+
+// The exports see no more of a length.
+constexpr size_t kMostOctets = std::numeric_limits<uint16_t>::max();
+
+template <class Record, void(KELVRA_CALL* kRelease)(Record*)>
+struct Decoding {
+  Decoding() = default;
+  Decoding(const Decoding&) = delete;
+  Decoding& operator=(const Decoding&) = delete;
+  ~Decoding() { kRelease(&record); }
+
+  Record record{};
+};
+
+void DecodeRas(std::span<const uint8_t> message, size_t octets, Decoded& decoded) {
+  Decoding<RasMessageRecord, KelvraFreeRASMessage> decoding;
+  const auto length = static_cast<uint32_t>(octets + 1);
+  const intptr_t end = KelvraDecodeRASMessage(&decoding.record, message.data(), length);
+  decoded.ok = end != 0;
+  const auto start = reinterpret_cast<uintptr_t>(message.data());
+  decoded.result = decoded.ok ? static_cast<int64_t>(static_cast<uintptr_t>(end) - start) : 0;
+  decoded.message = RecordToJson(decoding.record);
+  decoded.name = Alternative(decoded.message);
+}
+
+void DecodeQ931(std::span<const uint8_t> message, size_t octets, Decoded& decoded) {
+  Decoding<Q931MessageRecord, KelvraFreeQ931Message> decoding;
+  const auto length = static_cast<int32_t>(octets);
+  decoded.result = KelvraDecodeQ931Message(&decoding.record, message.data(), length);
+  decoded.ok = decoded.result == 0;
+  decoded.message = RecordToJson(decoding.record);
+  decoded.name = Alternative(UserInformationBody(decoded.message));
+}
+
+void DecodeH245(std::span<const uint8_t> message, size_t octets, Decoded& decoded) {
+  Decoding<H245MessageRecord, KelvraFreeH245Message> decoding;
+  const auto length = static_cast<uint32_t>(octets);
+  decoded.result = KelvraDecodeH245Message(&decoding.record, message.data(), length);
+  decoded.ok = decoded.result == 1;
+  decoded.message = RecordToJson(decoding.record);
+  decoded.name = Alternative(Chosen(decoded.message));
+  if (decoded.name.empty()) decoded.name = Alternative(decoded.message);
+}
+
+}  // namespace
+
+Decoded Decode(Family family, std::span<const uint8_t> octets) {
+  Decoded decoded;
+  const size_t spare = family == Family::kRas ? 1 : 0;
+  if (octets.size() + spare > kMostOctets) return decoded;
+  // The octet behind the message, counted for RAS only, also keeps an empty one from being null.
+  std::vector<uint8_t> padded(octets.begin(), octets.end());
+  padded.push_back(0);
+  switch (family) {
+    case Family::kRas: DecodeRas(padded, octets.size(), decoded); break;
+    case Family::kQ931: DecodeQ931(padded, octets.size(), decoded); break;
+    case Family::kH245: DecodeH245(padded, octets.size(), decoded); break;
+  }
+  return decoded;
+}
+
+std::vector<Decoded> DecodeTunnelled(const Json& message) {
+  std::vector<Decoded> decoded;
+  const Json& pdu = Find(message, {"h323-UserInformation", "h323-uu-pdu"});
+  for (const char* member : {"h245Control", "parallelH245Control"}) {
+    for (const Json& element : Find(pdu, {member})) {
+      decoded.push_back(Decode(Family::kH245, FromHex(element.get_ref<const std::string&>())));
+    }
+  }
+  return decoded;
+}

@@ -1,0 +1,25 @@
+// Messages through the library's exports.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "json_visitor.h"
+#include "message.h"
+
+struct Decoded {
+  bool ok = false;
+  // What the export returned; for RAS, whose result is an address, the octets up to it. Nothing
+  // when the message is longer than the exports take.
+  std::optional<int64_t> result;
+  std::string name;  // the alternative, empty when none was decoded
+  Json message = Json::object();
+};
+
+Decoded Decode(Family family, std::span<const uint8_t> octets);
+
+// The H.245 messages that a call-signalling message carries, decoded.
+std::vector<Decoded> DecodeTunnelled(const Json& message);

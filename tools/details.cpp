@@ -1,0 +1,137 @@
+#include "details.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "json_path.h"
+#include "utf8.h"
+
+namespace {
+
+using Names = std::initializer_list<const char*>;
+
+class DetailList {
+ public:
+  void Add(const std::string& label, const std::string& value) {
+    if (value.empty()) return;
+    if (!text_.empty()) text_ += "  ";
+    text_ += label + " " + value;
+  }
+  const std::string& Text() const { return text_; }
+
+ private:
+  std::string text_;
+};
+
+std::string Quoted(const Json& value) { return "\"" + value.get<std::string>() + "\""; }
+
+// A number, a string, an address, or which alternative was chosen.
+std::string ValueText(const Json& value) {
+  if (value.is_string()) return Quoted(value);
+  if (value.is_number()) return value.dump();
+  if (const auto endpoint = ToEndpoint(value)) return ToText(*endpoint);
+  const Json& chosen = Chosen(value);
+  return chosen.is_string() ? Quoted(chosen) : Alternative(value);
+}
+
+std::string Joined(const std::vector<std::string>& texts, const char* separator) {
+  std::string joined;
+  for (const std::string& text : texts) {
+    if (!joined.empty()) joined += separator;
+    joined += text;
+  }
+  return joined;
+}
+
+std::string ListText(const Json& list) {
+  if (!list.is_array()) return {};
+  std::vector<std::string> texts;
+  for (const Json& element : list) texts.push_back(ValueText(element));
+  return Joined(texts, ", ");
+}
+
+// The first of the members that says something.
+std::string FirstOf(const Json& body, Names members) {
+  for (const char* member : members) {
+    const Json& value = Find(body, {member});
+    std::string text = value.is_array() ? ListText(value) : ValueText(value);
+    if (!text.empty()) return text;
+  }
+  return {};
+}
+
+void CollectMedia(const Json& json, std::vector<std::string>& media) {
+  if (!json.is_structured()) return;
+  const auto channel = ToEndpoint(Find(json, {"mediaChannel"}));
+  const auto control = ToEndpoint(Find(json, {"mediaControlChannel"}));
+  if (channel || control) {
+    const std::string text = (channel ? ToText(*channel) : "-") + (control ? "/" + ToText(*control) : "");
+    if (std::find(media.begin(), media.end(), text) == media.end()) media.push_back(text);
+  }
+  for (const Json& member : json) CollectMedia(member, media);
+}
+
+// "media/control" of each channel in the value, each pair once.
+std::string MediaText(const Json& json) {
+  std::vector<std::string> media;
+  CollectMedia(json, media);
+  return Joined(media, ", ");
+}
+
+void AddRas(const Json& message, DetailList& details) {
+  const Json& body = Chosen(message);
+  details.Add("seq", FirstOf(body, {"requestSeqNum"}));
+  details.Add("reason", FirstOf(body, {"rejectReason", "nakReason", "disengageReason", "unregReason", "reason"}));
+  details.Add("gk", FirstOf(body, {"gatekeeperIdentifier"}));
+  details.Add("alias", FirstOf(body, {"endpointAlias", "terminalAlias", "srcInfo", "sourceInfo"}));
+  details.Add("to", FirstOf(body, {"destinationInfo"}));
+  details.Add("at", FirstOf(body, {"destCallSignalAddress", "callSignalAddress", "rasAddress"}));
+  details.Add("endpoint", FirstOf(body, {"endpointIdentifier"}));
+}
+
+// Q.850's number, without the extension bit of the octet that holds it.
+std::string CauseText(const Json& octet) {
+  return octet.is_number() ? std::to_string(octet.get<unsigned>() & 0x7F) : std::string();
+}
+
+void AddQ931(const Json& message, DetailList& details) {
+  const Json& body = Chosen(UserInformationBody(message));
+  const auto party = [&](const char* element, const char* member) {
+    std::string number = FirstOf(message, {element});
+    return number.empty() ? FirstOf(body, {member}) : number;
+  };
+  details.Add("crv", FirstOf(message, {"callReferenceValue"}));
+  details.Add("from", party("callingPartyNumber", "sourceAddress"));
+  details.Add("to", party("calledPartyNumber", "destinationAddress"));
+  details.Add("reason", FirstOf(body, {"reason"}));
+  details.Add("cause", CauseText(Find(message, {"causeValue"})));
+  details.Add("h245", FirstOf(body, {"h245Address"}));
+  details.Add("media", MediaText(Find(body, {"fastStart"})));
+}
+
+void AddH245(const Json& message, DetailList& details) {
+  const Json& body = Chosen(Chosen(message));
+  details.Add("channel",
+              FirstOf(body, {"forwardLogicalChannelNumber", "logicalChannelNumber", "logicalChannelNumber1"}));
+  details.Add("reverse", FirstOf(Find(body, {"reverseLogicalChannelParameters"}), {"reverseLogicalChannelNumber"}));
+  details.Add("seq", FirstOf(body, {"sequenceNumber"}));
+  details.Add("decision", FirstOf(body, {"decision"}));
+  details.Add("reason", FirstOf(body, {"cause", "rejectReason", "reason"}));
+  details.Add("type", FirstOf(body, {"type"}));
+  details.Add("input", FirstOf(body, {"alphanumeric"}));
+  details.Add("input", FirstOf(Find(body, {"extendedAlphanumeric"}), {"alphanumeric"}));
+  details.Add("input", FirstOf(Find(body, {"signal"}), {"signalType"}));
+  details.Add("media", MediaText(body));
+}
+
+}  // namespace
+
+std::string Details(Family family, const Decoded& decoded) {
+  DetailList details;
+  switch (family) {
+    case Family::kRas: AddRas(decoded.message, details); break;
+    case Family::kQ931: AddQ931(decoded.message, details); break;
+    case Family::kH245: AddH245(decoded.message, details); break;
+  }
+  return Printable(details.Text());
+}

@@ -1,0 +1,98 @@
+// kelvra-dump prints the H.323 signalling of a capture, or single messages.
+#include <cstdio>
+#include <exception>
+
+#include "console.h"
+#include "decode.h"
+#include "formats.h"
+#include "json_path.h"
+#include "options.h"
+
+namespace {
+
+void Complain(const std::string& what) {
+  std::fflush(stdout);
+  std::fprintf(stderr, "kelvra-dump: %s\n", what.c_str());
+}
+
+std::unique_ptr<Formatter> MakeFormatter(Format format) {
+  switch (format) {
+    case Format::kSummary: return MakeSummary();
+    case Format::kTree: return MakeTree();
+    case Format::kJson: break;
+  }
+  return MakeJson();
+}
+
+class Printer : public MessageSink {
+ public:
+  explicit Printer(Format format) : formatter_(MakeFormatter(format)) {}
+
+  std::vector<Endpoint> OnMessage(const Message& message) override {
+    const Decoded decoded = Decode(message.family, message.octets);
+    all_decoded_ = all_decoded_ && decoded.ok;
+    const std::string text = formatter_->Print(message, decoded);
+    const size_t written = std::fwrite(text.data(), 1, text.size(), stdout);
+    if (written < text.size() || (flush_ && std::fflush(stdout) != 0)) {
+      throw std::runtime_error("the output cannot be written");
+    }
+    return message.family == Family::kQ931 ? AnnouncedH245(decoded.message) : std::vector<Endpoint>();
+  }
+
+  void OnLoss(const std::string& what) override {
+    all_decoded_ = false;
+    Complain(what);
+  }
+
+  bool AllDecoded() const { return all_decoded_; }
+
+ private:
+  static std::vector<Endpoint> AnnouncedH245(const Json& message) {
+    const auto address = ToEndpoint(Find(Chosen(UserInformationBody(message)), {"h245Address"}));
+    return address ? std::vector{*address} : std::vector<Endpoint>();
+  }
+
+  std::unique_ptr<Formatter> formatter_;
+  bool flush_ = OutputIsTerminal();
+  bool all_decoded_ = true;
+};
+
+Family RequiredFamily(const Options& options) {
+  if (!options.family) {
+    throw std::runtime_error("--as ras, q931 or h245 must name the family of single messages");
+  }
+  return *options.family;
+}
+
+void Run(const Options& options, Printer& printer) {
+  ByteSource source(options.file);
+  const auto input = options.input == InputKind::kAuto ? DetectInput(source) : options.input;
+  if (input == InputKind::kHex) return ReadHexLines(source, RequiredFamily(options), printer);
+  if (input == InputKind::kRaw) return ReadRaw(source, RequiredFamily(options), printer);
+  if (options.family) {
+    throw std::runtime_error(
+        "--as does not go with a capture, whose ports tell the families; see the "
+        "options --ras-port, --call-port and --h245-port");
+  }
+  ReadCapture(source, options.ports, printer);
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+  PrepareStandardStreams();
+  Options options;
+  if (const auto status = ParseOptions(count, arguments, options)) return *status;
+  Printer printer(options.format);
+  try {
+    Run(options, printer);
+  } catch (const std::exception& error) {
+    Complain(error.what());
+    return kUnusable;
+  }
+  if (std::fflush(stdout) != 0) {
+    Complain("the output cannot be written");
+    return kUnusable;
+  }
+  return printer.AllDecoded() ? kAllDecoded : kSomeMalformed;
+}

@@ -1,0 +1,77 @@
+#include "options.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <array>
+#include <utility>
+#include <vector>
+
+namespace {
+
+constexpr const char* kFooter =
+    "Hexadecimal text holds one message a line; blanks and colons may stand between the octets, and\n"
+    "'#' starts a comment. Raw input is one message. A call-signalling message starts with its TPKT\n"
+    "header, an H.245 message does not. In a capture the ports tell the families; H.245\n"
+    "connections are found by the h245Address of call signalling.\n"
+    "\n"
+    "The viewer hands a RAS message to the library with one spare zero octet behind it, counted in\n"
+    "the length. A caller of the library should do the same: success is judged by the reader\n"
+    "standing before the end of the buffer, so a message that ends exactly with it is refused.\n"
+    "\n"
+    "Exit status: 0 all messages were decoded; 1 some were not, or octets held no message where one\n"
+    "was due; 2 bad usage, or input that cannot be read.";
+
+template <class Value>
+using Keywords = std::vector<std::pair<const char*, Value>>;
+
+const Keywords<InputKind> kInputs{
+    {"auto", InputKind::kAuto}, {"capture", InputKind::kCapture}, {"hex", InputKind::kHex}, {"raw", InputKind::kRaw}};
+const Keywords<Format> kFormats{{"summary", Format::kSummary}, {"tree", Format::kTree}, {"json", Format::kJson}};
+const Keywords<Family> kFamilies{{"ras", Family::kRas}, {"q931", Family::kQ931}, {"h245", Family::kH245}};
+
+template <class Value, class Target>
+CLI::Option* AddKeyword(CLI::App& app, const char* name, const Keywords<Value>& keywords, Target& target,
+                        const char* help) {
+  std::vector<std::string> words;
+  for (const auto& keyword : keywords) words.emplace_back(keyword.first);
+  const auto set = [&keywords, &target](const std::string& word) {
+    target = std::find_if(keywords.begin(), keywords.end(), [&word](const auto& keyword) {
+               return word == keyword.first;
+             })->second;
+  };
+  return app.add_option_function<std::string>(name, set, help)->check(CLI::IsMember(std::move(words)));
+}
+
+void AddPorts(CLI::App& app, const char* name, std::set<uint16_t>& ports, const char* help) {
+  app.add_option_function<std::vector<uint16_t>>(
+         name, [&ports](const std::vector<uint16_t>& values) { ports.insert(values.begin(), values.end()); }, help)
+      ->check(CLI::Range(1, 65535))
+      ->type_name("PORT")
+      ->allow_extra_args(false);
+}
+
+}  // namespace
+
+std::optional<int> ParseOptions(int count, char** arguments, Options& options) {
+  options.ports.ras = {1718, 1719};
+  options.ports.call_signalling = {1720};
+
+  CLI::App app("Prints the H.323 signalling of a capture, or single messages.", "kelvra-dump");
+  app.footer(kFooter);
+  // A path may start with '/' under Wine and the like.
+  app.allow_windows_style_options(false);
+  app.add_option("FILE", options.file, "what to read; - or nothing: standard input");
+  AddKeyword(app, "--input", kInputs, options.input, "what the input is (auto: told by its first octets)");
+  AddKeyword(app, "--as", kFamilies, options.family, "the family of hexadecimal or raw messages, which no port tells");
+  AddKeyword(app, "--format", kFormats, options.format,
+             "a line a message (summary), every member (tree), or an object a line (json)");
+  AddPorts(app, "--ras-port", options.ports.ras, "a UDP port of RAS beside 1718 and 1719");
+  AddPorts(app, "--call-port", options.ports.call_signalling, "a TCP port of call signalling beside 1720");
+  AddPorts(app, "--h245-port", options.ports.h245, "a TCP port of H.245");
+  try {
+    app.parse(count, arguments);
+  } catch (const CLI::ParseError& error) {
+    return app.exit(error) == 0 ? kAllDecoded : kUnusable;
+  }
+  return std::nullopt;
+}
