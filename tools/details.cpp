@@ -94,10 +94,18 @@ std::string CauseText(const Json& octet) {
   return octet.is_number() ? std::to_string(octet.get<unsigned>() & 0x7F) : std::string();
 }
 
+// Q.931's octet 3a may stand before the digits: one character from U+0080 on, two octets of UTF-8.
+std::string PartyNumber(const Json& element) {
+  if (!element.is_string()) return {};
+  const auto& text = element.get_ref<const std::string&>();
+  const bool screened = !text.empty() && static_cast<unsigned char>(text[0]) >= 0x80;
+  return Quoted(screened ? text.substr(2) : text);
+}
+
 void AddQ931(const Json& message, DetailList& details) {
   const Json& body = Chosen(UserInformationBody(message));
   const auto party = [&](const char* element, const char* member) {
-    std::string number = FirstOf(message, {element});
+    const std::string number = PartyNumber(Find(message, {element}));
     return number.empty() ? FirstOf(body, {member}) : number;
   };
   details.Add("crv", FirstOf(message, {"callReferenceValue"}));
