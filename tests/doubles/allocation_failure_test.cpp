@@ -1,0 +1,182 @@
+// Every allocation of every carried message refused in turn, alone and with all behind it.
+#include "doubles/channel_writer.h"
+#include "doubles/fault_test.h"
+
+namespace kelvra::test {
+namespace {
+
+class AllocationFailureTest : public FaultTest {
+ protected:
+  // What each allocation of a message is for, in the order of their requests.
+  std::vector<BlockKind> KindsOf(const Message& original) {
+    heap_.Reset();
+    DecodedMessage message(original.family, WithSpare(original.family, original.octets));
+    const OwnershipVisitor walk = WalkOf(message);
+    std::vector<BlockKind> kinds;
+    for (const void* block : heap_.Granted()) kinds.push_back(walk.Kinds().at(block));
+    message.Release();
+    heap_.Reset();
+    return kinds;
+  }
+
+  // The rules that hold whichever allocations were refused.
+  void ExpectHonestOutcome(Family family, DecodedMessage& message, const std::string& what) {
+    EXPECT_GE(heap_.Refusals(), 1U) << what;
+    ExpectOwnership(family, message, what);
+    if (family == Family::kH245) {
+      EXPECT_TRUE(message.Result() == 0 || message.Result() == 1) << what;
+    } else if (message.Accepted()) {
+      // Only the string of an open type can be missing, or what a channel holds.
+      EXPECT_EQ(WalkOf(message).EmptyLists(), 0U) << what;
+    }
+    ExpectCleanRelease(message, what);
+  }
+};
+
+TEST_F(AllocationFailureTest, ARefusalAloneLeavesARecordThatReleasesCleanly) {
+  for (const Message& original : Corpus()) {
+    const std::vector<BlockKind> kinds = KindsOf(original);
+    for (size_t nth = 1; nth <= kinds.size(); ++nth) {
+      const std::string what = original.name + ", allocation " + std::to_string(nth);
+      heap_.Reset();
+      heap_.RefuseOnly(nth);
+      DecodedMessage message(original.family, WithSpare(original.family, original.octets));
+      if (original.family != Family::kH245 && kinds[nth - 1] == BlockKind::kList) {
+        EXPECT_EQ(message.Result(), -1) << what;
+      }
+      if (message.Accepted() && original.family != Family::kH245 && kinds[nth - 1] == BlockKind::kString) {
+        EXPECT_GE(WalkOf(message).EmptyStrings(), 1U) << what;
+      }
+      ExpectHonestOutcome(original.family, message, what);
+    }
+  }
+}
+
+TEST_F(AllocationFailureTest, RefusalsFromOnePointOnLeaveARecordThatReleasesCleanly) {
+  for (const Message& original : Corpus()) {
+    const std::vector<BlockKind> kinds = KindsOf(original);
+    for (size_t nth = 1; nth <= kinds.size(); ++nth) {
+      const std::string what = original.name + ", from allocation " + std::to_string(nth);
+      heap_.Reset();
+      heap_.RefuseFrom(nth);
+      DecodedMessage message(original.family, WithSpare(original.family, original.octets));
+      EXPECT_EQ(heap_.Granted().size(), nth - 1) << what;
+      if (original.family != Family::kH245 && kinds[nth - 1] == BlockKind::kList) {
+        EXPECT_EQ(message.Result(), -1) << what;
+      }
+      ExpectHonestOutcome(original.family, message, what);
+    }
+  }
+}
+
+// The first block of a RAS message is its protocolIdentifier's, outside any open type; what follows it
+// then finds the reader at its end.
+TEST_F(AllocationFailureTest, ARasMessageWithoutItsProtocolIdentifierIsRefused) {
+  for (const Message& original : Corpus()) {
+    if (original.family != Family::kRas) continue;
+    heap_.Reset();
+    heap_.RefuseOnly(1);
+    DecodedMessage message(original.family, WithSpare(original.family, original.octets));
+    EXPECT_FALSE(message.Accepted()) << original.name;
+    EXPECT_EQ(heap_.Requests(), 1U) << original.name;
+    EXPECT_TRUE(heap_.LiveBlocks().empty()) << original.name;
+  }
+}
+
+TEST_F(AllocationFailureTest, WithoutAnyMemoryNoMessageOfH225IsAccepted) {
+  size_t tried = 0;
+  for (const Message& original : Corpus()) {
+    if (original.family == Family::kH245 || KindsOf(original).empty()) continue;
+    ++tried;
+    heap_.RefuseFrom(1);
+    DecodedMessage message(original.family, WithSpare(original.family, original.octets));
+    EXPECT_EQ(message.Result(), -1) << original.name;
+    EXPECT_TRUE(heap_.Granted().empty()) << original.name;
+    EXPECT_TRUE(heap_.Releases().empty()) << original.name;
+  }
+  EXPECT_GT(tried, 90U);
+}
+
+// A message without a block to refuse decodes on an empty heap too.
+TEST_F(AllocationFailureTest, AMessageThatNeedsNoBlockNeedsNoMemory) {
+  heap_.RefuseFrom(1);
+  const std::vector<uint8_t> octets = OpenLogicalChannelMessage(WriteNullDataType);
+  DecodedMessage message(Family::kH245, octets);
+  EXPECT_EQ(message.Result(), 1);
+  EXPECT_EQ(heap_.Requests(), 0U);
+}
+
+class RedundancyEncodingTest : public FaultTest {
+ protected:
+  // redundancyEncoding with a nonStandard secondaryEncoding (three blocks) and one element of
+  // rtpRedundancyEncoding.secondary (two).
+  static std::vector<uint8_t> Octets() {
+    BitWriter rtp;
+    rtp.Bits(0b001, 3);      // secondary alone
+    rtp.Align().Bits(1, 8);  // its count
+    rtp.Bits(0b00, 2);       // one element without payloadType
+    WriteNullDataType(rtp);
+    BitWriter encoding;
+    encoding.Bits(0b11, 2);                      // extended, with secondaryEncoding
+    encoding.Bits(0b01, 2);                      // rtpAudioRedundancyEncoding
+    encoding.Bits(0b0000, 4);                    // DataType: nonStandard
+    encoding.Bit(false).OpenType({0x2A, 0x03});  // its identifier, an object
+    encoding.OpenType({0x11, 0x22, 0x33});       // its data
+    encoding.NormallySmall(0).Bit(true).OpenType(rtp);
+    return OpenLogicalChannelMessage([&](BitWriter& message) {
+      message.Bit(true).NormallySmall(3).OpenType(encoding);  // redundancyEncoding
+    });
+  }
+  static const h245::RedundancyEncoding& EncodingOf(const DecodedMessage& message) {
+    return message.H245().request.openLogicalChannel.forwardLogicalChannelParameters.dataType.redundancyEncoding;
+  }
+  // Copies: nothing may refer to a pointer that stands unaligned in its record.
+  static const void* SecondaryEncodingOf(const DecodedMessage& message) {
+    return EncodingOf(message).secondaryEncoding;
+  }
+  static const void* ListOf(const DecodedMessage& message) {
+    return EncodingOf(message).rtpRedundancyEncoding.secondary;
+  }
+  static constexpr size_t kListOfSecondary = 4;
+};
+
+TEST_F(RedundancyEncodingTest, HoldsBothSecondaries) {
+  DecodedMessage message(Family::kH245, Octets());
+  EXPECT_EQ(message.Result(), 1);
+  EXPECT_EQ(heap_.Granted().size(), 5U);
+  EXPECT_NE(SecondaryEncodingOf(message), nullptr);
+  EXPECT_NE(ListOf(message), nullptr);
+  ExpectOwnership(Family::kH245, message, "whole");
+  ExpectCleanRelease(message, "whole");
+}
+
+TEST_F(RedundancyEncodingTest, ReleasesTheSecondaryEncodingAtOnceWhenTheListIsRefused) {
+  heap_.RefuseOnly(kListOfSecondary);
+  DecodedMessage message(Family::kH245, Octets());
+  ASSERT_EQ(heap_.Granted().size(), 3U);
+  // The blocks of the record first, then the record's own: the first that was granted.
+  ASSERT_EQ(heap_.Releases().size(), 3U);
+  for (const Release& release : heap_.Releases()) EXPECT_EQ(release.sourcePath, "codec/h245func");
+  EXPECT_EQ(heap_.Releases().back().block, heap_.Granted().front());
+  EXPECT_TRUE(heap_.LiveBlocks().empty());
+  EXPECT_EQ(SecondaryEncodingOf(message), nullptr);
+  EXPECT_EQ(ListOf(message), nullptr);
+  EXPECT_EQ(EncodingOf(message).rtpRedundancyEncoding.secondaryCount, 1);
+  ExpectCleanRelease(message, "refused");
+  EXPECT_EQ(heap_.Releases().size(), 3U);
+}
+
+TEST_F(RedundancyEncodingTest, KeepsTheSecondaryEncodingWhenAnotherBlockIsRefused) {
+  for (const size_t nth : {kListOfSecondary - 1, kListOfSecondary + 1}) {
+    heap_.Reset();
+    heap_.RefuseOnly(nth);
+    DecodedMessage message(Family::kH245, Octets());
+    EXPECT_TRUE(heap_.Releases().empty()) << nth;
+    EXPECT_NE(SecondaryEncodingOf(message), nullptr) << nth;
+    ExpectCleanRelease(message, "another block");
+    for (const Release& release : heap_.Releases()) EXPECT_EQ(release.sourcePath, "codec/freeintr") << nth;
+  }
+}
+
+}  // namespace
+}  // namespace kelvra::test

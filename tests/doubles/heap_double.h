@@ -1,0 +1,67 @@
+// A heap and a diagnostic hook in the place of the library's own: they record what the library asks of
+// them, and the heap refuses on demand.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+namespace kelvra::test {
+
+struct Release {
+  const void* block;
+  std::string sourcePath;
+};
+
+struct TraceCall {
+  int32_t module;
+  int32_t severity;
+  int32_t reason;
+  int32_t source;
+};
+
+class HeapDouble {
+ public:
+  static HeapDouble& Instance();
+
+  // Forgets what was recorded and grants everything again. Live blocks stay live.
+  void Reset();
+  // Takes back what is still live, so that a leak fails the test that made it and no other.
+  void DropLiveBlocks();
+  // Refuses the n-th allocation from now on, counted from 1.
+  void RefuseOnly(size_t nth);
+  // Refuses the n-th allocation and all behind it.
+  void RefuseFrom(size_t nth);
+
+  size_t Requests() const { return requests_; }
+  size_t Refusals() const { return refusals_; }
+  uint64_t OctetsGranted() const { return octetsGranted_; }
+  // The blocks granted, in the order of their requests.
+  const std::vector<const void*>& Granted() const { return granted_; }
+  const std::vector<Release>& Releases() const { return releases_; }
+  const std::vector<TraceCall>& Traces() const { return traces_; }
+  // The blocks that were granted and not released, sorted.
+  std::vector<const void*> LiveBlocks() const;
+  // Releases of what was no live block.
+  size_t WildReleases() const { return wildReleases_; }
+
+  void* Allocate(size_t size);
+  void Free(void* slot, const char* sourcePath);
+  void Trace(const TraceCall& call) { traces_.push_back(call); }
+
+ private:
+  std::unordered_map<const void*, size_t> live_;
+  std::vector<const void*> granted_;
+  std::vector<Release> releases_;
+  std::vector<TraceCall> traces_;
+  size_t requests_ = 0;
+  size_t refusals_ = 0;
+  size_t wildReleases_ = 0;
+  uint64_t octetsGranted_ = 0;
+  size_t firstRefused_ = 0;
+  size_t lastRefused_ = 0;
+};
+
+}  // namespace kelvra::test

@@ -1,0 +1,94 @@
+#include "doubles/message_corpus.h"
+
+#include <algorithm>
+#include <cstring>
+#include <fstream>
+#include <stdexcept>
+
+namespace kelvra::test {
+namespace {
+
+// The value of a string member in one line of JSON; the strings wanted hold no escapes.
+std::string StringMember(const std::string& line, const std::string& name) {
+  const std::string start = "\"" + name + "\": \"";
+  const size_t at = line.find(start);
+  if (at == std::string::npos) throw std::runtime_error("no member " + name);
+  const size_t first = at + start.size();
+  return line.substr(first, line.find('"', first) - first);
+}
+
+std::vector<uint8_t> OctetsOf(const std::string& hex) {
+  std::vector<uint8_t> octets;
+  for (size_t i = 0; i + 1 < hex.size(); i += 2) {
+    octets.push_back(static_cast<uint8_t>(std::stoul(hex.substr(i, 2), nullptr, 16)));
+  }
+  return octets;
+}
+
+void Load(std::vector<Message>& messages, Family family, const std::string& file) {
+  std::ifstream stream(KELVRA_TEST_DATA "/" + file);
+  size_t number = 0;
+  for (std::string line; std::getline(stream, line);) {
+    const std::string name = file + ":" + std::to_string(++number) + " " + StringMember(line, "alt");
+    messages.push_back({family, name, OctetsOf(StringMember(line, "hex"))});
+  }
+  if (number == 0) throw std::runtime_error("no messages in " + file);
+}
+
+template <class Record>
+Record& Emplace(std::variant<h225::RasMessageRecord, h225::Q931MessageRecord, h245::H245MessageRecord>& record) {
+  Record& emplaced = record.emplace<Record>();
+  std::memset(static_cast<void*>(&emplaced), 0xA5, sizeof emplaced);
+  return emplaced;
+}
+
+}  // namespace
+
+const std::vector<Message>& Corpus() {
+  static const std::vector<Message> corpus = [] {
+    std::vector<Message> messages;
+    Load(messages, Family::kRas, "ras.jsonl");
+    Load(messages, Family::kQ931, "q931.jsonl");
+    Load(messages, Family::kH245, "h245.jsonl");
+    return messages;
+  }();
+  return corpus;
+}
+
+DecodedMessage::DecodedMessage(Family family, const std::vector<uint8_t>& octets)
+    : family_(family), buffer_(new uint8_t[octets.size()]) {
+  std::copy(octets.begin(), octets.end(), buffer_.get());
+  const auto size = static_cast<uint32_t>(octets.size());
+  switch (family) {
+    case Family::kRas: {
+      const intptr_t end = KelvraDecodeRASMessage(&Emplace<h225::RasMessageRecord>(record_), buffer_.get(), size);
+      result_ = end == 0 ? -1 : int64_t{end} - reinterpret_cast<intptr_t>(buffer_.get());
+      break;
+    }
+    case Family::kQ931:
+      result_ = KelvraDecodeQ931Message(&Emplace<h225::Q931MessageRecord>(record_), buffer_.get(),
+                                        static_cast<int32_t>(size));
+      break;
+    case Family::kH245:
+      result_ = KelvraDecodeH245Message(&Emplace<h245::H245MessageRecord>(record_), buffer_.get(), size);
+      break;
+  }
+}
+
+void DecodedMessage::Release() {
+  if (auto* ras = std::get_if<h225::RasMessageRecord>(&record_)) {
+    KelvraFreeRASMessage(ras);
+  } else if (auto* q931 = std::get_if<h225::Q931MessageRecord>(&record_)) {
+    KelvraFreeQ931Message(q931);
+  } else {
+    KelvraFreeH245Message(&std::get<h245::H245MessageRecord>(record_));
+  }
+}
+
+std::vector<uint8_t> WithSpare(Family family, const std::vector<uint8_t>& octets) {
+  std::vector<uint8_t> handed = octets;
+  if (family == Family::kRas) handed.push_back(0);
+  return handed;
+}
+
+}  // namespace kelvra::test

@@ -1,0 +1,63 @@
+// The carried messages, and one way to decode, walk and release a message of any family.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "api/kelvra.h"
+
+namespace kelvra::test {
+
+enum class Family { kRas, kQ931, kH245 };
+
+struct Message {
+  Family family;
+  std::string name;
+  std::vector<uint8_t> octets;  // of a RAS message without the spare octet behind it
+};
+
+// Every message of tests/data.
+const std::vector<Message>& Corpus();
+
+class DecodedMessage {
+ public:
+  // Decodes from a heap block of the very size, into a record that held other values before.
+  DecodedMessage(Family family, const std::vector<uint8_t>& octets);
+  DecodedMessage(const DecodedMessage&) = delete;
+  DecodedMessage& operator=(const DecodedMessage&) = delete;
+
+  // What the decode returned. Of RAS it is the distance of the address from the buffer; -1 for refusal.
+  int64_t Result() const { return result_; }
+  // Whether the function said that the message was decoded. One of H.245 cannot say so.
+  bool Accepted() const { return family_ == Family::kRas ? result_ >= 0 : result_ == 0; }
+
+  void Release();
+
+  // The user information of a Q.931 message is walked whether it is marked as present or not.
+  template <class Visitor>
+  void Walk(Visitor& visitor) {
+    if (auto* ras = std::get_if<h225::RasMessageRecord>(&record_)) {
+      h225::RasMessageRecord::Walk(*ras, visitor);
+    } else if (auto* q931 = std::get_if<h225::Q931MessageRecord>(&record_)) {
+      h225::H323UserInformation::Walk(q931->userInformation, visitor);
+    } else {
+      h245::H245MessageRecord::Walk(std::get<h245::H245MessageRecord>(record_), visitor);
+    }
+  }
+
+  const h245::H245MessageRecord& H245() const { return std::get<h245::H245MessageRecord>(record_); }
+
+ private:
+  Family family_;
+  std::unique_ptr<uint8_t[]> buffer_;
+  std::variant<h225::RasMessageRecord, h225::Q931MessageRecord, h245::H245MessageRecord> record_;
+  int64_t result_ = 0;
+};
+
+// The octets as they are handed over whole: a RAS message needs one spare octet behind it.
+std::vector<uint8_t> WithSpare(Family family, const std::vector<uint8_t>& octets);
+
+}  // namespace kelvra::test

@@ -1,0 +1,115 @@
+// Collects the blocks that a record reaches, and the slots that a refused block left empty.
+#pragma once
+
+#include <algorithm>
+#include <cstdint>
+#include <map>
+#include <type_traits>
+#include <vector>
+
+#include "api/kelvra.h"
+#include "per/walk.h"
+
+namespace kelvra::test {
+
+enum class BlockKind { kString, kList, kListInsideH245 };
+
+class OwnershipVisitor {
+ public:
+  void Number(const char*, int64_t) {}
+  void Boolean(const char*, uint32_t) {}
+  void EnumeratedValue(uint32_t, const char*) {}
+  void Null(const char*) {}
+  void Embedded(const char*, const uint8_t*, uint32_t, OctetNotation) {}
+  void UnknownExtension(uint32_t) {}
+  void UnknownRoot(uint32_t) {}
+
+  void ObjectIdentifier(const char*, const ObjectIdentifierValue& value) { See(value.arcs, value.count); }
+  void Characters16(const char*, const BMPStringValue& value) { See(value.data, value.length); }
+  void Octets(const char*, Slot<uint8_t> slot, uint32_t count, OctetNotation) { See(slot.Get(), count); }
+
+  template <class R>
+  void Record(const char*, R& record) {
+    Enter(record);
+  }
+  template <class R>
+  void Pointer(const char* name, Slot<R> slot) {
+    // Whether the record was there at all does not show beside the pointer.
+    if (slot.Get() != nullptr) List(name, slot, 1);
+  }
+  template <class R>
+  void List(const char*, Slot<R> slot, uint32_t count) {
+    R* elements = slot.Get();
+    SeeList(elements, count);
+    for (uint32_t i = 0; elements != nullptr && i < count; ++i) Enter(elements[i]);
+  }
+  void OctetStrings(const char*, Slot<OctetStringValue> slot, uint32_t count, OctetNotation) {
+    SeeStrings(slot, count);
+  }
+  void FixedOctetStrings(const char*, Slot<OctetStringValue> slot, uint32_t count, uint32_t) {
+    const OctetStringValue* values = slot.Get();
+    SeeList(values, count);
+    for (uint32_t i = 0; values != nullptr && i < count; ++i) See(values[i].data, 0);
+  }
+  void ObjectIdentifiers(const char*, Slot<ObjectIdentifierValue> slot, uint32_t count) {
+    const ObjectIdentifierValue* values = slot.Get();
+    SeeList(values, count);
+    for (uint32_t i = 0; values != nullptr && i < count; ++i) See(values[i].arcs, values[i].count);
+  }
+  template <class N>
+  void Numbers(const char*, Slot<N> slot, uint32_t count) {
+    SeeList(slot.Get(), count);
+  }
+
+  // Sorted; a block that two slots share appears twice.
+  std::vector<const void*> Blocks() const {
+    std::vector<const void*> sorted = blocks_;
+    std::sort(sorted.begin(), sorted.end());
+    return sorted;
+  }
+  // What the slot that holds the block is for.
+  const std::map<const void*, BlockKind>& Kinds() const { return kinds_; }
+  // Slots without a block beside a count that is not zero.
+  uint32_t EmptyStrings() const { return emptyStrings_; }
+  uint32_t EmptyLists() const { return emptyLists_; }  // of H.225.0 records
+
+ private:
+  // The H.245 types that H.225.0 records hold. Their decoders go on where a block was refused.
+  template <class R>
+  static constexpr bool kBelongsToH245 =
+      std::is_same_v<R, h245::OpenLogicalChannel> || std::is_same_v<R, h245::DataProtocolCapability> ||
+      std::is_same_v<R, h245::T38FaxProfile>;
+
+  template <class R>
+  void Enter(R& record) {
+    constexpr uint32_t kLevel = kBelongsToH245<std::remove_const_t<R>> ? 1 : 0;
+    insideH245_ += kLevel;
+    R::Walk(record, *this);
+    insideH245_ -= kLevel;
+  }
+  void SeeStrings(Slot<OctetStringValue> slot, uint32_t count) {
+    const OctetStringValue* values = slot.Get();
+    SeeList(values, count);
+    for (uint32_t i = 0; values != nullptr && i < count; ++i) See(values[i].data, values[i].length);
+  }
+  void See(const void* block, uint32_t count) {
+    if (block != nullptr) return Keep(block, BlockKind::kString);
+    if (count != 0) ++emptyStrings_;
+  }
+  void SeeList(const void* block, uint32_t count) {
+    if (block != nullptr) return Keep(block, insideH245_ != 0 ? BlockKind::kListInsideH245 : BlockKind::kList);
+    if (count != 0 && insideH245_ == 0) ++emptyLists_;
+  }
+  void Keep(const void* block, BlockKind kind) {
+    blocks_.push_back(block);
+    kinds_.emplace(block, kind);
+  }
+
+  std::vector<const void*> blocks_;
+  std::map<const void*, BlockKind> kinds_;
+  uint32_t insideH245_ = 0;
+  uint32_t emptyStrings_ = 0;
+  uint32_t emptyLists_ = 0;
+};
+
+}  // namespace kelvra::test

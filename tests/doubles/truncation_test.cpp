@@ -1,0 +1,62 @@
+// Every carried message cut short at every octet, each time in a heap block of just that size.
+#include <algorithm>
+
+#include "doubles/fault_test.h"
+
+namespace kelvra::test {
+namespace {
+
+class TruncationTest : public FaultTest {
+ protected:
+  static std::vector<uint8_t> Cut(const Message& original, size_t size) {
+    return {original.octets.begin(), original.octets.begin() + static_cast<ptrdiff_t>(size)};
+  }
+
+  void ExpectSafeEverywhere(Family family) {
+    for (const Message& original : Corpus()) {
+      if (original.family != family) continue;
+      for (size_t size = 1; size < original.octets.size(); ++size) {
+        ExpectSafe(family, Cut(original, size), original.name + ", cut to " + std::to_string(size));
+        if (HasFailure()) return;  // the others would say the same
+      }
+    }
+  }
+};
+
+TEST_F(TruncationTest, RasMessages) { ExpectSafeEverywhere(Family::kRas); }
+TEST_F(TruncationTest, Q931Messages) { ExpectSafeEverywhere(Family::kQ931); }
+TEST_F(TruncationTest, H245Messages) { ExpectSafeEverywhere(Family::kH245); }
+
+// The protocolIdentifier of each of them ends with octet 11.
+TEST_F(TruncationTest, ARasMessageOfAFewOctetsIsRefused) {
+  for (const Message& original : Corpus()) {
+    if (original.family != Family::kRas) continue;
+    for (size_t size = 0; size <= 10; ++size) {
+      DecodedMessage message(Family::kRas, Cut(original, size));
+      EXPECT_EQ(message.Result(), -1) << original.name << ", cut to " << size;
+    }
+  }
+}
+
+// The call reference and the message type end with octet 9; the user-user element comes after them.
+TEST_F(TruncationTest, AQ931MessageWithoutInformationElementsIsRefused) {
+  for (const Message& original : Corpus()) {
+    if (original.family != Family::kQ931) continue;
+    for (size_t size = 1; size <= 9; ++size) {
+      DecodedMessage message(Family::kQ931, Cut(original, size));
+      EXPECT_EQ(message.Result(), -1) << original.name << ", cut to " << size;
+    }
+    DecodedMessage empty(Family::kQ931, {});
+    EXPECT_EQ(empty.Result(), -10) << original.name;
+  }
+  EXPECT_EQ(heap_.Requests(), 0U);
+}
+
+TEST_F(TruncationTest, AnEmptyH245MessageEndsWithItsBuffer) {
+  DecodedMessage message(Family::kH245, {});
+  EXPECT_EQ(message.Result(), 1);
+  EXPECT_EQ(heap_.Requests(), 0U);
+}
+
+}  // namespace
+}  // namespace kelvra::test

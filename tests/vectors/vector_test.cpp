@@ -1,0 +1,100 @@
+// Messages with the values that they carry: each line of tests/data/*.jsonl holds the octets (`hex`)
+// and the JSON of the record they decode into (`expected`).
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <fstream>
+#include <memory>
+#include <nlohmann/json.hpp>
+#include <string>
+#include <vector>
+
+#include "api/kelvra.h"
+#include "hex.h"
+#include "json_visitor.h"
+
+namespace {
+
+using nlohmann::json;
+
+struct Vector {
+  std::string name;
+  std::vector<uint8_t> octets;
+  json expected;
+};
+
+std::vector<Vector> Load(const std::string& file) {
+  std::ifstream stream(KELVRA_VECTORS "/" + file);
+  std::vector<Vector> vectors;
+  for (std::string line; std::getline(stream, line);) {
+    const json values = json::parse(line);
+    vectors.push_back({file + ":" + std::to_string(vectors.size() + 1) + " " + values.at("alt").get<std::string>(),
+                       FromHex(values.at("hex").get<std::string>()), values.at("expected")});
+  }
+  return vectors;
+}
+
+// A heap block of the very size, so that a sanitizer sees a read behind it.
+class ExactBuffer {
+ public:
+  ExactBuffer(const std::vector<uint8_t>& octets, size_t spare)
+      : size_(octets.size() + spare), octets_(std::make_unique<uint8_t[]>(size_)) {
+    std::copy(octets.begin(), octets.end(), octets_.get());
+  }
+  const uint8_t* octets() const { return octets_.get(); }
+  uint32_t size() const { return static_cast<uint32_t>(size_); }
+
+ private:
+  size_t size_;
+  std::unique_ptr<uint8_t[]> octets_;
+};
+
+// Names every place where the two differ.
+void ExpectSame(const Vector& vector, const Json& decoded) {
+  const json actual = json::parse(decoded.dump());
+  if (actual == vector.expected) return;
+  for (const json& difference : json::diff(vector.expected, actual)) {
+    const std::string path = difference.at("path");
+    ADD_FAILURE() << vector.name << "\n  at " << path << ": " << difference.at("op").get<std::string>() << " "
+                  << difference.value("value", json()).dump();
+  }
+}
+
+TEST(Vectors, RasMessagesHoldTheirValues) {
+  const std::vector<Vector> vectors = Load("ras.jsonl");
+  ASSERT_EQ(vectors.size(), 37U);
+  for (const Vector& vector : vectors) {
+    const ExactBuffer buffer(vector.octets, 1);
+    kelvra::h225::RasMessageRecord record;
+    const intptr_t end = KelvraDecodeRASMessage(&record, buffer.octets(), buffer.size());
+    EXPECT_EQ(end, reinterpret_cast<intptr_t>(buffer.octets() + vector.octets.size())) << vector.name;
+    ExpectSame(vector, RecordToJson(record));
+    KelvraFreeRASMessage(&record);
+  }
+}
+
+TEST(Vectors, Q931MessagesHoldTheirValues) {
+  const std::vector<Vector> vectors = Load("q931.jsonl");
+  ASSERT_EQ(vectors.size(), 65U);
+  for (const Vector& vector : vectors) {
+    const ExactBuffer buffer(vector.octets, 0);
+    kelvra::h225::Q931MessageRecord record;
+    EXPECT_EQ(KelvraDecodeQ931Message(&record, buffer.octets(), static_cast<int32_t>(buffer.size())), 0) << vector.name;
+    ExpectSame(vector, RecordToJson(record));
+    KelvraFreeQ931Message(&record);
+  }
+}
+
+TEST(Vectors, H245MessagesHoldTheirValues) {
+  const std::vector<Vector> vectors = Load("h245.jsonl");
+  ASSERT_EQ(vectors.size(), 9U);
+  for (const Vector& vector : vectors) {
+    const ExactBuffer buffer(vector.octets, 0);
+    kelvra::h245::H245MessageRecord record;
+    EXPECT_EQ(KelvraDecodeH245Message(&record, buffer.octets(), buffer.size()), 1) << vector.name;
+    ExpectSame(vector, RecordToJson(record));
+    KelvraFreeH245Message(&record);
+  }
+}
+
+}  // namespace
