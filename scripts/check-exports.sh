@@ -15,7 +15,7 @@ fail() {
   exit 1
 }
 
-wanted=$(sed -e 's/;.*//' -e '1,/^[[:space:]]*EXPORTS/d' "$def" |
+wanted=$(sed -e 's/;.*//' -e '0,/^[[:space:]]*EXPORTS/d' "$def" |
   awk 'NF { print $1 }' | sort)
 [[ $(wc -l <<<"$wanted") -eq 6 ]] || fail "$def does not list six names"
 
