@@ -15,7 +15,6 @@ Status DecodeInternetName(OctetStringValue& m, PerReader& r) {
 }
 
 Status DecodeIpAddress(TransportAddress::IpAddress& m, PerReader& r) {
-  if (PerAtEnd(r)) return kExhausted;
   PerReadFixedOctets(m.ip, r, 4);
   m.port = PerReadNumber<uint16_t>(r, 0, 65535);
   return kDecoded;
@@ -23,7 +22,6 @@ Status DecodeIpAddress(TransportAddress::IpAddress& m, PerReader& r) {
 
 // An extension alternative of `routing` leaves its index in the tag of the whole address.
 Status DecodeIpSourceRoute(TransportAddress& m, PerReader& r) {
-  if (PerAtEnd(r)) return kExhausted;
   TransportAddress::IpSourceRoute& source = m.ipSourceRoute;
   source.isExtended = PerReadBit(r);
   PerReadFixedOctets(source.ip, r, 4);
@@ -45,7 +43,6 @@ Status DecodeIpSourceRoute(TransportAddress& m, PerReader& r) {
 }
 
 Status DecodeIpxAddress(TransportAddress::IpxAddress& m, PerReader& r) {
-  if (PerAtEnd(r)) return kExhausted;
   PerReadFixedOctets(m.node, r, 6);
   PerReadFixedOctets(m.netnum, r, 4);
   PerReadFixedOctets(m.port, r, 2);
@@ -53,7 +50,6 @@ Status DecodeIpxAddress(TransportAddress::IpxAddress& m, PerReader& r) {
 }
 
 Status DecodeIp6Address(TransportAddress::Ip6Address& m, PerReader& r) {
-  if (PerAtEnd(r)) return kExhausted;
   m.isExtended = PerReadBit(r);
   PerReadFixedOctets(m.ip, r, 16);
   m.port = PerReadNumber<uint16_t>(r, 0, 65535);
@@ -62,7 +58,6 @@ Status DecodeIp6Address(TransportAddress::Ip6Address& m, PerReader& r) {
 }
 
 Status DecodeSystemId(ANSI41UIM::SystemId& m, PerReader& r) {
-  if (PerAtEnd(r)) return kExhausted;
   const uint32_t index = ReadChoice(m, r, 2);
   if (m.isExtension) {
     m.choiceTag = 0;  // the index is not kept

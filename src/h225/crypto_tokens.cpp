@@ -8,7 +8,6 @@ namespace kelvra::h225 {
 namespace {
 
 Status DecodeCryptoEPPwdHash(CryptoH323Token::CryptoEPPwdHash& m, PerReader& r) {
-  if (PerAtEnd(r)) return kExhausted;
   KELVRA_TRY(DecodeAliasAddress(m.alias, r));
   m.timeStamp = PerReadNumber<uint32_t>(r, 1, kUnsigned32Maximum);
   KELVRA_TRY(h235::DecodeHASHED(m.token, r));
@@ -16,7 +15,6 @@ Status DecodeCryptoEPPwdHash(CryptoH323Token::CryptoEPPwdHash& m, PerReader& r) 
 }
 
 Status DecodeCryptoGKPwdHash(CryptoH323Token::CryptoGKPwdHash& m, PerReader& r) {
-  if (PerAtEnd(r)) return kExhausted;
   PerReadCharacters16(m.gatekeeperId, r, PerReadNumber<uint32_t>(r, 1, 128));
   m.timeStamp = PerReadNumber<uint32_t>(r, 1, kUnsigned32Maximum);
   KELVRA_TRY(h235::DecodeHASHED(m.token, r));

@@ -8,7 +8,6 @@ namespace kelvra::h225 {
 namespace {
 
 Status DecodeId(TunnelledProtocol::Id& m, PerReader& r) {
-  if (PerAtEnd(r)) return kExhausted;
   const uint32_t index = ReadChoice(m, r, 2);
   if (m.isExtension) return SkipAlternative(r);
   switch (index) {

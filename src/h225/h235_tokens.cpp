@@ -5,7 +5,6 @@ namespace kelvra::h235 {
 namespace {
 
 Status DecodeEckasdhp(ECKASDH::Eckasdhp& m, PerReader& r) {
-  if (PerAtEnd(r)) return kExhausted;
   KELVRA_TRY(DecodeECpoint(m.publicKey, r));
   PerReadBits(m.modulus, r, PerReadNumber<uint32_t>(r, 0, 511));
   KELVRA_TRY(DecodeECpoint(m.base, r));
@@ -15,7 +14,6 @@ Status DecodeEckasdhp(ECKASDH::Eckasdhp& m, PerReader& r) {
 }
 
 Status DecodeEckasdh2(ECKASDH::Eckasdh2& m, PerReader& r) {
-  if (PerAtEnd(r)) return kExhausted;
   KELVRA_TRY(DecodeECpoint(m.publicKey, r));
   PerReadBits(m.fieldSize, r, PerReadNumber<uint32_t>(r, 0, 511));
   KELVRA_TRY(DecodeECpoint(m.base, r));
@@ -25,21 +23,18 @@ Status DecodeEckasdh2(ECKASDH::Eckasdh2& m, PerReader& r) {
 }
 
 Status DecodeCryptoEncryptedToken(CryptoToken::CryptoEncryptedToken& m, PerReader& r) {
-  if (PerAtEnd(r)) return kExhausted;
   PerReadObjectIdentifier(m.tokenOID, r);
   KELVRA_TRY(DecodeENCRYPTED(m.token, r));
   return kDecoded;
 }
 
 Status DecodeCryptoSignedToken(CryptoToken::CryptoSignedToken& m, PerReader& r) {
-  if (PerAtEnd(r)) return kExhausted;
   PerReadObjectIdentifier(m.tokenOID, r);
   KELVRA_TRY(DecodeSIGNED(m.token, r));
   return kDecoded;
 }
 
 Status DecodeCryptoHashedToken(CryptoToken::CryptoHashedToken& m, PerReader& r) {
-  if (PerAtEnd(r)) return kExhausted;
   PerReadObjectIdentifier(m.tokenOID, r);
   KELVRA_TRY(DecodeClearToken(m.hashedVals, r));
   KELVRA_TRY(DecodeHASHED(m.token, r));

@@ -14,7 +14,6 @@ namespace kelvra::h225 {
 namespace {
 
 Status DecodeH323MessageBody(H323UUPDU::H323MessageBody& m, PerReader& r) {
-  if (PerAtEnd(r)) return kExhausted;
   const uint32_t index = ReadChoice(m, r, 7);
   if (m.isExtension) {
     switch (index) {
@@ -39,7 +38,6 @@ Status DecodeH323MessageBody(H323UUPDU::H323MessageBody& m, PerReader& r) {
 }
 
 Status DecodeTunnelledSignallingMessage(H323UUPDU::TunnelledSignallingMessage& m, PerReader& r) {
-  if (PerAtEnd(r)) return kExhausted;
   m.isExtended = PerReadBit(r);
   m.hasTunnellingRequired = PerReadBit(r);
   m.hasNonStandardData = PerReadBit(r);
@@ -51,7 +49,6 @@ Status DecodeTunnelledSignallingMessage(H323UUPDU::TunnelledSignallingMessage& m
 }
 
 Status DecodeUserData(H323UserInformation::UserData& m, PerReader& r) {
-  if (PerAtEnd(r)) return kExhausted;
   m.isExtended = PerReadBit(r);
   m.protocolDiscriminator = PerReadNumber<uint8_t>(r, 0, 255);
   PerReadSizedOctets(m.userInformation, r, 131, 1);

@@ -15,7 +15,6 @@ namespace kelvra::h225 {
 namespace {
 
 Status DecodeConnectionParameters(SetupUUIE::ConnectionParameters& m, PerReader& r) {
-  if (PerAtEnd(r)) return kExhausted;
   m.isExtended = PerReadBit(r);
   KELVRA_TRY(DecodeNullChoice(m.connectionType, r));
   m.numberOfScnConnections = PerReadNumber<uint16_t>(r, 0, 65535);

@@ -1,0 +1,107 @@
+// What the decoder tests share: readers over exact-size input, records that release themselves, and
+// the values that many messages carry.
+#pragma once
+
+#include <algorithm>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "codec/memory.h"
+#include "codec/release.h"
+#include "codec/status.h"
+#include "per/bit_writer.h"
+#include "per/primitives.h"
+#include "per/reader.h"
+
+namespace kelvra::test {
+
+// A reader over a heap block of exactly the input's size, so that a sanitizer sees any octet read
+// beyond it.
+class Input {
+ public:
+  explicit Input(const std::vector<uint8_t>& octets) : octets_(new uint8_t[octets.size()]) {
+    std::copy(octets.begin(), octets.end(), octets_.get());
+    PerReaderInit(reader, octets_.get(), static_cast<uint32_t>(octets.size()));
+  }
+  // The next whole octet. Where a decoder stopped shows in the marker that follows its value.
+  uint32_t Next() {
+    PerAlign(reader);
+    return PerReadBits(reader, 8);
+  }
+
+  PerReader reader;
+
+ private:
+  std::unique_ptr<uint8_t[]> octets_;
+};
+
+inline constexpr uint32_t kMarker = 0x5A;
+
+// The octets composed so far and the marker.
+inline std::vector<uint8_t> Marked(BitWriter writer) { return writer.Octets({kMarker}); }
+
+// A zeroed record that gives its blocks back.
+template <class R>
+class Owned {
+ public:
+  Owned() { CodecFill(&record_, 0, sizeof record_); }
+  ~Owned() {
+    ReleaseVisitor release("test");
+    R::Walk(record_, release);
+  }
+  Owned(const Owned&) = delete;
+  Owned& operator=(const Owned&) = delete;
+
+  R& operator*() { return record_; }
+  R* operator->() { return &record_; }
+  bool IsZero() const {
+    const auto* octets = reinterpret_cast<const uint8_t*>(&record_);
+    return std::all_of(octets, octets + sizeof record_, [](uint8_t octet) { return octet == 0; });
+  }
+
+ private:
+  R record_;
+};
+
+inline std::vector<uint8_t> OctetsAt(const uint8_t* octets, uint32_t count) {
+  return octets == nullptr ? std::vector<uint8_t>() : std::vector<uint8_t>(octets, octets + count);
+}
+inline std::vector<uint8_t> OctetsOf(const OctetStringValue& value) { return OctetsAt(value.data, value.length); }
+inline std::string TextOf(const OctetStringValue& value) {
+  const std::vector<uint8_t> octets = OctetsOf(value);
+  return {octets.begin(), octets.end()};
+}
+inline std::u16string TextOf(const BMPStringValue& value) {
+  std::u16string text;
+  for (uint32_t i = 0; value.data != nullptr && i < value.length; ++i) text += static_cast<char16_t>(value.data[i]);
+  return text;
+}
+
+// `count` octets that rise from `first`.
+inline std::vector<uint8_t> Rising(uint8_t first, uint32_t count) {
+  std::vector<uint8_t> octets;
+  for (uint32_t i = 0; i < count; ++i) octets.push_back(static_cast<uint8_t>(first + i));
+  return octets;
+}
+
+// { itu-t recommendation h 2250 version `version` }, version below 128.
+inline std::vector<uint8_t> ProtocolIdentifier(uint8_t version) { return {0x00, 0x08, 0x91, 0x4A, 0x00, version}; }
+
+// An H.225.0 EndpointType with nothing in it.
+inline BitWriter& EmptyEndpointType(BitWriter& writer) { return writer.Bits(0, 9); }
+
+// An H.225.0 TransportAddress: ipAddress 10.1.2.`host`.
+inline BitWriter& IpAddress(BitWriter& writer, uint8_t host, uint16_t port) {
+  return writer.Bits(0, 4).Octets({10, 1, 2, host}).Bits(port, 16);
+}
+
+// The extension additions of a SEQUENCE: the bitmap, most significant bit first, then the open types.
+inline BitWriter& Additions(BitWriter& writer, uint64_t bitmap, uint32_t count) {
+  return writer.NormallySmall(count - 1).Bits(bitmap, count);
+}
+
+// The bit of addition `index` in a bitmap of `count`.
+constexpr uint64_t Addition(uint32_t index, uint32_t count) { return uint64_t{1} << (count - 1 - index); }
+
+}  // namespace kelvra::test

@@ -1,0 +1,106 @@
+#include "h225/identifiers.h"
+
+#include <gtest/gtest.h>
+
+#include "h225/decoding.h"
+#include "h225/identifiers_decode.h"
+
+namespace kelvra::h225 {
+namespace {
+
+using test::Additions;
+using test::BitWriter;
+using test::Input;
+using test::kMarker;
+using test::Marked;
+using test::OctetsOf;
+using test::Owned;
+using test::Rising;
+
+// A record of the null-choice kind, which the release walk has nothing to do with.
+template <class Choice>
+struct Decoded {
+  Status status;
+  uint32_t tag, isExtension, next;
+};
+
+template <class Choice>
+Decoded<Choice> Decode(Status (*decode)(Choice&, PerReader&), const BitWriter& value) {
+  Input input(Marked(value));
+  Owned<Choice> choice;
+  const Status status = decode(*choice, input.reader);
+  return {status, choice->choiceTag, choice->isExtension, input.Next()};
+}
+
+TEST(CallIdentifierTest, AdditionsAreSkipped) {
+  BitWriter w;
+  w.Bit(true).Octets(Rising(0x10, 16));
+  Additions(w, 0b10, 2).OpenType({1, 2});
+  Input input(Marked(w));
+  Owned<CallIdentifier> identifier;
+  ASSERT_EQ(DecodeCallIdentifier(*identifier, input.reader), kDecoded);
+  EXPECT_EQ(OctetsOf(identifier->guid), Rising(0x10, 16));
+  EXPECT_EQ(input.Next(), kMarker);
+}
+
+TEST(CallIdentifierTest, TruncatedGuidSurfacesAtTheNextDecoder) {
+  for (const uint32_t octets : {0U, 1U, 15U}) {
+    Input input(BitWriter().Bit(false).Octets(Rising(1, octets)));
+    Owned<CallIdentifier> identifier;
+    EXPECT_EQ(DecodeCallIdentifier(*identifier, input.reader), kDecoded);
+    EXPECT_EQ(+identifier->guid.length, 16U);
+    if (octets < 15) {
+      EXPECT_TRUE(+identifier->guid.data == nullptr);
+    }
+    Owned<CallIdentifier> next;
+    EXPECT_EQ(DecodeCallIdentifier(*next, input.reader), kExhausted);
+    EXPECT_TRUE(next.IsZero());
+  }
+}
+
+TEST(CallTypeTest, RootAndDiscardedExtension) {
+  for (uint32_t tag = 0; tag < 4; ++tag) {
+    const auto m = Decode(DecodeCallType, BitWriter().Bits(tag, 3));
+    EXPECT_EQ(m.status, kDecoded);
+    EXPECT_EQ(m.tag, tag);
+    EXPECT_EQ(m.isExtension, 0U);
+    EXPECT_EQ(m.next, kMarker);
+  }
+  const auto m = Decode(DecodeCallType, BitWriter().Bit(true).NormallySmall(3).OpenType({1, 2}));
+  EXPECT_EQ(m.status, kDecoded);
+  EXPECT_EQ(m.tag, 0U);
+  EXPECT_EQ(m.isExtension, 1U);
+  EXPECT_EQ(m.next, kMarker);
+}
+
+TEST(PresentationIndicatorTest, RootAndDiscardedExtension) {
+  for (uint32_t tag = 0; tag < 4; ++tag) {
+    const auto m = Decode(DecodePresentationIndicator, BitWriter().Bits(tag, 3));
+    EXPECT_EQ(m.status, tag < 3 ? kDecoded : kMalformed);
+    if (tag < 3) {
+      EXPECT_EQ(m.tag, tag);
+    }
+  }
+  const auto m = Decode(DecodePresentationIndicator, BitWriter().Bit(true).NormallySmall(2).OpenType({1}));
+  EXPECT_EQ(m.status, kDecoded);
+  EXPECT_EQ(m.tag, 0U);
+  EXPECT_EQ(m.isExtension, 1U);
+  EXPECT_EQ(m.next, kMarker);
+}
+
+TEST(ScreeningIndicatorTest, TwoBitsAreReadOfThree) {
+  constexpr struct {
+    uint32_t sent, kept;  // the extension bit and the value as sent; the value as kept
+  } kCases[] = {{0b000, 0}, {0b001, 0}, {0b010, 1}, {0b011, 1}, {0b100, 2}, {0b111, 3}};
+  for (const auto& c : kCases) {
+    Input input(BitWriter().Bits(c.sent, 3).Bits(0b10101, 5));
+    Owned<ScreeningIndicator> indicator;
+    ASSERT_EQ(DecodeScreeningIndicator(*indicator, input.reader), kDecoded);
+    EXPECT_EQ(+indicator->value, c.kept);
+    EXPECT_EQ(+indicator->isExtended, 0U);
+    EXPECT_EQ(input.reader.bitOffset, 2U);
+  }
+}
+
+}  // namespace
+}  // namespace kelvra::h225
