@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "concat.h"
 #include "json_path.h"
 #include "utf8.h"
 
@@ -23,7 +24,7 @@ class DetailList {
   std::string text_;
 };
 
-std::string Quoted(const Json& value) { return "\"" + value.get<std::string>() + "\""; }
+std::string Quoted(const Json& value) { return Concat({"\"", value.get_ref<const std::string&>(), "\""}); }
 
 // A number, a string, an address, or which alternative was chosen.
 std::string ValueText(const Json& value) {
@@ -65,7 +66,8 @@ void CollectMedia(const Json& json, std::vector<std::string>& media) {
   const auto channel = ToEndpoint(Find(json, {"mediaChannel"}));
   const auto control = ToEndpoint(Find(json, {"mediaControlChannel"}));
   if (channel || control) {
-    const std::string text = (channel ? ToText(*channel) : "-") + (control ? "/" + ToText(*control) : "");
+    const std::string text =
+        Concat({channel ? ToText(*channel) : "-", control ? "/" : "", control ? ToText(*control) : ""});
     if (std::find(media.begin(), media.end(), text) == media.end()) media.push_back(text);
   }
   for (const Json& member : json) CollectMedia(member, media);

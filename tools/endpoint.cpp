@@ -4,11 +4,13 @@
 #include <charconv>
 #include <stdexcept>
 
+#include "concat.h"
+
 namespace {
 
 std::string V4Text(const std::array<uint8_t, 16>& address) {
   std::string text = std::to_string(address[0]);
-  for (size_t i = 1; i < 4; ++i) text += "." + std::to_string(address[i]);
+  for (size_t i = 1; i < 4; ++i) text += Concat({".", std::to_string(address[i])});
   return text;
 }
 
@@ -72,6 +74,7 @@ Endpoint MakeEndpoint(std::span<const uint8_t> address, uint16_t port) {
 }
 
 std::string ToText(const Endpoint& endpoint) {
-  const std::string port = ":" + std::to_string(endpoint.port);
-  return endpoint.v6 ? "[" + V6Text(endpoint.address) + "]" + port : V4Text(endpoint.address) + port;
+  const std::string port = std::to_string(endpoint.port);
+  return endpoint.v6 ? Concat({"[", V6Text(endpoint.address), "]:", port})
+                     : Concat({V4Text(endpoint.address), ":", port});
 }

@@ -1,3 +1,4 @@
+#include "concat.h"
 #include "family_text.h"
 #include "formats.h"
 #include "json_path.h"
@@ -9,7 +10,7 @@ namespace {
 std::string Indented(size_t depth, const std::string& text) { return std::string(2 * depth, ' ') + text + "\n"; }
 
 std::string Scalar(const Json& value) {
-  return value.is_string() ? "\"" + Printable(value.get_ref<const std::string&>()) + "\"" : value.dump();
+  return value.is_string() ? Concat({"\"", Printable(value.get_ref<const std::string&>()), "\""}) : value.dump();
 }
 
 void PrintMember(const std::string& label, const Json& value, size_t depth, std::string& text);
@@ -21,7 +22,7 @@ void PrintMembers(const Json& object, size_t depth, std::string& text) {
 void PrintElements(const Json& list, size_t depth, std::string& text) {
   size_t index = 0;
   for (const Json& element : list) {
-    const std::string label = "[" + std::to_string(index++) + "]";
+    const std::string label = Concat({"[", std::to_string(index++), "]"});
     // A CHOICE stands on the line of its index.
     if (element.is_object() && element.size() == 1) {
       PrintMember(label + " " + Alternative(element), Chosen(element), depth, text);
@@ -35,7 +36,7 @@ std::string Annotation(const Json& object) {
   if (object.empty()) return " {}";
   if (Chosen(object).is_object()) return {};
   const auto endpoint = ToEndpoint(object);
-  return endpoint ? "  (" + ToText(*endpoint) + ")" : std::string();
+  return endpoint ? Concat({"  (", ToText(*endpoint), ")"}) : std::string();
 }
 
 void PrintMember(const std::string& label, const Json& value, size_t depth, std::string& text) {
@@ -43,8 +44,8 @@ void PrintMember(const std::string& label, const Json& value, size_t depth, std:
     text += Indented(depth, label + Annotation(value));
     PrintMembers(value, depth + 1, text);
   } else if (value.is_array()) {
-    text +=
-        Indented(depth, label + ": " + std::to_string(value.size()) + (value.size() == 1 ? " element" : " elements"));
+    text += Indented(depth,
+                     Concat({label, ": ", std::to_string(value.size()), value.size() == 1 ? " element" : " elements"}));
     PrintElements(value, depth + 1, text);
   } else if (value.is_null()) {
     text += Indented(depth, label);
@@ -73,13 +74,13 @@ class TreeFormatter : public Formatter {
   }
 
   static std::string Title(Family family, const Decoded& decoded) {
-    const std::string title = FamilyLabel(family) + (" " + MessageTitle(family, decoded));
-    return decoded.ok ? title : title + " [" + Fault(family, decoded) + "]";
+    const std::string title = Concat({FamilyLabel(family), " ", MessageTitle(family, decoded)});
+    return decoded.ok ? title : Concat({title, " [", Fault(family, decoded), "]"});
   }
 
   static void PrintTunnelled(const Json& message, std::string& text) {
     for (const Decoded& tunnelled : DecodeTunnelled(message)) {
-      text += Indented(1, "tunnelled " + Title(Family::kH245, tunnelled));
+      text += Indented(1, Concat({"tunnelled ", Title(Family::kH245, tunnelled)}));
       PrintMembers(tunnelled.message, 2, text);
     }
   }
