@@ -1,9 +1,8 @@
-// What the decoder tests share: readers over exact-size input, records that release themselves, and
-// the values that many messages carry.
+// What the decoder tests share: records that release themselves, and the values that many messages
+// carry.
 #pragma once
 
 #include <algorithm>
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -11,30 +10,9 @@
 #include "codec/release.h"
 #include "codec/status.h"
 #include "per/bit_writer.h"
-#include "per/primitives.h"
-#include "per/reader.h"
+#include "per/input.h"
 
 namespace kelvra::test {
-
-// A reader over a heap block of exactly the input's size, so that a sanitizer sees any octet read
-// beyond it.
-class Input {
- public:
-  explicit Input(const std::vector<uint8_t>& octets) : octets_(new uint8_t[octets.size()]) {
-    std::copy(octets.begin(), octets.end(), octets_.get());
-    PerReaderInit(reader, octets_.get(), static_cast<uint32_t>(octets.size()));
-  }
-  // The next whole octet. Where a decoder stopped shows in the marker that follows its value.
-  uint32_t Next() {
-    PerAlign(reader);
-    return PerReadBits(reader, 8);
-  }
-
-  PerReader reader;
-
- private:
-  std::unique_ptr<uint8_t[]> octets_;
-};
 
 inline constexpr uint32_t kMarker = 0x5A;
 

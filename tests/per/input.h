@@ -19,6 +19,11 @@ class Input {
     PerReaderInit(reader, octets_.get(), static_cast<uint32_t>(octets.size()));
   }
 
+  // The next whole octet. Where a decoder stopped shows in the marker that follows its value.
+  uint32_t Next() {
+    PerAlign(reader);
+    return PerReadBits(reader, 8);
+  }
   // Bits consumed so far, or bits behind the end where the reader stands there.
   uint64_t Bit() const {
     return uint64_t{reinterpret_cast<uintptr_t>(reader.position) - reinterpret_cast<uintptr_t>(octets_.get())} * 8 +
