@@ -5,8 +5,8 @@
 #include <nlohmann/json.hpp>
 #include <string>
 
-#include "per/values.h"
-#include "per/walk.h"
+#include "record/values.h"
+#include "record/walk.h"
 
 using Json = nlohmann::ordered_json;
 
@@ -47,27 +47,26 @@ class JsonVisitor {
     Put(name, record != nullptr ? RecordToJson(*record) : Json());
   }
 
-  template <class R>
-  void List(const char* name, kelvra::Slot<R> slot, uint32_t count) {
-    PutList(name, slot, count, [](R& element) { return RecordToJson(element); });
+  template <class L>
+  void List(const char* name, L list) {
+    PutList(name, list, [](auto& element) { return RecordToJson(element); });
   }
-  void OctetStrings(const char* name, kelvra::Slot<kelvra::OctetStringValue> slot, uint32_t count,
-                    kelvra::OctetNotation notation) {
-    PutList(name, slot, count, [notation](const kelvra::OctetStringValue& element) {
-      return OctetsToJson(element.data, element.length, notation);
-    });
+  template <class L>
+  void OctetStrings(const char* name, L list, kelvra::OctetNotation notation) {
+    PutList(name, list, [notation](auto& element) { return OctetsToJson(element.data, element.length, notation); });
   }
-  void FixedOctetStrings(const char* name, kelvra::Slot<kelvra::OctetStringValue> slot, uint32_t count, uint32_t size) {
-    PutList(name, slot, count, [size](const kelvra::OctetStringValue& element) {
-      return OctetsToJson(element.data, size, kelvra::OctetNotation::kOctets);
-    });
+  template <class L>
+  void FixedOctetStrings(const char* name, L list, uint32_t size) {
+    PutList(name, list,
+            [size](auto& element) { return OctetsToJson(element.data, size, kelvra::OctetNotation::kOctets); });
   }
-  void ObjectIdentifiers(const char* name, kelvra::Slot<kelvra::ObjectIdentifierValue> slot, uint32_t count) {
-    PutList(name, slot, count, [](const kelvra::ObjectIdentifierValue& element) { return ToJson(element); });
+  template <class L>
+  void ObjectIdentifiers(const char* name, L list) {
+    PutList(name, list, [](auto& element) { return ToJson(element); });
   }
-  template <class N>
-  void Numbers(const char* name, kelvra::Slot<N> slot, uint32_t count) {
-    PutList(name, slot, count, [](const N& element) { return Json(element); });
+  template <class L>
+  void Numbers(const char* name, L list) {
+    PutList(name, list, [](auto& element) { return Json(element); });
   }
 
   Json Take() { return std::move(json_); }
@@ -76,14 +75,11 @@ class JsonVisitor {
   void Put(const char* name, Json value) { json_[name] = std::move(value); }
   void PutUnknown(const char* prefix, uint32_t index) { Put((prefix + std::to_string(index)).c_str(), nullptr); }
 
-  template <class Element, class Convert>
-  void PutList(const char* name, kelvra::Slot<Element> slot, uint32_t count, Convert convert) {
-    Json list = Json::array();
-    Element* elements = slot.Get();
-    for (uint32_t i = 0; elements != nullptr && i < count; ++i) {
-      list.push_back(convert(elements[i]));
-    }
-    Put(name, std::move(list));
+  template <class L, class Convert>
+  void PutList(const char* name, L list, Convert convert) {
+    Json array = Json::array();
+    for (auto& element : list) array.push_back(convert(element));
+    Put(name, std::move(array));
   }
 
   Json json_ = Json::object();

@@ -2,10 +2,10 @@
 #include "api/kelvra.h"
 
 #include "codec/memory.h"
-#include "h225/q931_frame.h"
-#include "h225/ras_message_decode.h"
+#include "h225/call/q931_frame.h"
+#include "h225/ras/ras_message_decode.h"
 #include "h225/release.h"
-#include "h245/h245_message_decode.h"
+#include "h245/messages/h245_message_decode.h"
 #include "h245/release.h"
 
 using kelvra::CodecFill;

@@ -10,9 +10,9 @@
 
 #include <stdint.h>
 
-#include "../h225/q931_message.h"
-#include "../h225/ras_message.h"
-#include "../h245/h245_message.h"
+#include "../h225/call/q931_message.h"
+#include "../h225/ras/ras_message.h"
+#include "../h245/messages/h245_message.h"
 
 #if defined(KELVRA_BUILDING_LIBRARY) && !defined(_WIN32)
 #define KELVRA_API __attribute__((visibility("default")))

@@ -5,13 +5,13 @@
 
 namespace kelvra {
 
-using Status = uint8_t;
-
-inline constexpr Status kDecoded = 0;
-inline constexpr Status kMalformed = 1;           // an impossible value, such as a root index beyond the alternatives
-inline constexpr Status kExhausted = 2;           // the reader stood at its end on entry; nothing was read
-inline constexpr Status kUnsupportedVersion = 3;  // a registration message of an unknown H.225.0 version
-inline constexpr Status kRefused = 4;             // a heap block was refused; the reader stands at its end
+enum [[nodiscard]] Status : uint8_t{
+    kDecoded = 0,
+    kMalformed = 1,           // an impossible value, such as a root index beyond the alternatives
+    kExhausted = 2,           // the reader stood at its end on entry; nothing was read
+    kUnsupportedVersion = 3,  // a registration message of an unknown H.225.0 version; the reader stands at its end
+    kRefused = 4,             // a heap block was refused; the reader stands at its end
+};
 
 }  // namespace kelvra
 
@@ -19,4 +19,10 @@ inline constexpr Status kRefused = 4;             // a heap block was refused; t
 #define KELVRA_TRY(component)                                                                        \
   do {                                                                                               \
     if (const ::kelvra::Status status_ = (component); status_ != ::kelvra::kDecoded) return status_; \
+  } while (false)
+
+// The same in a decoder that returns nothing.
+#define KELVRA_OR_STOP(component)                  \
+  do {                                             \
+    if ((component) != ::kelvra::kDecoded) return; \
   } while (false)

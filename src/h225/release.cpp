@@ -1,6 +1,6 @@
 #include "h225/release.h"
 
-#include "codec/release.h"
+#include "record/release.h"
 
 namespace kelvra::h225 {
 namespace {

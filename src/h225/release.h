@@ -2,8 +2,8 @@
 // releasing a record again does nothing, and a null record is reported to the hook and ignored.
 #pragma once
 
-#include "h225/q931_message.h"
-#include "h225/ras_message.h"
+#include "h225/call/q931_message.h"
+#include "h225/ras/ras_message.h"
 
 namespace kelvra::h225 {
 

@@ -36,27 +36,33 @@ uint32_t PerReadOpenBoolean(PerReader& reader) {
 
 int32_t PerReadBitmapLength(PerReader& reader) { return static_cast<int32_t>(PerReadNormallySmall(reader) + 1); }
 
-uint32_t PerReadAdditionBit(PerReader& reader, int32_t bitmapLength, int32_t index) {
-  return bitmapLength > index ? PerReadBit(reader) : 0;
+uint32_t PerReadAdditionBit(PerReader& reader, int32_t& additions) {
+  if (additions <= 0) return 0;
+  --additions;
+  return PerReadBit(reader);
 }
 
-int32_t PerCountUnknownAdditions(PerReader& reader, int32_t bitmapLength, int32_t known) {
+int32_t PerCountUnknownAdditions(PerReader& reader, int32_t additions) {
   int32_t count = 0;
-  int64_t remaining = int64_t{bitmapLength} - known;
-  while (remaining > 0 && !PerAtEnd(reader)) {
+  while (additions > 0 && !PerAtEnd(reader)) {
     const int64_t left = int64_t{PerOctetsLeft(reader)} * 8 - reader.bitOffset;
-    int64_t bits = remaining < left ? remaining : left;
+    int64_t bits = additions < left ? additions : left;
     if (bits > 32) bits = 32;
     count += __builtin_popcount(PerReadBits(reader, static_cast<uint32_t>(bits)));
-    remaining -= bits;
+    additions -= static_cast<int32_t>(bits);
   }
   return count;
 }
 
+void PerNoteUnknownAdditions(PerReader& reader, int32_t additions) {
+  reader.extensionPresentCount = PerCountUnknownAdditions(reader, additions);
+}
+
+void PerSkipUnknownAdditions(PerReader& reader) { PerSkipOpenTypes(reader, reader.extensionPresentCount); }
+
 void PerSkipExtensionAdditions(PerReader& reader) {
-  const int32_t bitmapLength = PerReadBitmapLength(reader);
-  reader.extensionPresentCount = PerCountUnknownAdditions(reader, bitmapLength, 0);
-  PerSkipOpenTypes(reader, reader.extensionPresentCount);
+  PerNoteUnknownAdditions(reader, PerReadBitmapLength(reader));
+  PerSkipUnknownAdditions(reader);
 }
 
 }  // namespace kelvra

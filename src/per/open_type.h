@@ -14,15 +14,29 @@ void OpenTypeEnd(PerReader& reader);
 // Passes over `count` open types. A length past the end leaves the reader beyond it.
 void PerSkipOpenTypes(PerReader& reader, int32_t count);
 
-// A BOOLEAN that is an addition, in its open type.
+// A BOOLEAN in its open type.
 uint32_t PerReadOpenBoolean(PerReader& reader);
 
-// How many additions the bitmap of a SEQUENCE covers, 1 or more in a lawful message.
+// The additions of a SEQUENCE, of which a decoder knows the first few:
+//
+//   int32_t additions = PerReadBitmapLength(r);
+//   m.hasLanguage = PerReadAdditionBit(r, additions);     a line for each known addition, in order
+//   PerNoteUnknownAdditions(r, additions);
+//   if (m.hasLanguage) ...                                likewise, each in its open type
+//   PerSkipUnknownAdditions(r);
+
+// How many presence bits the bitmap holds, 1 or more in a lawful message.
 int32_t PerReadBitmapLength(PerReader& reader);
-// The presence bit of known addition `index`, absent where the bitmap does not cover it.
-uint32_t PerReadAdditionBit(PerReader& reader, int32_t bitmapLength, int32_t index);
-// Reads the presence bits behind the `known` ones and counts those that are set.
-int32_t PerCountUnknownAdditions(PerReader& reader, int32_t bitmapLength, int32_t known);
+// The presence bit of the next known addition, absent where the bitmap holds no more. `additions` counts
+// down the bits that are left: what is left behind the known ones is by construction unknown.
+uint32_t PerReadAdditionBit(PerReader& reader, int32_t& additions);
+// Reads the bits that are left and returns how many of them are set.
+int32_t PerCountUnknownAdditions(PerReader& reader, int32_t additions);
+// The same, kept in the counter that all SEQUENCEs of the message share.
+void PerNoteUnknownAdditions(PerReader& reader, int32_t additions);
+// Passes over as many open types as the shared counter says. A SEQUENCE with additions that was decoded
+// since has overwritten it, and must: peers are read by the count that was written last.
+void PerSkipUnknownAdditions(PerReader& reader);
 // The additions of a SEQUENCE of which none is known.
 void PerSkipExtensionAdditions(PerReader& reader);
 

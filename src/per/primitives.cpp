@@ -70,9 +70,9 @@ uint32_t PerReadConstrainedWholeNumber(PerReader& reader, uint32_t range) {
     return PerReadBits(reader, range == 256 ? 8 : 16);
   }
   const uint32_t octets = PerReadBits(reader, 2) + 1;
-  // A fourth octet cannot occur in a range of three; the number reads as 0 and the reader stays.
-  if (range <= 1U << 24 && octets == 4) return 0;
   PerAlign(reader);
+  // A fourth octet cannot occur in a range of three; the number reads as 0 and no octet is consumed.
+  if (range <= 1U << 24 && octets == 4) return 0;
   return PerReadBits(reader, octets * 8);
 }
 
@@ -202,12 +202,13 @@ uint16_t* PerReadBMPString(PerReader& reader, uint32_t count) {
 }
 
 uint32_t PerReadSubidentifier(PerReader& reader) {
+  if (PerAtEnd(reader)) return 0;
   uint32_t value = 0;
-  uint32_t octet = 0x80;
-  while ((octet & 0x80) != 0 && !PerAtEnd(reader)) {
-    octet = PerReadBits(reader, 8);
+  uint32_t octet = 0;
+  do {
+    octet = PerReadBits(reader, 8);  // 0 at the end, which ends the subidentifier as a last octet does
     value = value << 7 | (octet & 0x7F);
-  }
+  } while ((octet & 0x80) != 0);
   return value;
 }
 

@@ -10,7 +10,7 @@
 #include <stdint.h>
 
 #include "per/reader.h"
-#include "per/values.h"
+#include "record/values.h"
 
 namespace kelvra {
 

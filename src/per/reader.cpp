@@ -39,7 +39,6 @@ const uint8_t* PerAdvance(const uint8_t* pointer, uint32_t count) {
 
 void PerReaderInit(PerReader& reader, const uint8_t* buffer, uint32_t length) {
   reader = {};
-  reader.start = buffer;
   reader.position = buffer;
   reader.end = PerAdvance(buffer, length);
   reader.readable = reader.end;

@@ -26,7 +26,6 @@ struct OpenTypeRing {
 // There is no error flag: a read that fails moves `position` to `end`, and from then on every read
 // yields 0. An open type's length can carry `position` beyond `end`, which counts as exhausted.
 struct PerReader {
-  const uint8_t* start;
   const uint8_t* position;  // the octet that holds the next unread bit
   uint32_t bitOffset;       // bits of that octet already consumed, 0 to 7
   const uint8_t* end;

@@ -22,15 +22,17 @@ class Transcript {
   void UnknownRoot(uint32_t index) { Number("root", index); }
   template <class Value>
   void ObjectIdentifier(const char* name, Value& value) {
-    Numbers(name, Slot<uint32_t>(&value.arcs), value.count);
+    Numbers(name, KELVRA_COUNTED_LIST(value.count, value.arcs));
   }
   template <class Value>
   void Characters16(const char* name, Value& value) {
-    Numbers(name, Slot<uint16_t>(&value.data), value.length);
+    Numbers(name, KELVRA_COUNTED_LIST(value.length, value.data));
   }
   void Octets(const char* name, Slot<uint8_t> slot, uint32_t count, OctetNotation notation) {
     const bool bits = notation == OctetNotation::kBits || notation == OctetNotation::kFixedBits;
-    Numbers(name, slot, bits ? (count + 7) / 8 : count);
+    const uint8_t* octets = slot.Get();
+    if (octets == nullptr) return Null(name);
+    Embedded(name, octets, bits ? (count + 7) / 8 : count, notation);
   }
   void Embedded(const char* name, const uint8_t* octets, uint32_t count, OctetNotation) {
     Add(name, std::string(octets, octets + count));
@@ -43,33 +45,29 @@ class Transcript {
   }
   template <class R>
   void Pointer(const char* name, Slot<R> slot) {
-    List(name, slot, 1);
+    if (R* record = slot.Get()) Record(name, *record);
   }
-  template <class R>
-  void List(const char* name, Slot<R> slot, uint32_t count) {
-    R* elements = slot.Get();
-    if (elements == nullptr) return Null(name);
-    for (uint32_t i = 0; i < count; ++i) Record(name, elements[i]);
+  template <class L>
+  void List(const char* name, L list) {
+    if (list.begin() == nullptr) return Null(name);
+    for (auto& element : list) Record(name, element);
   }
-  void OctetStrings(const char* name, Slot<OctetStringValue> slot, uint32_t count, OctetNotation notation) {
-    for (uint32_t i = 0; slot.Get() != nullptr && i < count; ++i) {
-      const OctetStringValue& value = slot.Get()[i];
-      Octets(name, Slot<uint8_t>(&value.data), value.length, notation);
-    }
+  template <class L>
+  void OctetStrings(const char* name, L list, OctetNotation notation) {
+    for (auto& value : list) Octets(name, KELVRA_SLOT(value.data), value.length, notation);
   }
-  void FixedOctetStrings(const char* name, Slot<OctetStringValue> slot, uint32_t count, uint32_t size) {
-    for (uint32_t i = 0; slot.Get() != nullptr && i < count; ++i) {
-      Octets(name, Slot<uint8_t>(&slot.Get()[i].data), size, OctetNotation::kOctets);
-    }
+  template <class L>
+  void FixedOctetStrings(const char* name, L list, uint32_t size) {
+    for (auto& value : list) Octets(name, KELVRA_SLOT(value.data), size, OctetNotation::kOctets);
   }
-  void ObjectIdentifiers(const char* name, Slot<ObjectIdentifierValue> slot, uint32_t count) {
-    for (uint32_t i = 0; slot.Get() != nullptr && i < count; ++i) ObjectIdentifier(name, slot.Get()[i]);
+  template <class L>
+  void ObjectIdentifiers(const char* name, L list) {
+    for (auto& value : list) ObjectIdentifier(name, value);
   }
-  template <class N>
-  void Numbers(const char* name, Slot<N> slot, uint32_t count) {
-    const N* numbers = slot.Get();
-    if (numbers == nullptr) return Null(name);
-    for (uint32_t i = 0; i < count; ++i) Number(name, numbers[i]);
+  template <class L>
+  void Numbers(const char* name, L list) {
+    if (list.begin() == nullptr) return Null(name);
+    for (const auto number : list) Number(name, number);
   }
 
   const std::string& Text() const { return text_; }

@@ -76,9 +76,9 @@ class InnermostValue : public OwnershipVisitor {
   void Record(const char*, R& record) {
     R::Walk(record, *this);
   }
-  template <class R>
-  void List(const char*, Slot<R> slot, uint32_t count) {
-    for (uint32_t i = 0; slot.Get() != nullptr && i < count; ++i) R::Walk(slot.Get()[i], *this);
+  template <class L>
+  void List(const char*, L list) {
+    for (auto& element : list) L::Element::Walk(element, *this);
   }
   bool Found() const { return found_; }
 

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "api/kelvra.h"
-#include "per/walk.h"
+#include "record/walk.h"
 
 namespace kelvra::test {
 
@@ -33,32 +33,36 @@ class OwnershipVisitor {
     Enter(record);
   }
   template <class R>
-  void Pointer(const char* name, Slot<R> slot) {
+  void Pointer(const char*, Slot<R> slot) {
     // Whether the record was there at all does not show beside the pointer.
-    if (slot.Get() != nullptr) List(name, slot, 1);
+    R* record = slot.Get();
+    if (record == nullptr) return;
+    SeeList(record, 1);
+    Enter(*record);
   }
-  template <class R>
-  void List(const char*, Slot<R> slot, uint32_t count) {
-    R* elements = slot.Get();
-    SeeList(elements, count);
-    for (uint32_t i = 0; elements != nullptr && i < count; ++i) Enter(elements[i]);
+  template <class L>
+  void List(const char*, L list) {
+    SeeList(list);
+    for (auto& element : list) Enter(element);
   }
-  void OctetStrings(const char*, Slot<OctetStringValue> slot, uint32_t count, OctetNotation) {
-    SeeStrings(slot, count);
+  template <class L>
+  void OctetStrings(const char*, L list, OctetNotation) {
+    SeeList(list);
+    for (auto& value : list) See(value.data, value.length);
   }
-  void FixedOctetStrings(const char*, Slot<OctetStringValue> slot, uint32_t count, uint32_t) {
-    const OctetStringValue* values = slot.Get();
-    SeeList(values, count);
-    for (uint32_t i = 0; values != nullptr && i < count; ++i) See(values[i].data, 0);
+  template <class L>
+  void FixedOctetStrings(const char*, L list, uint32_t) {
+    SeeList(list);
+    for (auto& value : list) See(value.data, 0);
   }
-  void ObjectIdentifiers(const char*, Slot<ObjectIdentifierValue> slot, uint32_t count) {
-    const ObjectIdentifierValue* values = slot.Get();
-    SeeList(values, count);
-    for (uint32_t i = 0; values != nullptr && i < count; ++i) See(values[i].arcs, values[i].count);
+  template <class L>
+  void ObjectIdentifiers(const char*, L list) {
+    SeeList(list);
+    for (auto& value : list) See(value.arcs, value.count);
   }
-  template <class N>
-  void Numbers(const char*, Slot<N> slot, uint32_t count) {
-    SeeList(slot.Get(), count);
+  template <class L>
+  void Numbers(const char*, L list) {
+    SeeList(list);
   }
 
   // Sorted; a block that two slots share appears twice.
@@ -87,10 +91,9 @@ class OwnershipVisitor {
     R::Walk(record, *this);
     insideH245_ -= kLevel;
   }
-  void SeeStrings(Slot<OctetStringValue> slot, uint32_t count) {
-    const OctetStringValue* values = slot.Get();
-    SeeList(values, count);
-    for (uint32_t i = 0; values != nullptr && i < count; ++i) See(values[i].data, values[i].length);
+  template <class L>
+  void SeeList(L list) {
+    SeeList(list.begin(), list.Size());
   }
   void See(const void* block, uint32_t count) {
     if (block != nullptr) return Keep(block, BlockKind::kString);

@@ -1,8 +1,8 @@
-#include "h225/addresses.h"
+#include "h225/common/addresses.h"
 
 #include <gtest/gtest.h>
 
-#include "h225/addresses_decode.h"
+#include "h225/common/addresses_decode.h"
 #include "h225/decoding.h"
 
 namespace kelvra::h225 {

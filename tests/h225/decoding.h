@@ -7,10 +7,10 @@
 #include <vector>
 
 #include "codec/memory.h"
-#include "codec/release.h"
 #include "codec/status.h"
 #include "per/bit_writer.h"
 #include "per/input.h"
+#include "record/release.h"
 
 namespace kelvra::test {
 

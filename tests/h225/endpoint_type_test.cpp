@@ -1,10 +1,10 @@
-#include "h225/endpoint_type.h"
+#include "h225/common/endpoint_type.h"
 
 #include <gtest/gtest.h>
 
+#include "h225/common/endpoint_type_decode.h"
+#include "h225/common/non_standard_decode.h"
 #include "h225/decoding.h"
-#include "h225/endpoint_type_decode.h"
-#include "h225/non_standard_decode.h"
 
 namespace kelvra::h225 {
 namespace {

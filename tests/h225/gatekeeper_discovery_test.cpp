@@ -1,10 +1,10 @@
-#include "h225/gatekeeper_discovery.h"
+#include "h225/ras/gatekeeper_discovery.h"
 
 #include <gtest/gtest.h>
 
 #include "h225/decoding.h"
-#include "h225/gatekeeper_discovery_decode.h"
-#include "h225/ras_message_decode.h"
+#include "h225/ras/gatekeeper_discovery_decode.h"
+#include "h225/ras/ras_message_decode.h"
 
 namespace kelvra::h225 {
 namespace {

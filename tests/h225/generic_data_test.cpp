@@ -1,9 +1,9 @@
-#include "h225/generic_data.h"
+#include "h225/common/generic_data.h"
 
 #include <gtest/gtest.h>
 
+#include "h225/common/generic_data_decode.h"
 #include "h225/decoding.h"
-#include "h225/generic_data_decode.h"
 
 namespace kelvra::h225 {
 namespace {

@@ -1,9 +1,9 @@
-#include "h225/identifiers.h"
+#include "h225/common/identifiers.h"
 
 #include <gtest/gtest.h>
 
+#include "h225/common/identifiers_decode.h"
 #include "h225/decoding.h"
-#include "h225/identifiers_decode.h"
 
 namespace kelvra::h225 {
 namespace {

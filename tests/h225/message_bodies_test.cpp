@@ -1,13 +1,13 @@
 // Setup, Connect and the other call-signalling bodies.
 #include <gtest/gtest.h>
 
-#include "h225/answer_uuie_decode.h"
-#include "h225/h323_user_information_decode.h"
-#include "h225/information_uuie_decode.h"
+#include "h225/call/answer_uuie_decode.h"
+#include "h225/call/h323_user_information_decode.h"
+#include "h225/call/information_uuie_decode.h"
+#include "h225/call/release_complete_uuie_decode.h"
+#include "h225/call/setup_uuie_decode.h"
+#include "h225/common/protocol_version.h"
 #include "h225/messages.h"
-#include "h225/protocol_version.h"
-#include "h225/release_complete_uuie_decode.h"
-#include "h225/setup_uuie_decode.h"
 
 namespace kelvra::h225 {
 namespace {
@@ -305,7 +305,7 @@ TEST(H323UserInformationTest, UserDataOf131Octets) {
   ASSERT_EQ(DecodeH323UserInformation(*m, input.reader), kDecoded);
   EXPECT_EQ(+m->userData.protocolDiscriminator, 0x44);
   EXPECT_EQ(OctetsOf(m->userData.userInformation), Rising(1, 131));
-  EXPECT_EQ(+m->userData.isExtended, 1U);
+  EXPECT_EQ(+m->userDataExtension, 1U);
   EXPECT_EQ(input.Next(), kMarker);
 }
 

@@ -1,4 +1,4 @@
-#include "h225/q931_frame.h"
+#include "h225/call/q931_frame.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
-#include "h245/h245_message.h"
+#include "h245/messages/h245_message.h"
 
 #include <gtest/gtest.h>
 
 #include "h225/decoding.h"
-#include "h245/generic_capability_decode.h"
-#include "h245/h245_message_decode.h"
+#include "h245/common/generic_capability_decode.h"
+#include "h245/messages/h245_message_decode.h"
 
 namespace kelvra::h245 {
 namespace {

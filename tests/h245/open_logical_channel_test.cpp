@@ -1,11 +1,11 @@
-#include "h245/open_logical_channel.h"
+#include "h245/channels/open_logical_channel.h"
 
 #include <gtest/gtest.h>
 
 #include "h225/decoding.h"
-#include "h245/data_type_decode.h"
-#include "h245/h2250_parameters_decode.h"
-#include "h245/open_logical_channel_decode.h"
+#include "h245/channels/data_type_decode.h"
+#include "h245/channels/h2250_parameters_decode.h"
+#include "h245/channels/open_logical_channel_decode.h"
 
 namespace kelvra::h245 {
 namespace {

@@ -1,9 +1,9 @@
-#include "h245/transport_address.h"
+#include "h245/common/transport_address.h"
 
 #include <gtest/gtest.h>
 
 #include "h225/decoding.h"
-#include "h245/transport_address_decode.h"
+#include "h245/common/transport_address_decode.h"
 
 namespace kelvra::h245 {
 namespace {

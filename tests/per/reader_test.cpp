@@ -17,7 +17,6 @@ TEST(PerReaderInit, StandsAtTheFirstBitWithFreshState) {
   CodecFill(&reader, 0xEE, sizeof reader);
   const uint8_t octets[3] = {};
   PerReaderInit(reader, octets, 3);
-  EXPECT_EQ(reader.start, octets);
   EXPECT_EQ(reader.position, octets);
   EXPECT_EQ(reader.bitOffset, 0u);
   EXPECT_EQ(reader.end, octets + 3);
@@ -215,7 +214,7 @@ TEST(PerPeekOctet, LooksAheadWithoutMoving) {
 // The element of a frame may claim more octets than the caller's buffer holds.
 TEST(PerReader, ReadsZerosBehindTheCallersOctets) {
   Input input({0xAB, 0xCD});
-  input.reader.end = PerAdvance(input.reader.start, 8);
+  input.reader.end = PerAdvance(input.reader.position, 8);
   EXPECT_EQ(PerReadBits(input.reader, 4), 0xAu);
   EXPECT_EQ(PerReadBits(input.reader, 32), 0xBCD00000u);
   EXPECT_EQ(PerPeekOctet(input.reader, 0), 0u);

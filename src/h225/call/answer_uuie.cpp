@@ -1,0 +1,172 @@
+#include "h225/call/answer_uuie_decode.h"
+#include "h225/call/fast_start.h"
+#include "h225/common/addresses_decode.h"
+#include "h225/common/circuits_decode.h"
+#include "h225/common/crypto_tokens_decode.h"
+#include "h225/common/endpoint_type_decode.h"
+#include "h225/common/generic_data_decode.h"
+#include "h225/common/identifiers_decode.h"
+#include "h225/common/protocol_version.h"
+#include "h225/common/services_decode.h"
+#include "h235/tokens_decode.h"
+#include "per/record_decode.h"
+
+namespace kelvra::h225 {
+
+Status DecodeCallProceedingUUIE(CallProceedingUUIE& m, PerReader& r) {
+  if (PerAtEnd(r)) return kExhausted;
+  m.isExtended = PerReadBit(r);
+  m.hasH245Address = PerReadBit(r);
+  ReadProtocolIdentifier(m.protocolIdentifier, r);
+  KELVRA_TRY(DecodeEndpointType(m.destinationInfo, r));
+  if (m.hasH245Address) KELVRA_TRY(DecodeTransportAddress(m.h245Address, r));
+  if (!m.isExtended) return kDecoded;
+
+  int32_t additions = PerReadBitmapLength(r);
+  m.hasCallIdentifier = PerReadAdditionBit(r, additions);
+  m.hasH245SecurityMode = PerReadAdditionBit(r, additions);
+  m.hasTokens = PerReadAdditionBit(r, additions);
+  m.hasCryptoTokens = PerReadAdditionBit(r, additions);
+  m.hasFastStart = PerReadAdditionBit(r, additions);
+  m.hasMultipleCalls = PerReadAdditionBit(r, additions);
+  m.hasMaintainConnection = PerReadAdditionBit(r, additions);
+  m.hasFastConnectRefused = PerReadAdditionBit(r, additions);
+  m.hasFeatureSet = PerReadAdditionBit(r, additions);
+  PerNoteUnknownAdditions(r, additions);
+  if (m.hasCallIdentifier) KELVRA_TRY(DecodeOpen(m.callIdentifier, r, DecodeCallIdentifier));
+  if (m.hasH245SecurityMode) KELVRA_TRY(DecodeOpen(m.h245SecurityMode, r, DecodeH245Security));
+  if (m.hasTokens) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.tokens), r, h235::DecodeClearToken));
+  if (m.hasCryptoTokens) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.cryptoTokens), r, DecodeCryptoH323Token));
+  if (m.hasFastStart) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.fastStart), r, DecodeFastStartElement));
+  if (m.hasMultipleCalls) m.multipleCalls = PerReadOpenBoolean(r);
+  if (m.hasMaintainConnection) m.maintainConnection = PerReadOpenBoolean(r);
+  if (m.hasFastConnectRefused) PerSkipOpenTypes(r, 1);
+  if (m.hasFeatureSet) KELVRA_TRY(DecodeOpen(m.featureSet, r, DecodeFeatureSet));
+  PerSkipUnknownAdditions(r);
+  return kDecoded;
+}
+
+Status DecodeProgressUUIE(ProgressUUIE& m, PerReader& r) {
+  if (PerAtEnd(r)) return kExhausted;
+  m.isExtended = PerReadBit(r);
+  m.hasH245Address = PerReadBit(r);
+  m.hasH245SecurityMode = PerReadBit(r);
+  m.hasTokens = PerReadBit(r);
+  m.hasCryptoTokens = PerReadBit(r);
+  m.hasFastStart = PerReadBit(r);
+  ReadProtocolIdentifier(m.protocolIdentifier, r);
+  KELVRA_TRY(DecodeEndpointType(m.destinationInfo, r));
+  if (m.hasH245Address) KELVRA_TRY(DecodeTransportAddress(m.h245Address, r));
+  KELVRA_TRY(DecodeCallIdentifier(m.callIdentifier, r));
+  if (m.hasH245SecurityMode) KELVRA_TRY(DecodeH245Security(m.h245SecurityMode, r));
+  if (m.hasTokens) KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.tokens), r, h235::DecodeClearToken));
+  if (m.hasCryptoTokens) KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.cryptoTokens), r, DecodeCryptoH323Token));
+  if (m.hasFastStart) KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.fastStart), r, DecodeFastStartElement));
+  if (!m.isExtended) return kDecoded;
+
+  int32_t additions = PerReadBitmapLength(r);
+  m.hasMultipleCalls = PerReadAdditionBit(r, additions);
+  m.hasMaintainConnection = PerReadAdditionBit(r, additions);
+  m.hasFastConnectRefused = PerReadAdditionBit(r, additions);
+  PerNoteUnknownAdditions(r, additions);
+  if (m.hasMultipleCalls) m.multipleCalls = PerReadOpenBoolean(r);
+  if (m.hasMaintainConnection) m.maintainConnection = PerReadOpenBoolean(r);
+  if (m.hasFastConnectRefused) PerSkipOpenTypes(r, 1);
+  PerSkipUnknownAdditions(r);
+  return kDecoded;
+}
+
+Status DecodeAlertingUUIE(AlertingUUIE& m, PerReader& r) {
+  if (PerAtEnd(r)) return kExhausted;
+  m.isExtended = PerReadBit(r);
+  m.hasH245Address = PerReadBit(r);
+  ReadProtocolIdentifier(m.protocolIdentifier, r);
+  KELVRA_TRY(DecodeEndpointType(m.destinationInfo, r));
+  if (m.hasH245Address) KELVRA_TRY(DecodeTransportAddress(m.h245Address, r));
+  if (!m.isExtended) return kDecoded;
+
+  int32_t additions = PerReadBitmapLength(r);
+  m.hasCallIdentifier = PerReadAdditionBit(r, additions);
+  m.hasH245SecurityMode = PerReadAdditionBit(r, additions);
+  m.hasTokens = PerReadAdditionBit(r, additions);
+  m.hasCryptoTokens = PerReadAdditionBit(r, additions);
+  m.hasFastStart = PerReadAdditionBit(r, additions);
+  m.hasMultipleCalls = PerReadAdditionBit(r, additions);
+  m.hasMaintainConnection = PerReadAdditionBit(r, additions);
+  m.hasAlertingAddress = PerReadAdditionBit(r, additions);
+  m.hasPresentationIndicator = PerReadAdditionBit(r, additions);
+  m.hasScreeningIndicator = PerReadAdditionBit(r, additions);
+  m.hasFastConnectRefused = PerReadAdditionBit(r, additions);
+  m.hasServiceControl = PerReadAdditionBit(r, additions);
+  m.hasCapacity = PerReadAdditionBit(r, additions);
+  m.hasFeatureSet = PerReadAdditionBit(r, additions);
+  PerNoteUnknownAdditions(r, additions);
+  if (m.hasCallIdentifier) KELVRA_TRY(DecodeOpen(m.callIdentifier, r, DecodeCallIdentifier));
+  if (m.hasH245SecurityMode) KELVRA_TRY(DecodeOpen(m.h245SecurityMode, r, DecodeH245Security));
+  if (m.hasTokens) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.tokens), r, h235::DecodeClearToken));
+  if (m.hasCryptoTokens) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.cryptoTokens), r, DecodeCryptoH323Token));
+  if (m.hasFastStart) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.fastStart), r, DecodeFastStartElement));
+  if (m.hasMultipleCalls) m.multipleCalls = PerReadOpenBoolean(r);
+  if (m.hasMaintainConnection) m.maintainConnection = PerReadOpenBoolean(r);
+  if (m.hasAlertingAddress) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.alertingAddress), r, DecodeAliasAddress));
+  if (m.hasPresentationIndicator) KELVRA_TRY(DecodeOpen(m.presentationIndicator, r, DecodePresentationIndicator));
+  if (m.hasScreeningIndicator) KELVRA_TRY(DecodeOpen(m.screeningIndicator, r, DecodeScreeningIndicator));
+  if (m.hasFastConnectRefused) PerSkipOpenTypes(r, 1);
+  if (m.hasServiceControl)
+    KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.serviceControl), r, DecodeServiceControlSession));
+  if (m.hasCapacity) KELVRA_TRY(DecodeOpen(m.capacity, r, DecodeCallCapacity));
+  if (m.hasFeatureSet) KELVRA_TRY(DecodeOpen(m.featureSet, r, DecodeFeatureSet));
+  PerSkipUnknownAdditions(r);
+  return kDecoded;
+}
+
+Status DecodeConnectUUIE(ConnectUUIE& m, PerReader& r) {
+  if (PerAtEnd(r)) return kExhausted;
+  m.isExtended = PerReadBit(r);
+  m.hasH245Address = PerReadBit(r);
+  ReadProtocolIdentifier(m.protocolIdentifier, r);
+  if (m.hasH245Address) KELVRA_TRY(DecodeTransportAddress(m.h245Address, r));
+  KELVRA_TRY(DecodeEndpointType(m.destinationInfo, r));
+  KELVRA_TRY(DecodeGloballyUniqueID(m.conferenceID, r));
+  if (!m.isExtended) return kDecoded;
+
+  int32_t additions = PerReadBitmapLength(r);
+  m.hasCallIdentifier = PerReadAdditionBit(r, additions);
+  m.hasH245SecurityMode = PerReadAdditionBit(r, additions);
+  m.hasTokens = PerReadAdditionBit(r, additions);
+  m.hasCryptoTokens = PerReadAdditionBit(r, additions);
+  m.hasFastStart = PerReadAdditionBit(r, additions);
+  m.hasMultipleCalls = PerReadAdditionBit(r, additions);
+  m.hasMaintainConnection = PerReadAdditionBit(r, additions);
+  m.hasLanguage = PerReadAdditionBit(r, additions);
+  m.hasConnectedAddress = PerReadAdditionBit(r, additions);
+  m.hasPresentationIndicator = PerReadAdditionBit(r, additions);
+  m.hasScreeningIndicator = PerReadAdditionBit(r, additions);
+  m.hasFastConnectRefused = PerReadAdditionBit(r, additions);
+  m.hasServiceControl = PerReadAdditionBit(r, additions);
+  m.hasCapacity = PerReadAdditionBit(r, additions);
+  m.hasFeatureSet = PerReadAdditionBit(r, additions);
+  PerNoteUnknownAdditions(r, additions);
+  if (m.hasCallIdentifier) KELVRA_TRY(DecodeOpen(m.callIdentifier, r, DecodeCallIdentifier));
+  if (m.hasH245SecurityMode) KELVRA_TRY(DecodeOpen(m.h245SecurityMode, r, DecodeH245Security));
+  if (m.hasTokens) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.tokens), r, h235::DecodeClearToken));
+  if (m.hasCryptoTokens) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.cryptoTokens), r, DecodeCryptoH323Token));
+  if (m.hasFastStart) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.fastStart), r, DecodeFastStartElement));
+  if (m.hasMultipleCalls) m.multipleCalls = PerReadOpenBoolean(r);
+  // Gated by the bit of multipleCalls, not by its own: where the two differ, this addition and those
+  // behind it are read from the open type of a neighbour.
+  if (m.hasMultipleCalls) m.maintainConnection = PerReadOpenBoolean(r);
+  if (m.hasLanguage) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.language), r, PerReadSizedOctetsElement<1, 32>));
+  if (m.hasConnectedAddress) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.connectedAddress), r, DecodeAliasAddress));
+  if (m.hasPresentationIndicator) KELVRA_TRY(DecodeOpen(m.presentationIndicator, r, DecodePresentationIndicator));
+  if (m.hasScreeningIndicator) KELVRA_TRY(DecodeOpen(m.screeningIndicator, r, DecodeScreeningIndicator));
+  if (m.hasFastConnectRefused) PerSkipOpenTypes(r, 1);
+  if (m.hasServiceControl)
+    KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.serviceControl), r, DecodeServiceControlSession));
+  if (m.hasCapacity) KELVRA_TRY(DecodeOpen(m.capacity, r, DecodeCallCapacity));
+  if (m.hasFeatureSet) KELVRA_TRY(DecodeOpen(m.featureSet, r, DecodeFeatureSet));
+  PerSkipUnknownAdditions(r);
+  return kDecoded;
+}
+
+}  // namespace kelvra::h225

@@ -1,0 +1,83 @@
+#include "h225/call/facility_uuie_decode.h"
+#include "h225/call/fast_start.h"
+#include "h225/common/addresses_decode.h"
+#include "h225/common/circuits_decode.h"
+#include "h225/common/crypto_tokens_decode.h"
+#include "h225/common/endpoint_type_decode.h"
+#include "h225/common/generic_data_decode.h"
+#include "h225/common/identifiers_decode.h"
+#include "h225/common/non_standard_decode.h"
+#include "h225/common/protocol_version.h"
+#include "h225/common/services_decode.h"
+#include "h235/tokens_decode.h"
+#include "per/record_decode.h"
+
+namespace kelvra::h225 {
+
+Status DecodeConferenceList(ConferenceList& m, PerReader& r) {
+  if (PerAtEnd(r)) return kExhausted;
+  m.isExtended = PerReadBit(r);
+  m.hasConferenceID = PerReadBit(r);
+  m.hasConferenceAlias = PerReadBit(r);
+  m.hasNonStandardData = PerReadBit(r);
+  if (m.hasConferenceID) KELVRA_TRY(DecodeGloballyUniqueID(m.conferenceID, r));
+  if (m.hasConferenceAlias) KELVRA_TRY(DecodeAliasAddress(m.conferenceAlias, r));
+  if (m.hasNonStandardData) KELVRA_TRY(DecodeNonStandardParameter(m.nonStandardData, r));
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+  return kDecoded;
+}
+
+Status DecodeFacilityUUIE(FacilityUUIE& m, PerReader& r) {
+  if (PerAtEnd(r)) return kExhausted;
+  m.isExtended = PerReadBit(r);
+  m.hasAlternativeAddress = PerReadBit(r);
+  m.hasAlternativeAliasAddress = PerReadBit(r);
+  m.hasConferenceID = PerReadBit(r);
+  ReadProtocolIdentifier(m.protocolIdentifier, r);
+  if (m.hasAlternativeAddress) KELVRA_TRY(DecodeTransportAddress(m.alternativeAddress, r));
+  if (m.hasAlternativeAliasAddress)
+    KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.alternativeAliasAddress), r, DecodeAliasAddress));
+  if (m.hasConferenceID) KELVRA_TRY(DecodeGloballyUniqueID(m.conferenceID, r));
+  KELVRA_TRY(DecodeNullChoice(m.reason, r));
+  if (!m.isExtended) return kDecoded;
+
+  int32_t additions = PerReadBitmapLength(r);
+  m.hasCallIdentifier = PerReadAdditionBit(r, additions);
+  m.hasDestExtraCallInfo = PerReadAdditionBit(r, additions);
+  m.hasRemoteExtensionAddress = PerReadAdditionBit(r, additions);
+  m.hasTokens = PerReadAdditionBit(r, additions);
+  m.hasCryptoTokens = PerReadAdditionBit(r, additions);
+  m.hasConferences = PerReadAdditionBit(r, additions);
+  m.hasH245Address = PerReadAdditionBit(r, additions);
+  m.hasFastStart = PerReadAdditionBit(r, additions);
+  m.hasMultipleCalls = PerReadAdditionBit(r, additions);
+  m.hasMaintainConnection = PerReadAdditionBit(r, additions);
+  m.hasFastConnectRefused = PerReadAdditionBit(r, additions);
+  m.hasServiceControl = PerReadAdditionBit(r, additions);
+  m.hasCircuitInfo = PerReadAdditionBit(r, additions);
+  m.hasFeatureSet = PerReadAdditionBit(r, additions);
+  m.hasDestinationInfo = PerReadAdditionBit(r, additions);
+  m.hasH245SecurityMode = PerReadAdditionBit(r, additions);
+  PerNoteUnknownAdditions(r, additions);
+  if (m.hasCallIdentifier) KELVRA_TRY(DecodeOpen(m.callIdentifier, r, DecodeCallIdentifier));
+  if (m.hasDestExtraCallInfo) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.destExtraCallInfo), r, DecodeAliasAddress));
+  if (m.hasRemoteExtensionAddress) KELVRA_TRY(DecodeOpen(m.remoteExtensionAddress, r, DecodeAliasAddress));
+  if (m.hasTokens) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.tokens), r, h235::DecodeClearToken));
+  if (m.hasCryptoTokens) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.cryptoTokens), r, DecodeCryptoH323Token));
+  if (m.hasConferences) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.conferences), r, DecodeConferenceList));
+  if (m.hasH245Address) KELVRA_TRY(DecodeOpen(m.h245Address, r, DecodeTransportAddress));
+  if (m.hasFastStart) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.fastStart), r, DecodeFastStartElement));
+  if (m.hasMultipleCalls) m.multipleCalls = PerReadOpenBoolean(r);
+  if (m.hasMaintainConnection) m.maintainConnection = PerReadOpenBoolean(r);
+  if (m.hasFastConnectRefused) PerSkipOpenTypes(r, 1);
+  if (m.hasServiceControl)
+    KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.serviceControl), r, DecodeServiceControlSession));
+  if (m.hasCircuitInfo) KELVRA_TRY(DecodeOpen(m.circuitInfo, r, DecodeCircuitInfo));
+  if (m.hasFeatureSet) KELVRA_TRY(DecodeOpen(m.featureSet, r, DecodeFeatureSet));
+  if (m.hasDestinationInfo) KELVRA_TRY(DecodeOpen(m.destinationInfo, r, DecodeEndpointType));
+  if (m.hasH245SecurityMode) KELVRA_TRY(DecodeOpen(m.h245SecurityMode, r, DecodeH245Security));
+  PerSkipUnknownAdditions(r);
+  return kDecoded;
+}
+
+}  // namespace kelvra::h225

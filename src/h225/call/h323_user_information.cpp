@@ -1,0 +1,117 @@
+#include "h225/call/answer_uuie_decode.h"
+#include "h225/call/facility_uuie_decode.h"
+#include "h225/call/h323_user_information_decode.h"
+#include "h225/call/information_uuie_decode.h"
+#include "h225/call/release_complete_uuie_decode.h"
+#include "h225/call/setup_uuie_decode.h"
+#include "h225/common/endpoint_type_decode.h"
+#include "h225/common/generic_data_decode.h"
+#include "h225/common/non_standard_decode.h"
+#include "h225/common/services_decode.h"
+#include "per/record_decode.h"
+
+namespace kelvra::h225 {
+namespace {
+
+Status DecodeH323MessageBody(H323UUPDU::H323MessageBody& m, PerReader& r) {
+  const uint32_t index = ReadChoice(m, r, 7);
+  if (m.isExtension) {
+    switch (index) {
+      case 0: return DecodeOpen(m.progress, r, DecodeProgressUUIE);
+      case 2: return DecodeOpen(m.status, r, DecodeCallStatusUUIE);
+      case 3: return DecodeOpen(m.statusInquiry, r, DecodeCallStatusUUIE);
+      case 4: return DecodeOpen(m.setupAcknowledge, r, DecodeCallStatusUUIE);
+      case 5: return DecodeOpen(m.notify, r, DecodeCallStatusUUIE);
+      default: return SkipAlternative(r);
+    }
+  }
+  switch (index) {
+    case 0: return DecodeSetupUUIE(m.setup, r);
+    case 1: return DecodeCallProceedingUUIE(m.callProceeding, r);
+    case 2: return DecodeConnectUUIE(m.connect, r);
+    case 3: return DecodeAlertingUUIE(m.alerting, r);
+    case 4: return DecodeInformationUUIE(m.information, r);
+    case 5: return DecodeReleaseCompleteUUIE(m.releaseComplete, r);
+    case 6: return DecodeFacilityUUIE(m.facility, r);
+    default: return kMalformed;
+  }
+}
+
+Status DecodeTunnelledSignallingMessage(H323UUPDU::TunnelledSignallingMessage& m, PerReader& r) {
+  m.isExtended = PerReadBit(r);
+  m.hasTunnellingRequired = PerReadBit(r);
+  m.hasNonStandardData = PerReadBit(r);
+  KELVRA_TRY(DecodeTunnelledProtocol(m.tunnelledProtocolID, r));
+  KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.messageContent), r, PerReadOctetStringRecord));
+  if (m.hasNonStandardData) KELVRA_TRY(DecodeNonStandardParameter(m.nonStandardData, r));
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+  return kDecoded;
+}
+
+void DecodeUserData(H323UserInformation& m, PerReader& r) {
+  m.userDataExtension = PerReadBit(r);
+  m.userData.protocolDiscriminator = PerReadNumber<uint8_t>(r, 0, 255);
+  PerReadSizedOctets(m.userData.userInformation, r, 1, 131);
+  if (m.userDataExtension) PerSkipExtensionAdditions(r);
+}
+
+}  // namespace
+
+Status DecodeStimulusControl(StimulusControl& m, PerReader& r) {
+  if (PerAtEnd(r)) return kExhausted;
+  m.isExtended = PerReadBit(r);
+  m.hasNonStandard = PerReadBit(r);
+  m.hasIsText = PerReadBit(r);
+  m.hasH248Message = PerReadBit(r);
+  if (m.hasNonStandard) KELVRA_TRY(DecodeNonStandardParameter(m.nonStandard, r));
+  if (m.hasH248Message) PerReadAnnouncedOctetString(m.h248Message, r);
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+  return kDecoded;
+}
+
+Status DecodeH323UUPDU(H323UUPDU& m, PerReader& r) {
+  if (PerAtEnd(r)) return kExhausted;
+  m.isExtended = PerReadBit(r);
+  m.nonStandardDataPresent = PerReadBit(r);
+  KELVRA_TRY(DecodeH323MessageBody(m.h323MessageBody, r));
+  if (m.nonStandardDataPresent) KELVRA_TRY(DecodeNonStandardParameter(m.nonStandardData, r));
+  if (!m.isExtended) return kDecoded;
+
+  int32_t additions = PerReadBitmapLength(r);
+  m.h4501SupplementaryServicePresent = PerReadAdditionBit(r, additions);
+  m.h245TunnellingPresent = PerReadAdditionBit(r, additions);
+  m.h245ControlPresent = PerReadAdditionBit(r, additions);
+  m.nonStandardControlPresent = PerReadAdditionBit(r, additions);
+  m.callLinkagePresent = PerReadAdditionBit(r, additions);
+  m.tunnelledSignallingMessagePresent = PerReadAdditionBit(r, additions);
+  m.provisionalRespToH245TunnellingPresent = PerReadAdditionBit(r, additions);
+  m.stimulusControlPresent = PerReadAdditionBit(r, additions);
+  m.genericDataPresent = PerReadAdditionBit(r, additions);
+  PerNoteUnknownAdditions(r, additions);
+  if (m.h4501SupplementaryServicePresent)
+    KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.h4501SupplementaryService), r, PerReadOctetStringRecord));
+  if (m.h245TunnellingPresent) m.h245Tunnelling = PerReadOpenBoolean(r);
+  if (m.h245ControlPresent) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.h245Control), r, PerReadOctetStringRecord));
+  if (m.nonStandardControlPresent)
+    KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.nonStandardControl), r, DecodeNonStandardParameter));
+  if (m.callLinkagePresent) KELVRA_TRY(DecodeOpen(m.callLinkage, r, DecodeCallLinkage));
+  if (m.tunnelledSignallingMessagePresent)
+    KELVRA_TRY(DecodeOpen(m.tunnelledSignallingMessage, r, DecodeTunnelledSignallingMessage));
+  if (m.provisionalRespToH245TunnellingPresent) PerSkipOpenTypes(r, 1);
+  if (m.stimulusControlPresent) KELVRA_TRY(DecodeOpen(m.stimulusControl, r, DecodeStimulusControl));
+  if (m.genericDataPresent) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.genericData), r, DecodeGenericData));
+  PerSkipUnknownAdditions(r);
+  return kDecoded;
+}
+
+Status DecodeH323UserInformation(H323UserInformation& m, PerReader& r) {
+  if (PerAtEnd(r)) return kExhausted;
+  m.isExtended = PerReadBit(r);
+  m.userDataPresent = PerReadBit(r);
+  KELVRA_TRY(DecodeH323UUPDU(m.h323UuPdu, r));
+  if (m.userDataPresent) DecodeUserData(m, r);
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+  return kDecoded;
+}
+
+}  // namespace kelvra::h225

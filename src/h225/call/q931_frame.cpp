@@ -1,0 +1,163 @@
+#include "h225/call/q931_frame.h"
+
+#include "codec/memory.h"
+#include "codec/trace.h"
+#include "h225/call/h323_user_information_decode.h"
+#include "h225/release.h"
+
+namespace kelvra::h225 {
+namespace {
+
+constexpr uint32_t kTpktHeader = 4;
+constexpr uint16_t kFirstElement = 5;  // whatever length the call reference claims
+constexpr uint8_t kUserUser = 0x7E;
+
+enum Q931ElementIdentifier : uint8_t {
+  kBearerCapability = 0x04,
+  kCause = 0x08,
+  kCallIdentity = 0x10,
+  kCallState = 0x14,
+  kProgressIndicator = 0x1E,
+  kNotificationIndicator = 0x27,
+  kDateTime = 0x29,
+  kKeypadFacility = 0x2C,
+  kSignal = 0x34,
+  kCallingPartyNumber = 0x6C,
+  kCallingPartySubaddress = 0x6D,
+  kCalledPartyNumber = 0x70,
+  kCalledPartySubaddress = 0x71,
+  kSendingComplete = 0xA1,
+};
+
+void Trace(int32_t severity, int32_t reason, int32_t line) {
+  CodecTrace(kTraceFrame, severity, reason, kSourceFrame, line);
+}
+
+uint16_t HeaderSize(uint8_t identifier) { return identifier == kUserUser ? 3 : 2; }
+
+// Copies the information elements of one frame into its record.
+class ElementCopier {
+ public:
+  ElementCopier(Q931MessageRecord& record, const Q931Frame& frame) : record_(record), frame_(frame) {}
+
+  // One octet of the contents, whatever their length.
+  uint8_t Octet(uint8_t identifier, uint32_t index, Q931Presence bit) {
+    Q931Element element{};
+    if (FindQ931Element(&frame_, identifier, &element) != kQ931Decoded) return 0;
+    record_.presenceMask |= bit;
+    return frame_.At(element.position + uint32_t{2} + index);
+  }
+
+  // The contents behind their first `skipped` octets, where 1 to `room` are left. Returns how many.
+  uint8_t Octets(uint8_t identifier, uint32_t skipped, uint8_t* octets, uint32_t room, Q931Presence bit) {
+    Q931Element element{};
+    if (FindQ931Element(&frame_, identifier, &element) != kQ931Decoded) return 0;
+    if (element.length <= skipped || element.length - skipped > room) return 0;
+    const uint32_t count = element.length - skipped;
+    for (uint32_t i = 0; i < count; ++i) octets[i] = frame_.At(element.position + 2 + skipped + i);
+    record_.presenceMask |= bit;
+    return static_cast<uint8_t>(count);
+  }
+
+  void Mark(uint8_t identifier, Q931Presence bit) {
+    Q931Element element{};
+    if (FindQ931Element(&frame_, identifier, &element) == kQ931Decoded) record_.presenceMask |= bit;
+  }
+
+ private:
+  Q931MessageRecord& record_;
+  const Q931Frame& frame_;
+};
+
+// A record keeps neither the type-of-number octet of a number nor the type of a subaddress.
+void CopyElements(Q931MessageRecord& m, const Q931Frame& frame) {
+  ElementCopier copy(m, frame);
+  copy.Octets(kCallingPartyNumber, 1, m.callingPartyNumber, 32, kCallingPartyNumberPresent);
+  copy.Octets(kCalledPartyNumber, 1, m.calledPartyNumber, 32, kCalledPartyNumberPresent);
+  m.causeValue = copy.Octet(kCause, 1, kCausePresent);
+  m.bearerCapabilityLength = copy.Octets(kBearerCapability, 0, m.bearerCapability, 12, kBearerCapabilityPresent);
+  m.callState = copy.Octet(kCallState, 0, kCallStatePresent);
+  copy.Octets(kDateTime, 0, m.dateTime, 6, kDateTimePresent);
+  m.notificationIndicator = copy.Octet(kNotificationIndicator, 0, kNotificationIndicatorPresent);
+  copy.Octets(kKeypadFacility, 0, m.keypadFacility, 34, kKeypadFacilityPresent);
+  m.progressIndicatorLength = copy.Octets(kProgressIndicator, 0, m.progressIndicator, 2, kProgressIndicatorPresent);
+  m.signalValue = copy.Octet(kSignal, 0, kSignalPresent);
+  m.callIdentityLength = copy.Octets(kCallIdentity, 0, m.callIdentity, 10, kCallIdentityPresent);
+  m.calledPartySubaddressLength =
+      copy.Octets(kCalledPartySubaddress, 1, m.calledPartySubaddress, 23, kCalledPartySubaddressPresent);
+  m.callingPartySubaddressLength =
+      copy.Octets(kCallingPartySubaddress, 1, m.callingPartySubaddress, 23, kCallingPartySubaddressPresent);
+  copy.Mark(kSendingComplete, kSendingCompletePresent);
+}
+
+// Decodes the contents of the user-user element behind their protocol discriminator. The reader's
+// limit lies two octets behind the element, so that a value which fills it to the last bit still ends
+// before the limit; a decode that reaches the limit has failed.
+bool DecodeUserInformationElement(H323UserInformation& m, const Q931Frame& frame, const Q931Element& element) {
+  const uint32_t first = element.position + uint32_t{4};
+  PerReader reader;
+  PerReaderInit(reader, PerAdvance(frame.octets, first), element.length + uint32_t{1});
+  reader.readable = PerAdvance(frame.octets, frame.available);
+  if (DecodeH323UserInformation(m, reader) == kDecoded && reader.position != reader.end) return true;
+  ReleaseH323UserInformation(&m);
+  return false;
+}
+
+}  // namespace
+
+int32_t FindQ931Element(const Q931Frame* frame, uint8_t identifier, Q931Element* element) {
+  if (frame == nullptr || frame->octets == nullptr || element == nullptr) {
+    Trace(kTraceError, kReasonArgument, __LINE__);
+    return kQ931BadArgument;
+  }
+  if (frame->length <= kFirstElement) return kQ931Rejected;
+  uint16_t position = kFirstElement;
+  // The position wraps at 16 bits; a search that has taken a step for each position goes round in circles.
+  for (uint32_t step = 0; step <= UINT16_MAX && position < frame->length; ++step) {
+    const uint8_t candidate = frame->At(position);
+    uint32_t size = 1;
+    if (candidate < 0x80) {
+      const uint32_t high = candidate == kUserUser ? frame->At(position + uint32_t{1}) : uint8_t{0};
+      element->length = static_cast<uint16_t>(high << 8 | frame->At(position + uint32_t{HeaderSize(candidate)} - 1));
+      size = uint32_t{element->length} + HeaderSize(candidate);
+      // Bounded by the whole frame, not by what is left of it.
+      if (candidate == identifier && size <= frame->length) {
+        element->position = position;
+        return kQ931Decoded;
+      }
+    }
+    position = static_cast<uint16_t>(position + size);
+  }
+  return kQ931Rejected;
+}
+
+int32_t DecodeQ931Frame(Q931MessageRecord* record, const uint8_t* buffer, int32_t length) {
+  Trace(kTraceEntry, kReasonEntry, __LINE__);
+  if (record == nullptr || buffer == nullptr || static_cast<uint16_t>(length) == 0) {
+    Trace(kTraceError, kReasonArgument, __LINE__);
+    return kQ931BadArgument;
+  }
+  const uint32_t octets = length > 0 ? static_cast<uint32_t>(length) : 0;
+  const uint32_t available = octets > kTpktHeader ? octets - kTpktHeader : 0;
+  const Q931Frame frame{available == 0 ? buffer : buffer + kTpktHeader, available,
+                        static_cast<uint16_t>(static_cast<uint32_t>(length) - kTpktHeader)};
+  record->protocolDiscriminator = frame.At(0);
+  record->callReferenceLength = frame.At(1);
+  record->callReferenceValue = static_cast<uint16_t>(frame.At(2) << 8 | frame.At(3));
+  record->messageType = frame.At(4);
+  CopyElements(*record, frame);
+
+  Q931Element userUser{};
+  if (FindQ931Element(&frame, kUserUser, &userUser) != kQ931Decoded) {
+    Trace(kTraceError, kReasonMissingElement, __LINE__);
+    return kQ931Rejected;
+  }
+  if (!DecodeUserInformationElement(record->userInformation, frame, userUser)) {
+    Trace(kTraceError, kReasonDecode, __LINE__);
+    return kQ931Rejected;
+  }
+  record->presenceMask |= kUserInformationPresent;
+  return kQ931Decoded;
+}
+
+}  // namespace kelvra::h225

@@ -1,0 +1,38 @@
+// The Q.931 frame around the user-user information.
+#pragma once
+
+#include <stdint.h>
+
+#include "h225/call/q931_message.h"
+
+namespace kelvra::h225 {
+
+inline constexpr int32_t kQ931Decoded = 0;
+inline constexpr int32_t kQ931Rejected = -1;
+inline constexpr int32_t kQ931BadArgument = -10;
+
+// The octets of a frame, from the protocol discriminator on. An element may claim more than the
+// caller's buffer holds; what lies beyond it reads as zero.
+struct Q931Frame {
+  const uint8_t* octets;
+  uint32_t available;  // octets of the caller's buffer
+  uint16_t length;     // octets that the frame claims
+
+  uint8_t At(uint32_t index) const { return index < available ? octets[index] : uint8_t{0}; }
+};
+
+// Where an information element stands.
+struct Q931Element {
+  uint16_t position;  // of the identifier, in the frame
+  uint16_t length;    // of the contents
+};
+
+// Finds the first information element `identifier` whose length and header do not exceed the frame's
+// whole length, and returns kQ931Decoded; kQ931Rejected when there is none. A null frame or
+// `element` yields kQ931BadArgument. Single-octet elements are passed over and never found.
+int32_t FindQ931Element(const Q931Frame* frame, uint8_t identifier, Q931Element* element);
+
+// Decodes the message behind the 4 octets of the TPKT header into a cleared record.
+int32_t DecodeQ931Frame(Q931MessageRecord* record, const uint8_t* buffer, int32_t length);
+
+}  // namespace kelvra::h225

@@ -1,0 +1,110 @@
+#include "h225/common/circuits_decode.h"
+#include "h225/common/generic_data_decode.h"
+#include "per/record_decode.h"
+
+namespace kelvra::h225 {
+
+Status DecodeCicInfo(CicInfo& m, PerReader& r) {
+  if (PerAtEnd(r)) return kExhausted;
+  m.isExtended = PerReadBit(r);
+  KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.cic), r, PerReadSizedOctetsElement<2, 4>));
+  PerReadSizedOctets(m.pointCode, r, 2, 5);
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+  return kDecoded;
+}
+
+Status DecodeGroupID(GroupID& m, PerReader& r) {
+  if (PerAtEnd(r)) return kExhausted;
+  m.isExtended = PerReadBit(r);
+  m.hasMember = PerReadBit(r);
+  if (m.hasMember) KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.member), r, PerReadElement<uint16_t, 0, 65535>));
+  PerReadSizedOctets(m.group, r, 1, 128);
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+  return kDecoded;
+}
+
+Status DecodeCircuitIdentifier(CircuitIdentifier& m, PerReader& r) {
+  if (PerAtEnd(r)) return kExhausted;
+  m.isExtended = PerReadBit(r);
+  m.hasCic = PerReadBit(r);
+  m.hasGroup = PerReadBit(r);
+  if (m.hasCic) KELVRA_TRY(DecodeCicInfo(m.cic, r));
+  if (m.hasGroup) KELVRA_TRY(DecodeGroupID(m.group, r));
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+  return kDecoded;
+}
+
+Status DecodeCircuitInfo(CircuitInfo& m, PerReader& r) {
+  if (PerAtEnd(r)) return kExhausted;
+  m.isExtended = PerReadBit(r);
+  m.hasSourceCircuitID = PerReadBit(r);
+  m.hasDestinationCircuitID = PerReadBit(r);
+  m.hasGenericData = PerReadBit(r);
+  if (m.hasSourceCircuitID) KELVRA_TRY(DecodeCircuitIdentifier(m.sourceCircuitID, r));
+  if (m.hasDestinationCircuitID) KELVRA_TRY(DecodeCircuitIdentifier(m.destinationCircuitID, r));
+  if (m.hasGenericData) KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.genericData), r, DecodeGenericData));
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+  return kDecoded;
+}
+
+Status DecodeCallsAvailable(CallsAvailable& m, PerReader& r) {
+  if (PerAtEnd(r)) return kExhausted;
+  m.isExtended = PerReadBit(r);
+  m.hasGroup = PerReadBit(r);
+  m.calls = PerReadNumber<uint32_t>(r, 0, kUnsigned32Maximum);
+  if (m.hasGroup) PerReadSizedOctets(m.group, r, 1, 128);
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+  return kDecoded;
+}
+
+Status DecodeCallCapacityInfo(CallCapacityInfo& m, PerReader& r) {
+  if (PerAtEnd(r)) return kExhausted;
+  m.isExtended = PerReadBit(r);
+  m.hasVoiceGwCallsAvailable = PerReadBit(r);
+  m.hasH310GwCallsAvailable = PerReadBit(r);
+  m.hasH320GwCallsAvailable = PerReadBit(r);
+  m.hasH321GwCallsAvailable = PerReadBit(r);
+  m.hasH322GwCallsAvailable = PerReadBit(r);
+  m.hasH323GwCallsAvailable = PerReadBit(r);
+  m.hasH324GwCallsAvailable = PerReadBit(r);
+  m.hasT120OnlyGwCallsAvailable = PerReadBit(r);
+  m.hasT38FaxAnnexbOnlyGwCallsAvailable = PerReadBit(r);
+  m.hasTerminalCallsAvailable = PerReadBit(r);
+  m.hasMcuCallsAvailable = PerReadBit(r);
+  if (m.hasVoiceGwCallsAvailable)
+    KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.voiceGwCallsAvailable), r, DecodeCallsAvailable));
+  if (m.hasH310GwCallsAvailable)
+    KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.h310GwCallsAvailable), r, DecodeCallsAvailable));
+  if (m.hasH320GwCallsAvailable)
+    KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.h320GwCallsAvailable), r, DecodeCallsAvailable));
+  if (m.hasH321GwCallsAvailable)
+    KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.h321GwCallsAvailable), r, DecodeCallsAvailable));
+  if (m.hasH322GwCallsAvailable)
+    KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.h322GwCallsAvailable), r, DecodeCallsAvailable));
+  if (m.hasH323GwCallsAvailable)
+    KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.h323GwCallsAvailable), r, DecodeCallsAvailable));
+  if (m.hasH324GwCallsAvailable)
+    KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.h324GwCallsAvailable), r, DecodeCallsAvailable));
+  if (m.hasT120OnlyGwCallsAvailable)
+    KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.t120OnlyGwCallsAvailable), r, DecodeCallsAvailable));
+  if (m.hasT38FaxAnnexbOnlyGwCallsAvailable)
+    KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.t38FaxAnnexbOnlyGwCallsAvailable), r, DecodeCallsAvailable));
+  if (m.hasTerminalCallsAvailable)
+    KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.terminalCallsAvailable), r, DecodeCallsAvailable));
+  if (m.hasMcuCallsAvailable) KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.mcuCallsAvailable), r, DecodeCallsAvailable));
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+  return kDecoded;
+}
+
+Status DecodeCallCapacity(CallCapacity& m, PerReader& r) {
+  if (PerAtEnd(r)) return kExhausted;
+  m.isExtended = PerReadBit(r);
+  m.hasMaximumCallCapacity = PerReadBit(r);
+  m.hasCurrentCallCapacity = PerReadBit(r);
+  if (m.hasMaximumCallCapacity) KELVRA_TRY(DecodeCallCapacityInfo(m.maximumCallCapacity, r));
+  if (m.hasCurrentCallCapacity) KELVRA_TRY(DecodeCallCapacityInfo(m.currentCallCapacity, r));
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+  return kDecoded;
+}
+
+}  // namespace kelvra::h225

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "codec/status.h"
+#include "h225/common/services.h"
+#include "per/reader.h"
+
+namespace kelvra::h225 {
+
+Status DecodeQ954Details(Q954Details& m, PerReader& r);
+Status DecodeQseriesOptions(QseriesOptions& m, PerReader& r);
+Status DecodeCallLinkage(CallLinkage& m, PerReader& r);
+Status DecodeCallCreditServiceControl(CallCreditServiceControl& m, PerReader& r);
+Status DecodeServiceControlDescriptor(ServiceControlDescriptor& m, PerReader& r);
+Status DecodeServiceControlSession(ServiceControlSession& m, PerReader& r);
+
+}  // namespace kelvra::h225

@@ -1,0 +1,132 @@
+#include "h245/capabilities/audio_capability_decode.h"
+#include "h245/common/generic_capability_decode.h"
+#include "h245/common/non_standard_decode.h"
+#include "h245/decode.h"
+
+namespace kelvra::h245 {
+namespace {
+
+void DecodeG723AnnexCAudioMode(G7231AnnexCCapability::G723AnnexCAudioMode& m, PerReader& r) {
+  m.isExtended = PerReadBit(r);
+  m.highRateMode0 = PerReadNumber<uint8_t>(r, 27, 78);
+  m.highRateMode1 = PerReadNumber<uint8_t>(r, 27, 78);
+  m.lowRateMode0 = PerReadNumber<uint8_t>(r, 23, 66);
+  m.lowRateMode1 = PerReadNumber<uint8_t>(r, 23, 66);
+  m.sidMode0 = PerReadNumber<uint8_t>(r, 6, 17);
+  m.sidMode1 = PerReadNumber<uint8_t>(r, 6, 17);
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+}
+
+void DecodeG7231(AudioCapability::G7231& m, PerReader& r) {
+  m.maxAlSduAudioFrames = PerReadNumber<uint16_t>(r, 1, 256);
+  m.silenceSuppression = PerReadBit(r);
+}
+
+}  // namespace
+
+void DecodeIS11172AudioCapability(IS11172AudioCapability& m, PerReader& r) {
+  m.isExtended = PerReadBit(r);
+  m.audioLayer1 = PerReadBit(r);
+  m.audioLayer2 = PerReadBit(r);
+  m.audioLayer3 = PerReadBit(r);
+  m.audioSampling32k = PerReadBit(r);
+  m.audioSampling44k1 = PerReadBit(r);
+  m.audioSampling48k = PerReadBit(r);
+  m.singleChannel = PerReadBit(r);
+  m.twoChannels = PerReadBit(r);
+  m.bitRate = PerReadNumber<uint16_t>(r, 1, 448);
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+}
+
+void DecodeIS13818AudioCapability(IS13818AudioCapability& m, PerReader& r) {
+  m.isExtended = PerReadBit(r);
+  m.audioLayer1 = PerReadBit(r);
+  m.audioLayer2 = PerReadBit(r);
+  m.audioLayer3 = PerReadBit(r);
+  m.audioSampling16k = PerReadBit(r);
+  m.audioSampling22k05 = PerReadBit(r);
+  m.audioSampling24k = PerReadBit(r);
+  m.audioSampling32k = PerReadBit(r);
+  m.audioSampling44k1 = PerReadBit(r);
+  m.audioSampling48k = PerReadBit(r);
+  m.singleChannel = PerReadBit(r);
+  m.twoChannels = PerReadBit(r);
+  m.threeChannels21 = PerReadBit(r);
+  m.threeChannels30 = PerReadBit(r);
+  m.fourChannels2020 = PerReadBit(r);
+  m.fourChannels22 = PerReadBit(r);
+  m.fourChannels31 = PerReadBit(r);
+  m.fiveChannels3020 = PerReadBit(r);
+  m.fiveChannels32 = PerReadBit(r);
+  m.lowFrequencyEnhancement = PerReadBit(r);
+  m.multilingual = PerReadBit(r);
+  m.bitRate = PerReadNumber<uint16_t>(r, 1, 1130);
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+}
+
+void DecodeG7231AnnexCCapability(G7231AnnexCCapability& m, PerReader& r) {
+  m.isExtended = PerReadBit(r);
+  m.hasG723AnnexCAudioMode = PerReadBit(r);
+  m.maxAlSduAudioFrames = PerReadNumber<uint16_t>(r, 1, 256);
+  m.silenceSuppression = PerReadBit(r);
+  if (m.hasG723AnnexCAudioMode) DecodeG723AnnexCAudioMode(m.g723AnnexCAudioMode, r);
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+}
+
+void DecodeGSMAudioCapability(GSMAudioCapability& m, PerReader& r) {
+  m.isExtended = PerReadBit(r);
+  m.audioUnitSize = PerReadNumber<uint16_t>(r, 1, 256);
+  m.comfortNoise = PerReadBit(r);
+  m.scrambled = PerReadBit(r);
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+}
+
+void DecodeG729Extensions(G729Extensions& m, PerReader& r) {
+  m.isExtended = PerReadBit(r);
+  m.hasAudioUnit = PerReadBit(r);
+  if (m.hasAudioUnit) m.audioUnit = PerReadNumber<uint16_t>(r, 1, 256);
+  m.annexA = PerReadBit(r);
+  m.annexB = PerReadBit(r);
+  m.annexD = PerReadBit(r);
+  m.annexE = PerReadBit(r);
+  m.annexF = PerReadBit(r);
+  m.annexG = PerReadBit(r);
+  m.annexH = PerReadBit(r);
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+}
+
+void DecodeAudioCapability(AudioCapability& m, PerReader& r) {
+  const uint32_t index = ReadChoice(m, r, 14);
+  if (m.isExtension) {
+    switch (index) {
+      case 0: m.g729wAnnexB = PerReadOpenNumber<uint16_t>(r, 1, 256); return;
+      case 1: m.g729AnnexAwAnnexB = PerReadOpenNumber<uint16_t>(r, 1, 256); return;
+      case 2: return DecodeOpen(m.g7231AnnexCCapability, r, DecodeG7231AnnexCCapability);
+      case 3: return DecodeOpen(m.gsmFullRate, r, DecodeGSMAudioCapability);
+      case 4: return DecodeOpen(m.gsmHalfRate, r, DecodeGSMAudioCapability);
+      case 5: return DecodeOpen(m.gsmEnhancedFullRate, r, DecodeGSMAudioCapability);
+      case 6: return DecodeOpen(m.genericAudioCapability, r, DecodeGenericCapability);
+      case 7: return DecodeOpen(m.g729Extensions, r, DecodeG729Extensions);
+      default: return PerSkipOpenTypes(r, 1);
+    }
+  }
+  switch (index) {
+    case 0: return DecodeNonStandardParameter(m.nonStandard, r);
+    case 1: m.g711Alaw64k = PerReadNumber<uint16_t>(r, 1, 256); return;
+    case 2: m.g711Alaw56k = PerReadNumber<uint16_t>(r, 1, 256); return;
+    case 3: m.g711Ulaw64k = PerReadNumber<uint16_t>(r, 1, 256); return;
+    case 4: m.g711Ulaw56k = PerReadNumber<uint16_t>(r, 1, 256); return;
+    case 5: m.g72264k = PerReadNumber<uint16_t>(r, 1, 256); return;
+    case 6: m.g72256k = PerReadNumber<uint16_t>(r, 1, 256); return;
+    case 7: m.g72248k = PerReadNumber<uint16_t>(r, 1, 256); return;
+    case 8: return DecodeG7231(m.g7231, r);
+    case 9: m.g728 = PerReadNumber<uint16_t>(r, 1, 256); return;
+    case 10: m.g729 = PerReadNumber<uint16_t>(r, 1, 256); return;
+    case 11: m.g729AnnexA = PerReadNumber<uint16_t>(r, 1, 256); return;
+    case 12: return DecodeIS11172AudioCapability(m.is11172AudioCapability, r);
+    case 13: return DecodeIS13818AudioCapability(m.is13818AudioCapability, r);
+    default: return;
+  }
+}
+
+}  // namespace kelvra::h245

@@ -1,0 +1,105 @@
+// Data applications.
+#pragma once
+
+#include <stdint.h>
+
+#include "../common/generic_capability.h"
+
+namespace kelvra::h245 {
+
+#pragma pack(push, 1)
+
+struct DataApplicationCapability {
+  struct Application {
+    struct T84 {
+      DataProtocolCapability t84Protocol;
+      T84Profile t84Profile;
+
+      template <class Record, class Visitor>
+      static void Walk(Record& m, Visitor& v) {
+        v.Record("t84Protocol", m.t84Protocol);
+        v.Record("t84Profile", m.t84Profile);
+      }
+    };
+
+    struct Nlpid {
+      DataProtocolCapability nlpidProtocol;
+      OctetStringValue nlpidData;
+
+      template <class Record, class Visitor>
+      static void Walk(Record& m, Visitor& v) {
+        v.Record("nlpidProtocol", m.nlpidProtocol);
+        WalkOctets(v, "nlpidData", m.nlpidData);
+      }
+    };
+
+    struct T38fax {
+      DataProtocolCapability t38FaxProtocol;
+      T38FaxProfile t38FaxProfile;
+
+      template <class Record, class Visitor>
+      static void Walk(Record& m, Visitor& v) {
+        v.Record("t38FaxProtocol", m.t38FaxProtocol);
+        v.Record("t38FaxProfile", m.t38FaxProfile);
+      }
+    };
+
+    uint32_t isExtension;
+    uint8_t choiceTag;
+    union {
+      NonStandardParameter nonStandard;
+      DataProtocolCapability t120;
+      DataProtocolCapability dsmCc;
+      DataProtocolCapability userData;
+      T84 t84;
+      DataProtocolCapability t434;
+      DataProtocolCapability h224;
+      Nlpid nlpid;
+      DataProtocolCapability h222DataPartitioning;
+      DataProtocolCapability t30fax;
+      DataProtocolCapability t140;
+      T38fax t38fax;
+      GenericCapability genericDataCapability;
+    };
+
+    template <class Record, class Visitor>
+    static void Walk(Record& m, Visitor& v) {
+      if (m.isExtension) {
+        switch (m.choiceTag) {
+          case 0: return v.Record("t30fax", m.t30fax);
+          case 1: return v.Record("t140", m.t140);
+          case 2: return v.Record("t38fax", m.t38fax);
+          case 3: return v.Record("genericDataCapability", m.genericDataCapability);
+          default: return v.UnknownExtension(m.choiceTag);
+        }
+      }
+      switch (m.choiceTag) {
+        case 0: return v.Record("nonStandard", m.nonStandard);
+        case 1: return v.Record("t120", m.t120);
+        case 2: return v.Record("dsm-cc", m.dsmCc);
+        case 3: return v.Record("userData", m.userData);
+        case 4: return v.Record("t84", m.t84);
+        case 5: return v.Record("t434", m.t434);
+        case 6: return v.Record("h224", m.h224);
+        case 7: return v.Record("nlpid", m.nlpid);
+        case 8: return v.Null("dsvdControl");
+        case 9: return v.Record("h222DataPartitioning", m.h222DataPartitioning);
+        default: return v.UnknownRoot(m.choiceTag);
+      }
+    }
+  };
+
+  Application application;
+  uint32_t maxBitRate;
+  uint32_t isExtended;
+
+  template <class Record, class Visitor>
+  static void Walk(Record& m, Visitor& v) {
+    v.Record("application", m.application);
+    v.Number("maxBitRate", m.maxBitRate);
+  }
+};
+
+#pragma pack(pop)
+
+}  // namespace kelvra::h245
