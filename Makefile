@@ -6,9 +6,9 @@ SHELL := bash
 
 BUILD := build/linux-x64
 DUMP := $(BUILD)/bin/kelvra-dump
-CXX_FILES = $(shell find src tools tests -name '*.cpp' -o -name '*.h')
+CXX_FILES = $(shell find src tools tests fuzz -name '*.cpp' -o -name '*.h')
 
-.PHONY: all demo test format lint clean
+.PHONY: all demo test fuzz format lint clean
 
 # The library and the viewer.
 all:
@@ -29,6 +29,11 @@ demo:
 test:
 	scripts/setup.sh test
 	scripts/test.sh
+
+# Four hours a family by libFuzzer; scripts/fuzz.sh has other engines and times.
+fuzz:
+	scripts/setup.sh test
+	scripts/fuzz.sh
 
 format:
 	scripts/setup.sh lint

@@ -8,7 +8,8 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
-all_targets=(windows-x86 linux-x86 linux-x64 windows-x64 linux-x64-asan linux-x86-asan)
+all_targets=(windows-x86 linux-x86 linux-x64 windows-x64 linux-x64-asan linux-x86-asan
+  linux-x64-fuzz)
 targets=("$@")
 [[ $# -gt 0 ]] || targets=("${all_targets[@]}")
 
