@@ -12,7 +12,7 @@
 namespace kelvra::fuzz {
 namespace {
 
-void Run(const char* family, void (*body)(const uint8_t*, size_t)) {
+void RunCases(const char* family, void (*body)(const uint8_t*, size_t)) {
   size_t cases = 0;
   for (const auto& entry : std::filesystem::directory_iterator(std::filesystem::path(KELVRA_REGRESSIONS) / family)) {
     SCOPED_TRACE(entry.path().filename().string());
@@ -25,9 +25,9 @@ void Run(const char* family, void (*body)(const uint8_t*, size_t)) {
   EXPECT_GT(cases, 0U);
 }
 
-TEST(FuzzRegressions, Ras) { Run("ras", DecodeAndReleaseRas); }
-TEST(FuzzRegressions, Q931) { Run("q931", DecodeAndReleaseQ931); }
-TEST(FuzzRegressions, H245) { Run("h245", DecodeAndReleaseH245); }
+TEST(FuzzRegressions, Ras) { RunCases("ras", DecodeAndReleaseRas); }
+TEST(FuzzRegressions, Q931) { RunCases("q931", DecodeAndReleaseQ931); }
+TEST(FuzzRegressions, H245) { RunCases("h245", DecodeAndReleaseH245); }
 
 }  // namespace
 }  // namespace kelvra::fuzz
