@@ -39,6 +39,25 @@ void PerReaderInit(PerReader& reader, const uint8_t* buffer, uint32_t length, ui
   reader.windowLimit = inside < kWindowOctets ? buffer : reader.octetLimit - (kWindowOctets - 1);
 }
 
+bool PerCountRereading(PerReader& reader, uint32_t octets) {
+  if (octets <= kMaximumRereading - reader.reread) {
+    reader.reread += octets;
+    return true;
+  }
+  reader.reread = kMaximumRereading;
+  PerMoveToEnd(reader);
+  reader.stoppedAt = nullptr;  // whatever would move it back from here has octets to count
+  return false;
+}
+
+void PerMoveBack(PerReader& reader, const uint8_t* octet) {
+  const uint8_t* read = PerBoundary(reader);
+  if (PerAtEnd(reader)) read = reader.stoppedAt != nullptr ? reader.stoppedAt : reader.end;
+  if (octet < read && !PerCountRereading(reader, static_cast<uint32_t>(read - octet))) return;
+  PerMoveTo(reader, octet);
+  if (!PerAtEnd(reader)) reader.stoppedAt = nullptr;
+}
+
 uint8_t PerPeekOctet(const PerReader& reader, uint32_t index) {
   return index < ReadableOctets(reader) ? reader.position[index] : uint8_t{0};
 }

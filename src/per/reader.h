@@ -17,6 +17,11 @@ inline constexpr uint32_t kMaximumDepth = 32;
 // fast-connect channels, stays below it. A block past it is refused as if the heap had refused it.
 inline constexpr uint32_t kMaximumMessageMemory = 16U << 20;
 
+// How many octets of one message may be read, or looked at, a second time: those that leaving an open
+// type moves the reader back over, and those that were counted but not read. A lawful message has next
+// to none. Past it the reader moves to its end and stays there.
+inline constexpr uint32_t kMaximumRereading = 64U << 10;
+
 inline constexpr uint32_t kOpenTypeLevels = 10;
 
 // The open types being decoded, innermost at `index`. An eleventh level takes the slot of the first.
@@ -45,6 +50,8 @@ struct PerReader {
   int32_t extensionPresentCount;  // unknown additions to skip, as the last bitmap left it
   uint32_t depth;                 // recursive types entered
   uint32_t allocated;             // octets claimed so far
+  uint32_t reread;                // octets read or looked at a second time so far
+  const uint8_t* stoppedAt;       // at the end only: how far it had read when it moved there; null: all the way
 };
 
 // Over `length` octets at `buffer`, with fresh decoding state.
@@ -73,9 +80,17 @@ inline uint32_t PerOctetsInside(const PerReader& reader) {
 }
 
 inline void PerMoveToEnd(PerReader& reader) {
+  if (!PerAtEnd(reader)) reader.stoppedAt = reader.position;
   reader.position = reader.end;
   reader.bitOffset = 0;
 }
+
+// Counts octets that are read or looked at a second time. Returns false, and leaves the reader at its end
+// for good, once they are too many.
+bool PerCountRereading(PerReader& reader, uint32_t octets);
+
+// Moves the reader back to `octet`, which an open type ends at.
+[[gnu::noinline]] void PerMoveBack(PerReader& reader, const uint8_t* octet);
 
 // The octet at `position` plus `index`, zero outside the caller's buffer.
 uint8_t PerPeekOctet(const PerReader& reader, uint32_t index);
