@@ -152,17 +152,9 @@ void DecodeRedundancyEncoding(RedundancyEncoding& m, PerReader& r) {
   PerSkipOpenTypes(r, unknown);
 }
 
-void DecodeMultiplePayloadStreamElement(MultiplePayloadStreamElement& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasPayloadType = PerReadBit(r);
-  DecodePointer(KELVRA_SLOT(m.dataType), r, DecodeDataType);
-  if (m.hasPayloadType) m.payloadType = PerReadNumber<uint8_t>(r, 0, 127);
-  if (m.isExtended) PerSkipExtensionAdditions(r);
-}
-
 void DecodeMultiplePayloadStream(MultiplePayloadStream& m, PerReader& r) {
   m.isExtended = PerReadBit(r);
-  KELVRA_OR_STOP(DecodeSequenceOf(KELVRA_LIST(m.elements), r, DecodeMultiplePayloadStreamElement));
+  KELVRA_OR_STOP(DecodeSequenceOf(KELVRA_LIST(m.elements), r, DecodeRedundancyEncodingElement));
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 

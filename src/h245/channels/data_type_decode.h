@@ -10,7 +10,6 @@ void DecodeRTPH263VideoRedundancyEncoding(RTPH263VideoRedundancyEncoding& m, Per
 void DecodeRedundancyEncodingMethod(RedundancyEncodingMethod& m, PerReader& r);
 void DecodeRedundancyEncodingElement(RedundancyEncodingElement& m, PerReader& r);
 void DecodeRedundancyEncoding(RedundancyEncoding& m, PerReader& r);
-void DecodeMultiplePayloadStreamElement(MultiplePayloadStreamElement& m, PerReader& r);
 void DecodeMultiplePayloadStream(MultiplePayloadStream& m, PerReader& r);
 void DecodeFECData(FECData& m, PerReader& r);
 void DecodeMultiplexedStreamParameter(MultiplexedStreamParameter& m, PerReader& r);
