@@ -131,7 +131,7 @@ TEST(RegistrationTest, AdditionsAreThoseOfTheVersionNamed) {
 }
 
 TEST(RegistrationTest, OtherVersionsOnAnotherThreadDoNotMatter) {
-  constexpr int kRounds = 4000;
+  constexpr int kRounds = 20000;
   size_t differences[2] = {0, 0};
   const auto decode = [&](size_t thread) {
     const auto& v = kVersions[2 + thread];
