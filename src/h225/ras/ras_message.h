@@ -1,7 +1,14 @@
 // RasMessage, the outermost record of the RAS family.
 #pragma once
 
+#include "bandwidth_messages.h"
 #include "gatekeeper_discovery.h"
+#include "info_request_ack.h"
+#include "registration.h"
+#include "request_in_progress.h"
+#include "resources_available.h"
+#include "service_control.h"
+#include "unregistration.h"
 
 namespace kelvra::h225 {
 
@@ -51,17 +58,53 @@ struct RasMessageRecord {
     GatekeeperRequest gatekeeperRequest;
     GatekeeperConfirm gatekeeperConfirm;
     GatekeeperReject gatekeeperReject;
+    RegistrationRequest registrationRequest;
+    RegistrationConfirm registrationConfirm;
+    RegistrationReject registrationReject;
+    UnregistrationRequest unregistrationRequest;
+    UnregistrationConfirm unregistrationConfirm;
+    UnregistrationReject unregistrationReject;
+    BandwidthRequest bandwidthRequest;
+    BandwidthConfirm bandwidthConfirm;
+    BandwidthReject bandwidthReject;
+    RequestInProgress requestInProgress;
+    ResourcesAvailableIndicate resourcesAvailableIndicate;
+    ResourcesAvailableConfirm resourcesAvailableConfirm;
+    InfoRequestAck infoRequestAck;
+    InfoRequestNak infoRequestNak;
+    ServiceControlIndication serviceControlIndication;
+    ServiceControlResponse serviceControlResponse;
     uint8_t reserved[905];
   };
   uint32_t isExtension;
 
   template <class Record, class Visitor>
   static void Walk(Record& m, Visitor& v) {
-    if (m.isExtension) return WalkNullChoice<RasMessageNames>(v, m.isExtension, m.choiceTag);
+    if (m.isExtension) {
+      switch (m.choiceTag) {
+        case 0: return v.Record("requestInProgress", m.requestInProgress);
+        case 1: return v.Record("resourcesAvailableIndicate", m.resourcesAvailableIndicate);
+        case 2: return v.Record("resourcesAvailableConfirm", m.resourcesAvailableConfirm);
+        case 3: return v.Record("infoRequestAck", m.infoRequestAck);
+        case 4: return v.Record("infoRequestNak", m.infoRequestNak);
+        case 5: return v.Record("serviceControlIndication", m.serviceControlIndication);
+        case 6: return v.Record("serviceControlResponse", m.serviceControlResponse);
+        default: return v.UnknownExtension(m.choiceTag);
+      }
+    }
     switch (m.choiceTag) {
       case 0: return v.Record("gatekeeperRequest", m.gatekeeperRequest);
       case 1: return v.Record("gatekeeperConfirm", m.gatekeeperConfirm);
       case 2: return v.Record("gatekeeperReject", m.gatekeeperReject);
+      case 3: return v.Record("registrationRequest", m.registrationRequest);
+      case 4: return v.Record("registrationConfirm", m.registrationConfirm);
+      case 5: return v.Record("registrationReject", m.registrationReject);
+      case 6: return v.Record("unregistrationRequest", m.unregistrationRequest);
+      case 7: return v.Record("unregistrationConfirm", m.unregistrationConfirm);
+      case 8: return v.Record("unregistrationReject", m.unregistrationReject);
+      case 12: return v.Record("bandwidthRequest", m.bandwidthRequest);
+      case 13: return v.Record("bandwidthConfirm", m.bandwidthConfirm);
+      case 14: return v.Record("bandwidthReject", m.bandwidthReject);
       default: return WalkNullChoice<RasMessageNames>(v, m.isExtension, m.choiceTag);
     }
   }
