@@ -2,6 +2,8 @@
 #pragma once
 
 #include "gatekeeper_discovery.h"
+#include "location.h"
+#include "non_standard_message.h"
 
 namespace kelvra::h225 {
 
@@ -51,6 +53,11 @@ struct RasMessageRecord {
     GatekeeperRequest gatekeeperRequest;
     GatekeeperConfirm gatekeeperConfirm;
     GatekeeperReject gatekeeperReject;
+    LocationRequest locationRequest;
+    LocationConfirm locationConfirm;
+    LocationReject locationReject;
+    NonStandardMessage nonStandardMessage;
+    UnknownMessageResponse unknownMessageResponse;
     uint8_t reserved[905];
   };
   uint32_t isExtension;
@@ -62,6 +69,11 @@ struct RasMessageRecord {
       case 0: return v.Record("gatekeeperRequest", m.gatekeeperRequest);
       case 1: return v.Record("gatekeeperConfirm", m.gatekeeperConfirm);
       case 2: return v.Record("gatekeeperReject", m.gatekeeperReject);
+      case 18: return v.Record("locationRequest", m.locationRequest);
+      case 19: return v.Record("locationConfirm", m.locationConfirm);
+      case 20: return v.Record("locationReject", m.locationReject);
+      case 23: return v.Record("nonStandardMessage", m.nonStandardMessage);
+      case 24: return v.Record("unknownMessageResponse", m.unknownMessageResponse);
       default: return WalkNullChoice<RasMessageNames>(v, m.isExtension, m.choiceTag);
     }
   }
