@@ -15,6 +15,10 @@ constexpr bool Occupies(size_t octets) {
 }
 
 static_assert(Occupies<h225::ANSI41UIM>(149));
+static_assert(Occupies<h225::AdmissionConfirm>(792));
+static_assert(Occupies<h225::AdmissionReject>(213));
+static_assert(Occupies<h225::AdmissionRejectReason>(10));
+static_assert(Occupies<h225::AdmissionRequest>(905));
 static_assert(Occupies<h225::AlertingUUIE>(775));
 static_assert(Occupies<h225::AliasAddress>(159));
 static_assert(Occupies<h225::AltGKInfo>(13));
@@ -36,6 +40,7 @@ static_assert(Occupies<h225::ConferenceList>(204));
 static_assert(Occupies<h225::Content>(164));
 static_assert(Occupies<h225::CryptoH323Token>(434));
 static_assert(Occupies<h225::DataRate>(39));
+static_assert(Occupies<h225::DisengageRequest>(649));
 static_assert(Occupies<h225::EncryptIntAlg>(26));
 static_assert(Occupies<h225::Endpoint>(530));
 static_assert(Occupies<h225::EndpointType>(248));
@@ -55,8 +60,13 @@ static_assert(Occupies<h225::H245Security>(112));
 static_assert(Occupies<h225::H323UUPDU>(1450));
 static_assert(Occupies<h225::H323UserInformation>(1471));
 static_assert(Occupies<h225::ICV>(16));
+static_assert(Occupies<h225::InfoRequestResponse>(636));
+static_assert(Occupies<h225::InfoRequestResponse::PerCallInfo>(480));
+static_assert(Occupies<h225::InfoRequestResponse::PerCallInfo::Pdu>(1454));
+static_assert(Occupies<h225::InfoRequestResponseStatus>(7));
 static_assert(Occupies<h225::InformationUUIE>(185));
 static_assert(Occupies<h225::IntegrityMechanism>(36));
+static_assert(Occupies<h225::LocationRejectReason>(10));
 static_assert(Occupies<h225::McuInfo>(38));
 static_assert(Occupies<h225::MobileUIM>(154));
 static_assert(Occupies<h225::NonIsoIntegrityMechanism>(31));
