@@ -25,6 +25,10 @@ Status DecodeReason(NullChoice<Names>& m, PerReader& r) {
 
 }  // namespace
 
+Status DecodeDisengageReason(DisengageReason& m, PerReader& r) { return DecodeReason(m, r); }
+
+Status DecodeDisengageRejectReason(DisengageRejectReason& m, PerReader& r) { return DecodeReason(m, r); }
+
 Status DecodeDisengageRequest(DisengageRequest& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
   m.isExtended = PerReadBit(r);
@@ -33,7 +37,7 @@ Status DecodeDisengageRequest(DisengageRequest& m, PerReader& r) {
   KELVRA_TRY(DecodeIdentifierString(m.endpointIdentifier, r));
   KELVRA_TRY(DecodeGloballyUniqueID(m.conferenceID, r));
   m.callReferenceValue = PerReadNumber<uint16_t>(r, 0, 65535);
-  KELVRA_TRY(DecodeReason(m.disengageReason, r));
+  KELVRA_TRY(DecodeDisengageReason(m.disengageReason, r));
   if (m.hasNonStandardData) KELVRA_TRY(DecodeNonStandardParameter(m.nonStandardData, r));
   if (!m.isExtended) return kDecoded;
 
@@ -103,7 +107,7 @@ Status DecodeDisengageReject(DisengageReject& m, PerReader& r) {
   m.isExtended = PerReadBit(r);
   m.hasNonStandardData = PerReadBit(r);
   m.requestSeqNum = PerReadNumber<uint16_t>(r, 1, 65535);
-  KELVRA_TRY(DecodeReason(m.rejectReason, r));
+  KELVRA_TRY(DecodeDisengageRejectReason(m.rejectReason, r));
   if (m.hasNonStandardData) KELVRA_TRY(DecodeNonStandardParameter(m.nonStandardData, r));
   if (!m.isExtended) return kDecoded;
 
