@@ -140,14 +140,20 @@ void PerReadSizedBMPStringElement(BMPStringValue& value, PerReader& r) {
 
 // --- CHOICE ---
 
-// The header of an extensible CHOICE with `roots` root alternatives. Returns the index in full; the
-// record keeps its low 8 bits.
+// The index of an extensible CHOICE whose extension bit is read, of `roots` root alternatives. Returns it
+// in full; the record keeps its low 8 bits.
 template <class Choice>
-uint32_t ReadChoice(Choice& m, PerReader& r, uint32_t roots) {
-  m.isExtension = PerReadBit(r);
+uint32_t ReadChoiceIndex(Choice& m, PerReader& r, uint32_t roots) {
   const uint32_t index = m.isExtension ? PerReadNormallySmall(r) : PerReadConstrainedWholeNumber(r, roots);
   m.choiceTag = static_cast<uint8_t>(index);
   return index;
+}
+
+// The header of an extensible CHOICE: extension bit and index.
+template <class Choice>
+uint32_t ReadChoice(Choice& m, PerReader& r, uint32_t roots) {
+  m.isExtension = PerReadBit(r);
+  return ReadChoiceIndex(m, r, roots);
 }
 
 // The same for a CHOICE without an extension marker.
