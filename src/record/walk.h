@@ -26,11 +26,14 @@
 //   template <class L> void FixedOctetStrings(const char* name, L list, uint32_t size);
 //                                        strings of one fixed size whose length words are not kept
 //
-// A list is a ListIn<Element, Count>. Blocks belong to the record; a visitor that releases them does so
+// A list is a ListIn<Element, Count>. Where its elements are lists themselves, each is a record that tells
+// its own list under the empty name. Blocks belong to the record; a visitor that releases them does so
 // through the slots.
 #pragma once
 
 #include <stdint.h>
+
+#include <iterator>
 
 #include "list.h"
 #include "values.h"
@@ -56,7 +59,7 @@ void WalkOctets(Visitor& visitor, const char* name, const OctetStringValue& valu
 // Passes a CHOICE of NULLs to a visitor. `Names` lists its alternatives, roots first.
 template <class Names, class Visitor>
 void WalkNullChoice(Visitor& visitor, uint32_t isExtension, uint32_t tag) {
-  constexpr uint32_t kCount = sizeof(Names::kAlternatives) / sizeof(Names::kAlternatives[0]);
+  constexpr uint32_t kCount = std::size(Names::kAlternatives);
   if (isExtension == 0) {
     if (tag < Names::kRoots) return visitor.Null(Names::kAlternatives[tag]);
     return visitor.UnknownRoot(tag);

@@ -11,6 +11,7 @@ void DecodeRedundancyEncodingMethod(RedundancyEncodingMethod& m, PerReader& r);
 void DecodeRedundancyEncodingElement(RedundancyEncodingElement& m, PerReader& r);
 void DecodeRedundancyEncoding(RedundancyEncoding& m, PerReader& r);
 void DecodeMultiplePayloadStream(MultiplePayloadStream& m, PerReader& r);
+void DecodeDifferentPort(FECData::Rfc2733::Mode::SeparateStream::DifferentPort& m, PerReader& r);
 void DecodeFECData(FECData& m, PerReader& r);
 void DecodeMultiplexedStreamParameter(MultiplexedStreamParameter& m, PerReader& r);
 void DecodeH235Media(H235Media& m, PerReader& r);
