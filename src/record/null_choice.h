@@ -38,7 +38,7 @@ struct NullChoice {
   }
 };
 
-// Of H.245, without an extension marker.
+// The same without an extension marker.
 template <class Names>
 struct RootNullChoice {
   uint8_t choiceTag;

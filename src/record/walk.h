@@ -26,7 +26,8 @@
 //   template <class L> void FixedOctetStrings(const char* name, L list, uint32_t size);
 //                                        strings of one fixed size whose length words are not kept
 //
-// A list is a ListIn<Element, Count>. Blocks belong to the record; a visitor that releases them does so
+// A list is a ListIn<Element, Count>. Where its elements are lists themselves, each is a record that tells
+// its own list under the empty name. Blocks belong to the record; a visitor that releases them does so
 // through the slots.
 #pragma once
 

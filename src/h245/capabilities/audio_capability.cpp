@@ -6,17 +6,6 @@
 namespace kelvra::h245 {
 namespace {
 
-void DecodeG723AnnexCAudioMode(G7231AnnexCCapability::G723AnnexCAudioMode& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.highRateMode0 = PerReadNumber<uint8_t>(r, 27, 78);
-  m.highRateMode1 = PerReadNumber<uint8_t>(r, 27, 78);
-  m.lowRateMode0 = PerReadNumber<uint8_t>(r, 23, 66);
-  m.lowRateMode1 = PerReadNumber<uint8_t>(r, 23, 66);
-  m.sidMode0 = PerReadNumber<uint8_t>(r, 6, 17);
-  m.sidMode1 = PerReadNumber<uint8_t>(r, 6, 17);
-  if (m.isExtended) PerSkipExtensionAdditions(r);
-}
-
 void DecodeG7231(AudioCapability::G7231& m, PerReader& r) {
   m.maxAlSduAudioFrames = PerReadNumber<uint16_t>(r, 1, 256);
   m.silenceSuppression = PerReadBit(r);
@@ -61,6 +50,17 @@ void DecodeIS13818AudioCapability(IS13818AudioCapability& m, PerReader& r) {
   m.lowFrequencyEnhancement = PerReadBit(r);
   m.multilingual = PerReadBit(r);
   m.bitRate = PerReadNumber<uint16_t>(r, 1, 1130);
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+}
+
+void DecodeG723AnnexCAudioMode(G7231AnnexCCapability::G723AnnexCAudioMode& m, PerReader& r) {
+  m.isExtended = PerReadBit(r);
+  m.highRateMode0 = PerReadNumber<uint8_t>(r, 27, 78);
+  m.highRateMode1 = PerReadNumber<uint8_t>(r, 27, 78);
+  m.lowRateMode0 = PerReadNumber<uint8_t>(r, 23, 66);
+  m.lowRateMode1 = PerReadNumber<uint8_t>(r, 23, 66);
+  m.sidMode0 = PerReadNumber<uint8_t>(r, 6, 17);
+  m.sidMode1 = PerReadNumber<uint8_t>(r, 6, 17);
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 

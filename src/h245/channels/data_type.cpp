@@ -38,14 +38,6 @@ void DecodeRtpRedundancyEncoding(RedundancyEncoding& m, PerReader& r) {
   if (rtp.isExtended) PerSkipExtensionAdditions(r);
 }
 
-void DecodeDifferentPort(FECData::Rfc2733::Mode::SeparateStream::DifferentPort& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasProtectedPayloadType = PerReadBit(r);
-  m.protectedSessionID = PerReadNumber<uint8_t>(r, 1, 255);
-  if (m.hasProtectedPayloadType) m.protectedPayloadType = PerReadNumber<uint8_t>(r, 0, 127);
-  if (m.isExtended) PerSkipExtensionAdditions(r);
-}
-
 void DecodeSamePort(FECData::Rfc2733::Mode::SeparateStream::SamePort& m, PerReader& r) {
   m.isExtended = PerReadBit(r);
   m.protectedPayloadType = PerReadNumber<uint8_t>(r, 0, 127);
@@ -152,17 +144,17 @@ void DecodeRedundancyEncoding(RedundancyEncoding& m, PerReader& r) {
   PerSkipOpenTypes(r, unknown);
 }
 
-void DecodeMultiplePayloadStreamElement(MultiplePayloadStreamElement& m, PerReader& r) {
+void DecodeMultiplePayloadStream(MultiplePayloadStream& m, PerReader& r) {
   m.isExtended = PerReadBit(r);
-  m.hasPayloadType = PerReadBit(r);
-  DecodePointer(KELVRA_SLOT(m.dataType), r, DecodeDataType);
-  if (m.hasPayloadType) m.payloadType = PerReadNumber<uint8_t>(r, 0, 127);
+  KELVRA_OR_STOP(DecodeSequenceOf(KELVRA_LIST(m.elements), r, DecodeRedundancyEncodingElement));
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
-void DecodeMultiplePayloadStream(MultiplePayloadStream& m, PerReader& r) {
+void DecodeDifferentPort(FECData::Rfc2733::Mode::SeparateStream::DifferentPort& m, PerReader& r) {
   m.isExtended = PerReadBit(r);
-  KELVRA_OR_STOP(DecodeSequenceOf(KELVRA_LIST(m.elements), r, DecodeMultiplePayloadStreamElement));
+  m.hasProtectedPayloadType = PerReadBit(r);
+  m.protectedSessionID = PerReadNumber<uint8_t>(r, 1, 255);
+  if (m.hasProtectedPayloadType) m.protectedPayloadType = PerReadNumber<uint8_t>(r, 0, 127);
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 

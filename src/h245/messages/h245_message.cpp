@@ -1,6 +1,9 @@
 #include "h245/channels/open_logical_channel_decode.h"
 #include "h245/decode.h"
+#include "h245/messages/communication_mode_decode.h"
 #include "h245/messages/h245_message_decode.h"
+#include "h245/messages/multiplex_entry_decode.h"
+#include "h245/modes/request_mode_decode.h"
 
 namespace kelvra::h245 {
 namespace {
@@ -9,18 +12,33 @@ void DecodeRequestMessage(H245ClassRecord<RequestMessageNames>& m, PerReader& r)
   const uint32_t index = ReadChoice(m, r, RequestMessageNames::kRoots);
   if (m.isExtension) return PerSkipOpenTypes(r, 1);
   if (index == kOpenLogicalChannelTag) DecodeOpenLogicalChannel(m.openLogicalChannel, r);
+  if (index == 6) DecodeMultiplexEntrySend(m.multiplexEntrySend, r);
+  if (index == 7) DecodeRequestMultiplexEntry(m.requestMultiplexEntry, r);
+  if (index == 8) DecodeRequestMode(m.requestMode, r);
 }
 
 void DecodeResponseMessage(H245ClassRecord<ResponseMessageNames>& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, ResponseMessageNames::kRoots);
+  if (m.isExtension && index == 0) return DecodeOpen(m.communicationModeResponse, r, DecodeCommunicationModeResponse);
   if (m.isExtension) return PerSkipOpenTypes(r, 1);
   if (index == kOpenLogicalChannelAckTag) DecodeOpenLogicalChannelAck(m.openLogicalChannelAck, r);
+  if (index == 10) DecodeMultiplexEntrySendAck(m.multiplexEntrySendAck, r);
+  if (index == 11) DecodeMultiplexEntrySendReject(m.multiplexEntrySendReject, r);
+  if (index == 12) DecodeRequestMultiplexEntry(m.requestMultiplexEntry, r);
+  if (index == 13) DecodeRequestMultiplexEntryReject(m.requestMultiplexEntryReject, r);
+  if (index == 14) DecodeRequestModeAck(m.requestModeAck, r);
+  if (index == 15) DecodeRequestModeReject(m.requestModeReject, r);
 }
 
-// A class of which no body is decoded.
 template <class Names>
 void DecodeClassTag(H245ClassRecord<Names>& m, PerReader& r) {
-  ReadChoice(m, r, Names::kRoots);
+  const uint32_t index = ReadChoice(m, r, Names::kRoots);
+  if (Names::kClass == kCommand && m.isExtension && index == 0)
+    return DecodeOpen(m.communicationModeCommand, r, DecodeCommunicationModeCommand);
+  if (Names::kClass == kIndication && !m.isExtension && index == 6)
+    return DecodeMultiplexEntrySendRelease(m.multiplexEntrySendRelease, r);
+  if (Names::kClass == kIndication && !m.isExtension && index == 7)
+    return DecodeRequestMultiplexEntry(m.requestMultiplexEntry, r);
   if (m.isExtension) PerSkipOpenTypes(r, 1);
 }
 

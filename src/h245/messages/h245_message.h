@@ -2,6 +2,9 @@
 #pragma once
 
 #include "../channels/open_logical_channel.h"
+#include "../modes/request_mode.h"
+#include "communication_mode.h"
+#include "multiplex_entry.h"
 
 namespace kelvra::h245 {
 
@@ -109,6 +112,17 @@ struct H245ClassRecord {
   union {
     OpenLogicalChannel openLogicalChannel;        // of a request
     OpenLogicalChannelAck openLogicalChannelAck;  // of a response
+    MultiplexEntrySend multiplexEntrySend;
+    MultiplexEntrySendAck multiplexEntrySendAck;
+    MultiplexEntrySendReject multiplexEntrySendReject;
+    MultiplexEntrySendRelease multiplexEntrySendRelease;
+    RequestMultiplexEntry requestMultiplexEntry;
+    RequestMultiplexEntryReject requestMultiplexEntryReject;
+    RequestMode requestMode;
+    RequestModeAck requestModeAck;
+    RequestModeReject requestModeReject;
+    CommunicationModeCommand communicationModeCommand;
+    CommunicationModeResponse communicationModeResponse;
     uint8_t reserved[1851];
   };
 
@@ -119,6 +133,22 @@ struct H245ClassRecord {
     }
     if (m.isExtension == 0 && Names::kClass == kResponse && m.choiceTag == kOpenLogicalChannelAckTag) {
       return v.Record("openLogicalChannelAck", m.openLogicalChannelAck);
+    }
+    switch (Names::kClass * 100U + m.isExtension * 50U + m.choiceTag) {
+      case 6: return v.Record("multiplexEntrySend", m.multiplexEntrySend);
+      case 7: return v.Record("requestMultiplexEntry", m.requestMultiplexEntry);
+      case 8: return v.Record("requestMode", m.requestMode);
+      case 110: return v.Record("multiplexEntrySendAck", m.multiplexEntrySendAck);
+      case 111: return v.Record("multiplexEntrySendReject", m.multiplexEntrySendReject);
+      case 112: return v.Record("requestMultiplexEntryAck", m.requestMultiplexEntry);
+      case 113: return v.Record("requestMultiplexEntryReject", m.requestMultiplexEntryReject);
+      case 114: return v.Record("requestModeAck", m.requestModeAck);
+      case 115: return v.Record("requestModeReject", m.requestModeReject);
+      case 150: return v.Record("communicationModeResponse", m.communicationModeResponse);
+      case 250: return v.Record("communicationModeCommand", m.communicationModeCommand);
+      case 306: return v.Record("multiplexEntrySendRelease", m.multiplexEntrySendRelease);
+      case 307: return v.Record("requestMultiplexEntryRelease", m.requestMultiplexEntry);
+      default: break;
     }
     WalkNullChoice<Names>(v, m.isExtension, m.choiceTag);
   }
