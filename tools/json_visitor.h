@@ -72,7 +72,7 @@ class JsonVisitor {
   Json Take() { return std::move(json_); }
 
  private:
-  void Put(const char* name, Json value) { json_[name] = std::move(value); }
+  void Put(const char* name, Json value) { (*name == '\0' ? json_ : json_[name]) = std::move(value); }
   void PutUnknown(const char* prefix, uint32_t index) { Put((prefix + std::to_string(index)).c_str(), nullptr); }
 
   template <class L, class Convert>

@@ -1,3 +1,4 @@
+#include "h245/capabilities/terminal_capability_set_decode.h"
 #include "h245/channels/open_logical_channel_decode.h"
 #include "h245/decode.h"
 #include "h245/messages/h245_message_decode.h"
@@ -9,12 +10,14 @@ void DecodeRequestMessage(H245ClassRecord<RequestMessageNames>& m, PerReader& r)
   const uint32_t index = ReadChoice(m, r, RequestMessageNames::kRoots);
   if (m.isExtension) return PerSkipOpenTypes(r, 1);
   if (index == kOpenLogicalChannelTag) DecodeOpenLogicalChannel(m.openLogicalChannel, r);
+  if (index == kTerminalCapabilitySetTag) DecodeTerminalCapabilitySet(m.terminalCapabilitySet, r);
 }
 
 void DecodeResponseMessage(H245ClassRecord<ResponseMessageNames>& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, ResponseMessageNames::kRoots);
   if (m.isExtension) return PerSkipOpenTypes(r, 1);
   if (index == kOpenLogicalChannelAckTag) DecodeOpenLogicalChannelAck(m.openLogicalChannelAck, r);
+  if (index == kTerminalCapabilitySetRejectTag) DecodeTerminalCapabilitySetReject(m.terminalCapabilitySetReject, r);
 }
 
 // A class of which no body is decoded.

@@ -1,6 +1,7 @@
 // MultimediaSystemControlMessage, the outermost record of the H.245 family.
 #pragma once
 
+#include "../capabilities/terminal_capability_set.h"
 #include "../channels/open_logical_channel.h"
 
 namespace kelvra::h245 {
@@ -95,8 +96,10 @@ struct IndicationMessageNames {
                                                   "genericIndication"};
 };
 
-inline constexpr uint32_t kOpenLogicalChannelTag = 3;     // root alternative of RequestMessage
-inline constexpr uint32_t kOpenLogicalChannelAckTag = 5;  // root alternative of ResponseMessage
+inline constexpr uint32_t kTerminalCapabilitySetTag = 2;        // root alternative of RequestMessage
+inline constexpr uint32_t kTerminalCapabilitySetRejectTag = 4;  // root alternative of ResponseMessage
+inline constexpr uint32_t kOpenLogicalChannelTag = 3;           // root alternative of RequestMessage
+inline constexpr uint32_t kOpenLogicalChannelAckTag = 5;        // root alternative of ResponseMessage
 
 #pragma pack(push, 1)
 
@@ -107,8 +110,10 @@ struct H245ClassRecord {
   uint32_t isExtension;
   uint8_t choiceTag;
   union {
-    OpenLogicalChannel openLogicalChannel;        // of a request
-    OpenLogicalChannelAck openLogicalChannelAck;  // of a response
+    TerminalCapabilitySet terminalCapabilitySet;              // of a request
+    TerminalCapabilitySetReject terminalCapabilitySetReject;  // of a response
+    OpenLogicalChannel openLogicalChannel;                    // of a request
+    OpenLogicalChannelAck openLogicalChannelAck;              // of a response
     uint8_t reserved[1851];
   };
 
@@ -119,6 +124,12 @@ struct H245ClassRecord {
     }
     if (m.isExtension == 0 && Names::kClass == kResponse && m.choiceTag == kOpenLogicalChannelAckTag) {
       return v.Record("openLogicalChannelAck", m.openLogicalChannelAck);
+    }
+    if (m.isExtension == 0 && Names::kClass == kRequest && m.choiceTag == kTerminalCapabilitySetTag) {
+      return v.Record("terminalCapabilitySet", m.terminalCapabilitySet);
+    }
+    if (m.isExtension == 0 && Names::kClass == kResponse && m.choiceTag == kTerminalCapabilitySetRejectTag) {
+      return v.Record("terminalCapabilitySetReject", m.terminalCapabilitySetReject);
     }
     WalkNullChoice<Names>(v, m.isExtension, m.choiceTag);
   }
