@@ -109,16 +109,29 @@ static_assert(Occupies<h235::SIGNED>(60));
 static_assert(Occupies<h235::TypedCertificate>(20));
 
 static_assert(Occupies<h245::ATMParameters>(26));
+static_assert(Occupies<h245::AlternativeCapabilitySet>(6));
 static_assert(Occupies<h245::AudioCapability>(98));
+<<<<<<< HEAD
 static_assert(Occupies<h245::AudioMode>(98));
+=======
+static_assert(Occupies<h245::AudioTelephonyEventCapability>(13));
+static_assert(Occupies<h245::AudioToneCapability>(5));
+>>>>>>> 6b26ee3fa1d534b8b87b8c92e29b63b702dd19a8
 static_assert(Occupies<h245::AuthenticationCapability>(37));
 static_assert(Occupies<h245::BEnhancementParameters>(367));
 static_assert(Occupies<h245::CRCLength>(6));
+static_assert(Occupies<h245::Capability>(437));
+static_assert(Occupies<h245::CapabilityDescriptor>(11));
 static_assert(Occupies<h245::CapabilityIdentifier>(22));
+<<<<<<< HEAD
 static_assert(Occupies<h245::CommunicationModeCommand>(10));
 static_assert(Occupies<h245::CommunicationModeResponse>(11));
 static_assert(Occupies<h245::CommunicationModeTableEntry>(672));
+=======
+static_assert(Occupies<h245::CapabilityTableEntry>(443));
+>>>>>>> 6b26ee3fa1d534b8b87b8c92e29b63b702dd19a8
 static_assert(Occupies<h245::CompressionType>(15));
+static_assert(Occupies<h245::ConferenceCapability>(33));
 static_assert(Occupies<h245::CustomPictureClockFrequency>(37));
 static_assert(Occupies<h245::CustomPictureFormat>(41));
 static_assert(Occupies<h245::DataApplicationCapability>(119));
@@ -132,6 +145,7 @@ static_assert(Occupies<h245::EnhancementLayerInfo>(35));
 static_assert(Occupies<h245::EnhancementOptions>(362));
 static_assert(Occupies<h245::EscrowData>(20));
 static_assert(Occupies<h245::ExtendedVideoCapability>(18));
+static_assert(Occupies<h245::FECCapability>(25));
 static_assert(Occupies<h245::FECData>(25));
 static_assert(Occupies<h245::FECMode>(29));
 static_assert(Occupies<h245::G7231AnnexCCapability>(24));
@@ -149,12 +163,20 @@ static_assert(Occupies<h245::H223AnnexCArqParameters>(14));
 static_assert(Occupies<h245::H223AnnexCCapability>(58));
 static_assert(Occupies<h245::H223Capability>(181));
 static_assert(Occupies<h245::H223LogicalChannelParameters>(68));
+<<<<<<< HEAD
 static_assert(Occupies<h245::H223ModeParameters>(68));
+=======
+static_assert(Occupies<h245::H2250Capability>(166));
+>>>>>>> 6b26ee3fa1d534b8b87b8c92e29b63b702dd19a8
 static_assert(Occupies<h245::H2250LogicalChannelAckParameters>(121));
 static_assert(Occupies<h245::H2250LogicalChannelParameters>(294));
 static_assert(Occupies<h245::H2250ModeParameters>(152));
 static_assert(Occupies<h245::H235Media>(525));
+<<<<<<< HEAD
 static_assert(Occupies<h245::H235Mode>(456));
+=======
+static_assert(Occupies<h245::H235SecurityCapability>(90));
+>>>>>>> 6b26ee3fa1d534b8b87b8c92e29b63b702dd19a8
 static_assert(Occupies<h245::H245MessageRecord>(1861));
 static_assert(Occupies<h245::H261VideoCapability>(32));
 static_assert(Occupies<h245::H261VideoMode>(12));
@@ -174,14 +196,18 @@ static_assert(Occupies<h245::IS13818AudioCapability>(86));
 static_assert(Occupies<h245::IS13818AudioMode>(20));
 static_assert(Occupies<h245::IntegrityCapability>(25));
 static_assert(Occupies<h245::MediaChannelCapability>(21));
+static_assert(Occupies<h245::MediaDistributionCapability>(46));
 static_assert(Occupies<h245::MediaEncryptionAlgorithm>(22));
+static_assert(Occupies<h245::MediaPacketizationCapability>(18));
 static_assert(Occupies<h245::MediaTransportType>(13));
 static_assert(Occupies<h245::ModeDescription>(6));
 static_assert(Occupies<h245::ModeElement>(867));
 static_assert(Occupies<h245::ModeElementType>(512));
 static_assert(Occupies<h245::MulticastAddress>(22));
 static_assert(Occupies<h245::MultiplePayloadStream>(9));
+static_assert(Occupies<h245::MultiplePayloadStreamCapability>(10));
 static_assert(Occupies<h245::MultiplePayloadStreamElement>(13));
+<<<<<<< HEAD
 static_assert(Occupies<h245::MultiplePayloadStreamElementMode>(516));
 static_assert(Occupies<h245::MultiplePayloadStreamMode>(9));
 static_assert(Occupies<h245::MultiplexElement>(9));
@@ -193,7 +219,13 @@ static_assert(Occupies<h245::MultiplexEntrySendReject>(10));
 static_assert(Occupies<h245::MultiplexEntrySendRelease>(9));
 static_assert(Occupies<h245::MultiplexFormat>(186));
 static_assert(Occupies<h245::MultiplexedStreamModeParameters>(6));
+=======
+static_assert(Occupies<h245::MultiplexCapability>(186));
+static_assert(Occupies<h245::MultiplexFormat>(186));
+static_assert(Occupies<h245::MultiplexedStreamCapability>(204));
+>>>>>>> 6b26ee3fa1d534b8b87b8c92e29b63b702dd19a8
 static_assert(Occupies<h245::MultiplexedStreamParameter>(194));
+static_assert(Occupies<h245::MultipointCapability>(17));
 static_assert(Occupies<h245::NetworkAccessParameters>(83));
 static_assert(Occupies<h245::NonStandardParameter>(17));
 static_assert(Occupies<h245::OpenLogicalChannel>(1845));
@@ -205,9 +237,14 @@ static_assert(Occupies<h245::QOSMode>(6));
 static_assert(Occupies<h245::RSVPParameters>(54));
 static_assert(Occupies<h245::RTPH263VideoRedundancyEncoding>(28));
 static_assert(Occupies<h245::RTPH263VideoRedundancyFrameMapping>(11));
+static_assert(Occupies<h245::RTPPayloadType>(31));
 static_assert(Occupies<h245::RedundancyEncoding>(79));
+<<<<<<< HEAD
 static_assert(Occupies<h245::RedundancyEncodingDTMode>(507));
 static_assert(Occupies<h245::RedundancyEncodingDTModeElement>(465));
+=======
+static_assert(Occupies<h245::RedundancyEncodingCapability>(49));
+>>>>>>> 6b26ee3fa1d534b8b87b8c92e29b63b702dd19a8
 static_assert(Occupies<h245::RedundancyEncodingElement>(13));
 static_assert(Occupies<h245::RedundancyEncodingMethod>(33));
 static_assert(Occupies<h245::RedundancyEncodingMode>(144));
@@ -223,12 +260,17 @@ static_assert(Occupies<h245::T38FaxRateManagement>(6));
 static_assert(Occupies<h245::T38FaxTcpOptions>(8));
 static_assert(Occupies<h245::T38FaxUdpOptions>(22));
 static_assert(Occupies<h245::T84Profile>(81));
+static_assert(Occupies<h245::TerminalCapabilitySet>(223));
+static_assert(Occupies<h245::TerminalCapabilitySetReject>(13));
 static_assert(Occupies<h245::TerminalLabel>(6));
 static_assert(Occupies<h245::TransparencyParameters>(16));
 static_assert(Occupies<h245::TransportAddress>(38));
 static_assert(Occupies<h245::TransportCapability>(45));
+static_assert(Occupies<h245::UserInputCapability>(10));
 static_assert(Occupies<h245::V42bis>(10));
+static_assert(Occupies<h245::V75Capability>(8));
 static_assert(Occupies<h245::V75Parameters>(8));
+static_assert(Occupies<h245::V76Capability>(61));
 static_assert(Occupies<h245::V76HDLCParameters>(16));
 static_assert(Occupies<h245::V76LogicalChannelParameters>(54));
 static_assert(Occupies<h245::V76ModeParameters>(6));

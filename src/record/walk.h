@@ -38,6 +38,9 @@
 
 namespace kelvra {
 
+// The name of a value that is all there is of its record, as where each element of a list is a list.
+inline constexpr const char* kUnnamed = "";
+
 // How the octets of a string are to be read by a person.
 enum class OctetNotation : uint8_t {
   kOctets,      // OCTET STRING, or an open type kept whole
