@@ -72,14 +72,10 @@ class JsonVisitor {
   Json Take() { return std::move(json_); }
 
  private:
-<<<<<<< HEAD
   void Put(const char* name, Json value) {
     const bool isWhole = *name == '\0';
     (isWhole ? json_ : json_[name]) = std::move(value);
   }
-=======
-  void Put(const char* name, Json value) { (*name == '\0' ? json_ : json_[name]) = std::move(value); }
->>>>>>> 6b26ee3fa1d534b8b87b8c92e29b63b702dd19a8
   void PutUnknown(const char* prefix, uint32_t index) { Put((prefix + std::to_string(index)).c_str(), nullptr); }
 
   template <class L, class Convert>

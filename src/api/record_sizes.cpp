@@ -111,25 +111,19 @@ static_assert(Occupies<h235::TypedCertificate>(20));
 static_assert(Occupies<h245::ATMParameters>(26));
 static_assert(Occupies<h245::AlternativeCapabilitySet>(6));
 static_assert(Occupies<h245::AudioCapability>(98));
-<<<<<<< HEAD
 static_assert(Occupies<h245::AudioMode>(98));
-=======
 static_assert(Occupies<h245::AudioTelephonyEventCapability>(13));
 static_assert(Occupies<h245::AudioToneCapability>(5));
->>>>>>> 6b26ee3fa1d534b8b87b8c92e29b63b702dd19a8
 static_assert(Occupies<h245::AuthenticationCapability>(37));
 static_assert(Occupies<h245::BEnhancementParameters>(367));
 static_assert(Occupies<h245::CRCLength>(6));
 static_assert(Occupies<h245::Capability>(437));
 static_assert(Occupies<h245::CapabilityDescriptor>(11));
 static_assert(Occupies<h245::CapabilityIdentifier>(22));
-<<<<<<< HEAD
+static_assert(Occupies<h245::CapabilityTableEntry>(443));
 static_assert(Occupies<h245::CommunicationModeCommand>(10));
 static_assert(Occupies<h245::CommunicationModeResponse>(11));
 static_assert(Occupies<h245::CommunicationModeTableEntry>(672));
-=======
-static_assert(Occupies<h245::CapabilityTableEntry>(443));
->>>>>>> 6b26ee3fa1d534b8b87b8c92e29b63b702dd19a8
 static_assert(Occupies<h245::CompressionType>(15));
 static_assert(Occupies<h245::ConferenceCapability>(33));
 static_assert(Occupies<h245::CustomPictureClockFrequency>(37));
@@ -163,20 +157,14 @@ static_assert(Occupies<h245::H223AnnexCArqParameters>(14));
 static_assert(Occupies<h245::H223AnnexCCapability>(58));
 static_assert(Occupies<h245::H223Capability>(181));
 static_assert(Occupies<h245::H223LogicalChannelParameters>(68));
-<<<<<<< HEAD
 static_assert(Occupies<h245::H223ModeParameters>(68));
-=======
 static_assert(Occupies<h245::H2250Capability>(166));
->>>>>>> 6b26ee3fa1d534b8b87b8c92e29b63b702dd19a8
 static_assert(Occupies<h245::H2250LogicalChannelAckParameters>(121));
 static_assert(Occupies<h245::H2250LogicalChannelParameters>(294));
 static_assert(Occupies<h245::H2250ModeParameters>(152));
 static_assert(Occupies<h245::H235Media>(525));
-<<<<<<< HEAD
 static_assert(Occupies<h245::H235Mode>(456));
-=======
 static_assert(Occupies<h245::H235SecurityCapability>(90));
->>>>>>> 6b26ee3fa1d534b8b87b8c92e29b63b702dd19a8
 static_assert(Occupies<h245::H245MessageRecord>(1861));
 static_assert(Occupies<h245::H261VideoCapability>(32));
 static_assert(Occupies<h245::H261VideoMode>(12));
@@ -207,9 +195,9 @@ static_assert(Occupies<h245::MulticastAddress>(22));
 static_assert(Occupies<h245::MultiplePayloadStream>(9));
 static_assert(Occupies<h245::MultiplePayloadStreamCapability>(10));
 static_assert(Occupies<h245::MultiplePayloadStreamElement>(13));
-<<<<<<< HEAD
 static_assert(Occupies<h245::MultiplePayloadStreamElementMode>(516));
 static_assert(Occupies<h245::MultiplePayloadStreamMode>(9));
+static_assert(Occupies<h245::MultiplexCapability>(186));
 static_assert(Occupies<h245::MultiplexElement>(9));
 static_assert(Occupies<h245::MultiplexEntryDescriptor>(11));
 static_assert(Occupies<h245::MultiplexEntryRejectionDescriptions>(11));
@@ -218,12 +206,8 @@ static_assert(Occupies<h245::MultiplexEntrySendAck>(10));
 static_assert(Occupies<h245::MultiplexEntrySendReject>(10));
 static_assert(Occupies<h245::MultiplexEntrySendRelease>(9));
 static_assert(Occupies<h245::MultiplexFormat>(186));
-static_assert(Occupies<h245::MultiplexedStreamModeParameters>(6));
-=======
-static_assert(Occupies<h245::MultiplexCapability>(186));
-static_assert(Occupies<h245::MultiplexFormat>(186));
 static_assert(Occupies<h245::MultiplexedStreamCapability>(204));
->>>>>>> 6b26ee3fa1d534b8b87b8c92e29b63b702dd19a8
+static_assert(Occupies<h245::MultiplexedStreamModeParameters>(6));
 static_assert(Occupies<h245::MultiplexedStreamParameter>(194));
 static_assert(Occupies<h245::MultipointCapability>(17));
 static_assert(Occupies<h245::NetworkAccessParameters>(83));
@@ -239,12 +223,9 @@ static_assert(Occupies<h245::RTPH263VideoRedundancyEncoding>(28));
 static_assert(Occupies<h245::RTPH263VideoRedundancyFrameMapping>(11));
 static_assert(Occupies<h245::RTPPayloadType>(31));
 static_assert(Occupies<h245::RedundancyEncoding>(79));
-<<<<<<< HEAD
+static_assert(Occupies<h245::RedundancyEncodingCapability>(49));
 static_assert(Occupies<h245::RedundancyEncodingDTMode>(507));
 static_assert(Occupies<h245::RedundancyEncodingDTModeElement>(465));
-=======
-static_assert(Occupies<h245::RedundancyEncodingCapability>(49));
->>>>>>> 6b26ee3fa1d534b8b87b8c92e29b63b702dd19a8
 static_assert(Occupies<h245::RedundancyEncodingElement>(13));
 static_assert(Occupies<h245::RedundancyEncodingMethod>(33));
 static_assert(Occupies<h245::RedundancyEncodingMode>(144));

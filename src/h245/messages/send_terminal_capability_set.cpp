@@ -13,8 +13,8 @@ void DecodeSpecificRequest(SendTerminalCapabilitySet::SpecificRequest& m, PerRea
     KELVRA_OR_STOP(DecodeSizedSequenceOf(KELVRA_LIST(m.capabilityTableEntryNumbers), r, 1, 65535,
                                          PerReadElement<uint16_t, 1, 65535>));
   if (m.hasCapabilityDescriptorNumbers)
-    KELVRA_OR_STOP(DecodeSizedSequenceOf(KELVRA_LIST(m.capabilityDescriptorNumbers), r, 1, 256,
-                                         PerReadElement<uint8_t, 0, 255>));
+    KELVRA_OR_STOP(
+        DecodeSizedSequenceOf(KELVRA_LIST(m.capabilityDescriptorNumbers), r, 1, 256, PerReadElement<uint8_t, 0, 255>));
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
