@@ -285,4 +285,14 @@ Status DecodeOpenSequenceOf(List list, PerReader& r,
   return kDecoded;
 }
 
+// SEQUENCE SIZE (low..high) OF in an open type.
+template <class List, class Returned>
+Status DecodeOpenSizedSequenceOf(List list, PerReader& r, uint32_t low, uint32_t high,
+                                 Returned (*decode)(std::type_identity_t<typename List::Element>&, PerReader&)) {
+  OpenTypeBegin(r);
+  KELVRA_TRY(DecodeSizedSequenceOf(list, r, low, high, decode));
+  OpenTypeEnd(r);
+  return kDecoded;
+}
+
 }  // namespace kelvra

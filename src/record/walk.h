@@ -27,7 +27,7 @@
 //                                        strings of one fixed size whose length words are not kept
 //
 // A list is a ListIn<Element, Count>. Where its elements are lists themselves, each is a record that tells
-// its own list under the empty name. Blocks belong to the record; a visitor that releases them does so
+// its own list as kUnnamed. Blocks belong to the record; a visitor that releases them does so
 // through the slots.
 #pragma once
 
@@ -39,6 +39,9 @@
 #include "values.h"
 
 namespace kelvra {
+
+// The name of a value that is all there is of its record, as where each element of a list is a list.
+inline constexpr const char* kUnnamed = "";
 
 // How the octets of a string are to be read by a person.
 enum class OctetNotation : uint8_t {

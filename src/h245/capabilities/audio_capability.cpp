@@ -95,6 +95,19 @@ void DecodeG729Extensions(G729Extensions& m, PerReader& r) {
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
+void DecodeAudioTelephonyEventCapability(AudioTelephonyEventCapability& m, PerReader& r) {
+  m.isExtended = PerReadBit(r);
+  m.dynamicRTPPayloadType = PerReadNumber<uint8_t>(r, 96, 127);
+  PerReadAnnouncedOctetString(m.audioTelephoneEvent, r);
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+}
+
+void DecodeAudioToneCapability(AudioToneCapability& m, PerReader& r) {
+  m.isExtended = PerReadBit(r);
+  m.dynamicRTPPayloadType = PerReadNumber<uint8_t>(r, 96, 127);
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+}
+
 void DecodeAudioCapability(AudioCapability& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 14);
   if (m.isExtension) {

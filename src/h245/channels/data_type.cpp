@@ -1,7 +1,7 @@
 #include "h245/capabilities/audio_capability_decode.h"
 #include "h245/capabilities/data_application_decode.h"
 #include "h245/capabilities/encryption_decode.h"
-#include "h245/capabilities/multiplex_capability_decode.h"
+#include "h245/capabilities/multiplex_format_decode.h"
 #include "h245/capabilities/video_capability_decode.h"
 #include "h245/channels/data_type_decode.h"
 #include "h245/common/non_standard_decode.h"

@@ -6,7 +6,7 @@
 #include "../capabilities/audio_capability.h"
 #include "../capabilities/data_application.h"
 #include "../capabilities/encryption.h"
-#include "../capabilities/multiplex_capability.h"
+#include "../capabilities/multiplex_format.h"
 #include "../capabilities/video_capability.h"
 
 namespace kelvra::h245 {

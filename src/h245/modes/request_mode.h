@@ -15,7 +15,7 @@ struct ModeDescription {
 
   template <class Record, class Visitor>
   static void Walk(Record& m, Visitor& v) {
-    v.List("", ListOf(m));
+    v.List(kUnnamed, ListOf(m));
   }
 };
 
