@@ -26,10 +26,21 @@ class DetailList {
 
 std::string Quoted(const Json& value) { return Concat({"\"", value.get_ref<const std::string&>(), "\""}); }
 
-// A number, a string, an address, or which alternative was chosen.
+// The digits of an alias that is a PartyNumber.
+std::string PartyDigits(const Json& alias) {
+  const Json& number = Chosen(Find(alias, {"partyNumber"}));
+  for (const Json* digits : {&number, &Find(number, {"publicNumberDigits"}), &Find(number, {"privateNumberDigits"})}) {
+    if (digits->is_string()) return Quoted(*digits);
+  }
+  return {};
+}
+
+// A number, a string, yes or no, an address, or which alternative was chosen.
 std::string ValueText(const Json& value) {
   if (value.is_string()) return Quoted(value);
   if (value.is_number()) return value.dump();
+  if (value.is_boolean()) return value.get<bool>() ? "yes" : "no";
+  if (std::string digits = PartyDigits(value); !digits.empty()) return digits;
   if (const auto endpoint = ToEndpoint(value)) return ToText(*endpoint);
   const Json& chosen = Chosen(value);
   return chosen.is_string() ? Quoted(chosen) : Alternative(value);
@@ -80,15 +91,35 @@ std::string MediaText(const Json& json) {
   return Joined(media, ", ");
 }
 
+// The call that a message, or a part of it, is about. Bandwidth is in units of 100 bit/s.
+void AddCall(const Json& call, DetailList& details) {
+  details.Add("crv", FirstOf(call, {"callReferenceValue"}));
+  details.Add("call", FirstOf(Find(call, {"callIdentifier"}), {"guid"}));
+  details.Add("answer", FirstOf(call, {"answerCall", "answeredCall"}));
+  details.Add("bandwidth", FirstOf(call, {"bandWidth", "allowedBandWidth"}));
+}
+
 void AddRas(const Json& message, DetailList& details) {
   const Json& body = Chosen(message);
   details.Add("seq", FirstOf(body, {"requestSeqNum"}));
-  details.Add("reason", FirstOf(body, {"rejectReason", "nakReason", "disengageReason", "unregReason", "reason"}));
+  details.Add("reason", FirstOf(body, {"rejectReason", "nakReason", "disengageReason", "reason"}));
+  details.Add("cause", FirstOf(Find(body, {"terminationCause"}), {"releaseCompleteReason", "releaseCompleteCauseIE"}));
+  details.Add("result", FirstOf(body, {"result"}));
   details.Add("gk", FirstOf(body, {"gatekeeperIdentifier"}));
-  details.Add("alias", FirstOf(body, {"endpointAlias", "terminalAlias", "srcInfo", "sourceInfo"}));
-  details.Add("to", FirstOf(body, {"destinationInfo"}));
-  details.Add("at", FirstOf(body, {"destCallSignalAddress", "callSignalAddress", "rasAddress"}));
   details.Add("endpoint", FirstOf(body, {"endpointIdentifier"}));
+  details.Add("alias", FirstOf(body, {"endpointAlias", "terminalAlias", "srcInfo", "sourceInfo"}));
+  details.Add("alias", FirstOf(Find(body, {"rejectReason"}), {"duplicateAlias"}));
+  details.Add("from", FirstOf(body, {"srcCallSignalAddress"}));
+  details.Add("to", FirstOf(body, {"destinationInfo"}));
+  details.Add("at", FirstOf(body, {"destCallSignalAddress", "callSignalAddress"}));
+  details.Add("ras", FirstOf(body, {"rasAddress", "replyAddress"}));
+  details.Add("ttl", FirstOf(body, {"timeToLive"}));
+  details.Add("keepAlive", FirstOf(body, {"keepAlive"}));
+  details.Add("delay", FirstOf(body, {"delay"}));
+  details.Add("almostOut", FirstOf(body, {"almostOutOfResources"}));
+  AddCall(body, details);
+  AddCall(Find(body, {"callSpecific"}), details);
+  for (const Json& call : Find(body, {"perCallInfo"})) AddCall(call, details);
 }
 
 // Q.850's number, without the extension bit of the octet that holds it.
