@@ -117,8 +117,6 @@ TEST(InfoRequestResponseTest, ReportedSetupSetsTheVersionMode) {
     int32_t mode;
   } kCases[] = {{2, 0}, {3, 1}, {4, 2}};
   for (const auto& c : kCases) {
-    BitWriter setup;
-    setup.Bit(false).Bits(0, 7).OpenType(test::ProtocolIdentifier(c.version));
     BitWriter pdus;
     pdus.Length(1).Bits(0, 2).Bits(0, 4).Bit(false).Bits(0, 7).OpenType(test::ProtocolIdentifier(c.version));
     test::EmptyEndpointType(pdus).Bit(true).Octets(Rising(0x60, 16)).Bits(0, 3).Bits(0, 3).Bit(true);

@@ -4,6 +4,7 @@
 #include <stdint.h>
 
 #include "../common/crypto_tokens.h"
+#include "../common/generic_data.h"
 #include "../common/identifiers.h"
 #include "../common/services.h"
 
