@@ -15,10 +15,14 @@ void* CodecAlloc(size_t size);
 // a diagnosing double who released the block; they have no other use.
 void CodecFree(void* slot, const char* sourcePath, int line);
 
-// Copies `count` octets; the areas must not overlap.
-void CodecCopy(void* destination, const void* source, size_t count);
+// Copies `count` octets; the areas must not overlap, and may be null where there are none.
+inline void CodecCopy(void* destination, const void* source, size_t count) {
+  if (count != 0) __builtin_memcpy(destination, source, count);
+}
 
-// Stores `value` into `count` octets and returns the destination.
-void* CodecFill(void* destination, uint8_t value, size_t count);
+// Stores `value` into `count` octets and returns the destination, which may be null where there are none.
+inline void* CodecFill(void* destination, uint8_t value, size_t count) {
+  return count == 0 ? destination : __builtin_memset(destination, value, count);
+}
 
 }  // namespace kelvra

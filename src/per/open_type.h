@@ -3,19 +3,38 @@
 
 #include <stdint.h>
 
+#include "per/primitives.h"
 #include "per/reader.h"
 
 namespace kelvra {
 
 // Enters an open type: its length and the place of its first octet go into the next slot of the ring.
-void OpenTypeBegin(PerReader& reader);
+inline void OpenTypeBegin(PerReader& reader) {
+  PerAlign(reader);
+  OpenTypeRing& ring = reader.openTypes;
+  ring.index = ring.index == kOpenTypeLevels - 1 ? 0 : ring.index + 1;
+  ring.lengths[ring.index] = PerReadLength(reader);
+  ring.starts[ring.index] = reader.position;
+}
+
 // Leaves the innermost open type: the reader resumes behind it, whatever was consumed.
-void OpenTypeEnd(PerReader& reader);
+inline void OpenTypeEnd(PerReader& reader) {
+  if (reader.position <= reader.end) reader.bitOffset = 0;
+  OpenTypeRing& ring = reader.openTypes;
+  reader.position = PerAdvance(ring.starts[ring.index], ring.lengths[ring.index]);
+  ring.index = ring.index == 0 ? kOpenTypeLevels - 1 : ring.index - 1;
+}
+
 // Passes over `count` open types. A length past the end leaves the reader beyond it.
 void PerSkipOpenTypes(PerReader& reader, int32_t count);
 
 // A BOOLEAN in its open type.
-uint32_t PerReadOpenBoolean(PerReader& reader);
+inline uint32_t PerReadOpenBoolean(PerReader& reader) {
+  OpenTypeBegin(reader);
+  const uint32_t value = PerReadBit(reader);
+  OpenTypeEnd(reader);
+  return value;
+}
 
 // The additions of a SEQUENCE, of which a decoder knows the first few:
 //
@@ -26,10 +45,16 @@ uint32_t PerReadOpenBoolean(PerReader& reader);
 //   PerSkipUnknownAdditions(r);
 
 // How many presence bits the bitmap holds, 1 or more in a lawful message.
-int32_t PerReadBitmapLength(PerReader& reader);
+inline int32_t PerReadBitmapLength(PerReader& reader) { return static_cast<int32_t>(PerReadNormallySmall(reader) + 1); }
+
 // The presence bit of the next known addition, absent where the bitmap holds no more. `additions` counts
 // down the bits that are left: what is left behind the known ones is by construction unknown.
-uint32_t PerReadAdditionBit(PerReader& reader, int32_t& additions);
+inline uint32_t PerReadAdditionBit(PerReader& reader, int32_t& additions) {
+  if (additions <= 0) return 0;
+  --additions;
+  return PerReadBit(reader);
+}
+
 // Reads the bits that are left and returns how many of them are set.
 int32_t PerCountUnknownAdditions(PerReader& reader, int32_t additions);
 // The same, kept in the counter that all SEQUENCEs of the message share.

@@ -8,25 +8,54 @@ namespace {
 
 enum RefusalLine : int32_t { kBlockRefused = 192, kFragmented = 275 };
 
+uint32_t Minimum(uint32_t a, uint32_t b) { return a < b ? a : b; }
+
+uint64_t LoadWord(const uint8_t* octets) {
+  uint64_t word = 0;
+  __builtin_memcpy(&word, octets, sizeof word);
+  return word;
+}
+
+// Copies 1 or more octets. Most strings are short, and a call for each costs more than its octets.
+void CopyString(uint8_t* to, const uint8_t* from, uint32_t count) {
+  if (count > 16) {
+    CodecCopy(to, from, count);
+  } else if (count >= 8) {
+    const uint64_t last = LoadWord(from + count - 8);
+    const uint64_t first = LoadWord(from);
+    __builtin_memcpy(to, &first, sizeof first);
+    __builtin_memcpy(to + count - 8, &last, sizeof last);
+  } else {
+    for (uint32_t i = 0; i < count; ++i) to[i] = from[i];
+  }
+}
+
 // Copies the next `count` octets of an aligned reader, those outside the caller's buffer as zero.
 void TakeOctets(PerReader& reader, uint8_t* octets, uint32_t count) {
+  if (count != 0 && count <= PerOctetsInside(reader)) [[likely]] {
+    CopyString(octets, reader.position, count);
+    reader.position += count;
+    return;
+  }
   const auto readable =
       reader.position >= reader.readable ? 0 : static_cast<uint32_t>(reader.readable - reader.position);
-  CodecCopy(octets, reader.position, count < readable ? count : readable);
+  CodecCopy(octets, reader.position, Minimum(count, readable));
   PerSkipBits(reader, count * 8);
 }
 
-uint32_t Minimum(uint32_t a, uint32_t b) { return a < b ? a : b; }
-
-// `count` characters of `width` bits, each mapped before it is stored. Characters that the input does
+// `count` characters of kWidth bits, each mapped before it is stored. Characters that the input does
 // not reach stay 0.
-template <class Character, class Map>
-Character* ReadCharacters(PerReader& reader, uint32_t count, uint32_t width, Map map) {
+template <class Character, uint32_t kWidth, class Map>
+Character* ReadCharacters(PerReader& reader, uint32_t count, Map map) {
   auto* characters = static_cast<Character*>(PerAllocate(reader, uint64_t{count} * sizeof(Character)));
   if (characters == nullptr) return nullptr;
   PerAlign(reader);
-  for (uint32_t i = 0; i < count && !PerAtEnd(reader); ++i) {
-    characters[i] = static_cast<Character>(map(PerReadBits(reader, width)));
+  uint32_t done = 0;
+  for (; done < count && PerHasWindow(reader); ++done) {
+    characters[done] = static_cast<Character>(map(PerTakeBits(reader, kWidth)));
+  }
+  for (; done < count && !PerAtEnd(reader); ++done) {
+    characters[done] = static_cast<Character>(map(PerReadBitsAtEdge(reader, kWidth)));
   }
   return characters;
 }
@@ -38,7 +67,7 @@ uint8_t* ReadNibbleString(PerReader& reader, uint32_t count, Map map) {
     PerMoveToEnd(reader);
     return nullptr;
   }
-  return ReadCharacters<uint8_t>(reader, count, 4, map);
+  return ReadCharacters<uint8_t, 4>(reader, count, map);
 }
 
 uint32_t PrintableCharacter(uint32_t index) {
@@ -48,21 +77,32 @@ uint32_t PrintableCharacter(uint32_t index) {
   return static_cast<uint8_t>(" '()+,-./0123456789:=?"[index < 22 ? index : 0]);
 }
 
-}  // namespace
-
-void* PerAllocate(PerReader& reader, uint64_t size) {
-  void* block = nullptr;
-  if (size <= kMaximumMessageMemory - reader.allocated) block = CodecAlloc(static_cast<size_t>(size));
-  if (block == nullptr) {
-    CodecTrace(kTraceDecoder, kTraceError, kReasonAllocation, kSourceStrings, kBlockRefused);
-    PerMoveToEnd(reader);
-    return nullptr;
-  }
-  reader.allocated += static_cast<uint32_t>(size);
-  return block;
+// The subidentifier at `octets`, whose last octet is there.
+uint32_t TakeSubidentifier(const uint8_t*& octets) {
+  uint32_t value = 0;
+  uint32_t octet = 0;
+  do {
+    octet = *octets++;
+    value = value << 7 | (octet & 0x7F);
+  } while ((octet & 0x80) != 0);
+  return value;
 }
 
-uint32_t PerReadConstrainedWholeNumber(PerReader& reader, uint32_t range) {
+// How many of `count` octets end a subidentifier.
+uint32_t CountSubidentifiers(const uint8_t* octets, uint32_t count) {
+  uint32_t subidentifiers = 0;
+  for (uint32_t i = 0; i < count; ++i) subidentifiers += octets[i] < 0x80;
+  return subidentifiers;
+}
+
+}  // namespace
+
+void PerRefuseBlock(PerReader& reader) {
+  CodecTrace(kTraceDecoder, kTraceError, kReasonAllocation, kSourceStrings, kBlockRefused);
+  PerMoveToEnd(reader);
+}
+
+uint32_t PerReadConstrainedWholeNumberAtEdge(PerReader& reader, uint32_t range) {
   if (PerAtEnd(reader) || range < 2) return 0;
   if (range < 256) return PerReadBits(reader, 32 - static_cast<uint32_t>(__builtin_clz(range - 1)));
   if (range <= 65536) {
@@ -71,12 +111,11 @@ uint32_t PerReadConstrainedWholeNumber(PerReader& reader, uint32_t range) {
   }
   const uint32_t octets = PerReadBits(reader, 2) + 1;
   PerAlign(reader);
-  // A fourth octet cannot occur in a range of three; the number reads as 0 and no octet is consumed.
   if (range <= 1U << 24 && octets == 4) return 0;
   return PerReadBits(reader, octets * 8);
 }
 
-uint32_t PerReadLength(PerReader& reader) {
+uint32_t PerReadLengthAtEdge(PerReader& reader) {
   if (PerAtEnd(reader)) return 0;
   PerAlign(reader);
   if (PerReadBit(reader) == 0) return PerReadBits(reader, 7);
@@ -86,7 +125,7 @@ uint32_t PerReadLength(PerReader& reader) {
   return 0;
 }
 
-uint32_t PerReadNormallySmall(PerReader& reader) {
+uint32_t PerReadNormallySmallAtEdge(PerReader& reader) {
   if (PerAtEnd(reader)) return 0;
   if (PerReadBit(reader) == 0) return PerReadBits(reader, 6);
   const uint32_t octets = PerReadLength(reader);
@@ -129,13 +168,6 @@ uint8_t* PerReadOctets(PerReader& reader, uint32_t count) {
 uint8_t* PerReadOctetString(PerReader& reader, uint32_t* length) {
   if (PerAtEnd(reader)) return nullptr;
   const uint32_t octets = PerReadLength(reader);
-  if (length != nullptr) *length = octets;
-  return PerReadOctets(reader, octets);
-}
-
-uint8_t* PerReadSizedOctets(PerReader& reader, uint32_t* length, uint32_t range, uint32_t lowerBound) {
-  if (PerAtEnd(reader)) return nullptr;
-  const uint32_t octets = PerReadConstrainedWholeNumber(reader, range) + lowerBound;
   if (length != nullptr) *length = octets;
   return PerReadOctets(reader, octets);
 }
@@ -189,7 +221,7 @@ uint8_t* PerReadPrintableString(PerReader& reader, uint32_t count) {
     PerMoveToEnd(reader);
     return nullptr;
   }
-  return ReadCharacters<uint8_t>(reader, count, 8, PrintableCharacter);
+  return ReadCharacters<uint8_t, 8>(reader, count, PrintableCharacter);
 }
 
 uint16_t* PerReadBMPString(PerReader& reader, uint32_t count) {
@@ -198,7 +230,7 @@ uint16_t* PerReadBMPString(PerReader& reader, uint32_t count) {
     PerMoveToEnd(reader);
     return nullptr;
   }
-  return ReadCharacters<uint16_t>(reader, count, 16, [](uint32_t unit) { return unit; });
+  return ReadCharacters<uint16_t, 16>(reader, count, [](uint32_t unit) { return unit; });
 }
 
 uint32_t PerReadSubidentifier(PerReader& reader) {
@@ -219,9 +251,11 @@ void PerReadObjectIdentifier(ObjectIdentifierValue& value, PerReader& reader) {
     value.count = 0;
     return;
   }
+  // Octets outside the caller's buffer read as zero, and so each of them ends a subidentifier.
   const uint32_t left = PerOctetsLeft(reader);
-  uint32_t count = 1;
-  for (uint32_t i = 0; i < Minimum(length, left); ++i) count += PerPeekOctet(reader, i) < 0x80;
+  const uint32_t contents = Minimum(length, left);
+  const uint32_t inside = Minimum(contents, PerOctetsInside(reader));
+  const uint32_t count = 1 + CountSubidentifiers(reader.position, inside) + (contents - inside);
   value.count = count;
   if (length > left) {
     PerMoveToEnd(reader);
@@ -230,6 +264,15 @@ void PerReadObjectIdentifier(ObjectIdentifierValue& value, PerReader& reader) {
   auto* arcs = static_cast<uint32_t*>(PerAllocate(reader, uint64_t{count} * sizeof(uint32_t)));
   if (arcs == nullptr) return;
   value.arcs = arcs;
+  if (count > 1 && inside == length) [[likely]] {
+    const uint8_t* octets = reader.position;
+    const uint32_t first = TakeSubidentifier(octets);
+    arcs[0] = first / 40;
+    arcs[1] = first % 40;
+    for (uint32_t i = 2; i < count; ++i) arcs[i] = TakeSubidentifier(octets);
+    reader.position = octets;
+    return;
+  }
   const uint32_t first = PerReadSubidentifier(reader);
   arcs[0] = first / 40;
   // Contents without a final octet count a single arc, so there is no room for the second.

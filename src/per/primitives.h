@@ -9,6 +9,7 @@
 #include <stddef.h>
 #include <stdint.h>
 
+#include "codec/memory.h"
 #include "per/reader.h"
 #include "record/values.h"
 
@@ -17,15 +18,71 @@ namespace kelvra {
 // The range that stands for 2^32 values.
 inline constexpr uint32_t kFullRange = 0xFFFFFFFF;
 
+// Reports a refused block; the reader moves to its end.
+[[gnu::cold]] void PerRefuseBlock(PerReader& reader);
+
 // A zeroed block of `size` octets against the message's allowance; refused, the reader moves to its end.
-void* PerAllocate(PerReader& reader, uint64_t size);
+inline void* PerAllocate(PerReader& reader, uint64_t size) {
+  void* block = nullptr;
+  if (size <= kMaximumMessageMemory - reader.allocated) [[likely]]
+    block = CodecAlloc(static_cast<size_t>(size));
+  if (block == nullptr) [[unlikely]] {
+    PerRefuseBlock(reader);
+    return nullptr;
+  }
+  reader.allocated += static_cast<uint32_t>(size);
+  return block;
+}
+
+// --- Numbers. Each has its window inline; ...AtEdge reads the same wherever the reader stands. ---
+
+uint32_t PerReadConstrainedWholeNumberAtEdge(PerReader& reader, uint32_t range);
+uint32_t PerReadLengthAtEdge(PerReader& reader);
+uint32_t PerReadNormallySmallAtEdge(PerReader& reader);
 
 // Constrained whole number of `range` values (10.5), less its lower bound.
-uint32_t PerReadConstrainedWholeNumber(PerReader& reader, uint32_t range);
+[[gnu::always_inline]] inline uint32_t PerReadConstrainedWholeNumber(PerReader& reader, uint32_t range) {
+  if (range < 2) return 0;
+  if (!PerHasWindow(reader)) [[unlikely]]
+    return PerReadConstrainedWholeNumberAtEdge(reader, range);
+  if (range < 256) return PerTakeBits(reader, 32 - static_cast<uint32_t>(__builtin_clz(range - 1)));
+  if (range <= 65536) {
+    PerMoveTo(reader, PerBoundary(reader));
+    return PerTakeBits(reader, range == 256 ? 8 : 16);
+  }
+  const uint32_t octets = PerTakeBits(reader, 2) + 1;
+  PerMoveTo(reader, PerBoundary(reader));
+  // A fourth octet cannot occur in a range of three; the number reads as 0 and no octet is consumed.
+  if (range <= 1U << 24 && octets == 4) return 0;
+  const uint32_t value = PerLoad32(reader.position) >> (32 - octets * 8);
+  reader.position += octets;
+  return value;
+}
+
 // Unconstrained length determinant (10.9), 0 to 16383. Fragments (10.9.3.8) are refused.
-uint32_t PerReadLength(PerReader& reader);
+[[gnu::always_inline]] inline uint32_t PerReadLength(PerReader& reader) {
+  if (PerHasWindow(reader)) [[likely]] {
+    const uint8_t* octets = PerBoundary(reader);
+    if (octets[0] < 0x80) {
+      PerMoveTo(reader, octets + 1);
+      return octets[0];
+    }
+    if (octets[0] < 0xC0) {
+      PerMoveTo(reader, octets + 2);
+      return (octets[0] & 0x3FU) << 8 | octets[1];
+    }
+  }
+  return PerReadLengthAtEdge(reader);
+}
+
 // Normally small non-negative whole number (10.6).
-uint32_t PerReadNormallySmall(PerReader& reader);
+inline uint32_t PerReadNormallySmall(PerReader& reader) {
+  if (PerHasWindow(reader)) [[likely]] {
+    if ((reader.position[0] << reader.bitOffset & 0x80) == 0) return PerTakeBits(reader, 7);
+  }
+  return PerReadNormallySmallAtEdge(reader);
+}
+
 // Semi-constrained whole number (10.7) with lower bound 0, up to 32 bits.
 uint32_t PerReadUnsignedWithLength(PerReader& reader);
 // Unconstrained whole number (10.8), up to 32 bits.
@@ -36,7 +93,12 @@ uint8_t* PerReadOctets(PerReader& reader, uint32_t count);
 // OCTET STRING with a length determinant. `length` may be null; it is stored even where the octets are missing.
 uint8_t* PerReadOctetString(PerReader& reader, uint32_t* length);
 // OCTET STRING whose length is constrained to `range` values from `lowerBound` on.
-uint8_t* PerReadSizedOctets(PerReader& reader, uint32_t* length, uint32_t range, uint32_t lowerBound);
+inline uint8_t* PerReadSizedOctets(PerReader& reader, uint32_t* length, uint32_t range, uint32_t lowerBound) {
+  if (PerAtEnd(reader)) return nullptr;
+  const uint32_t octets = PerReadConstrainedWholeNumber(reader, range) + lowerBound;
+  if (length != nullptr) *length = octets;
+  return PerReadOctets(reader, octets);
+}
 // OCTET STRING with a length determinant; a length past the end leaves an empty value.
 void PerReadOctetStringRecord(OctetStringValue& value, PerReader& reader);
 // BIT STRING (15) of `count` bits, aligned when longer than 16.

@@ -1,8 +1,5 @@
 #include "per/reader.h"
 
-#include <bit>
-
-#include "codec/memory.h"
 #include "codec/trace.h"
 
 namespace kelvra {
@@ -11,44 +8,42 @@ namespace {
 // The lines by which the refusals of the reader are told apart.
 enum RefusalLine : int32_t { kSkipAtEnd = 85, kSkipPastEnd = 101, kReadPastEnd = 127, kReadTooWide = 134 };
 
-void TraceRefusal(RefusalLine line) { CodecTrace(kTraceDecoder, kTraceError, kReasonDecode, kSourceReader, line); }
+[[gnu::cold]] void TraceRefusal(RefusalLine line) {
+  CodecTrace(kTraceDecoder, kTraceError, kReasonDecode, kSourceReader, line);
+}
 
 uint32_t ReadableOctets(const PerReader& reader) {
   return reader.position >= reader.readable ? 0 : static_cast<uint32_t>(reader.readable - reader.position);
 }
 
-// The 64 bits from the position's octet on; a value and its bit offset never span more than five octets.
-uint64_t LoadWindow(const PerReader& reader) {
-  const uint32_t readable = ReadableOctets(reader);
-  uint64_t window = 0;
-  if (readable >= sizeof window) {
-    CodecCopy(&window, reader.position, sizeof window);
-    if constexpr (std::endian::native == std::endian::little) window = __builtin_bswap64(window);
-    return window;
-  }
-  for (uint32_t i = 0; i < readable; ++i) window |= uint64_t{reader.position[i]} << (56 - 8 * i);
-  return window;
+// `octets` with the first of them uppermost in 64 bits, which the rest of are zero.
+uint64_t LoadFewerThanEight(const uint8_t* octets, uint32_t count) {
+  uint64_t value = 0;
+  for (uint32_t i = 0; i < count; ++i) value = value << 8 | octets[i];
+  return count == 0 ? 0 : value << (64 - 8 * count);
 }
 
 }  // namespace
 
-const uint8_t* PerAdvance(const uint8_t* pointer, uint32_t count) {
-  const auto address = reinterpret_cast<uintptr_t>(pointer);
-  return reinterpret_cast<const uint8_t*>(count > UINTPTR_MAX - address ? UINTPTR_MAX : address + count);
+void PerReaderInit(PerReader& reader, const uint8_t* buffer, uint32_t length) {
+  PerReaderInit(reader, buffer, length, length);
 }
 
-void PerReaderInit(PerReader& reader, const uint8_t* buffer, uint32_t length) {
+void PerReaderInit(PerReader& reader, const uint8_t* buffer, uint32_t length, uint32_t available) {
   reader = {};
   reader.position = buffer;
   reader.end = PerAdvance(buffer, length);
-  reader.readable = reader.end;
+  reader.readable = PerAdvance(buffer, available);
+  reader.octetLimit = reader.end < reader.readable ? reader.end : reader.readable;
+  const uint32_t inside = PerOctetsInside(reader);
+  reader.windowLimit = inside < kWindowOctets ? buffer : reader.octetLimit - (kWindowOctets - 1);
 }
 
 uint8_t PerPeekOctet(const PerReader& reader, uint32_t index) {
   return index < ReadableOctets(reader) ? reader.position[index] : uint8_t{0};
 }
 
-uint32_t PerReadBits(PerReader& reader, uint32_t count) {
+uint32_t PerReadBitsAtEdge(PerReader& reader, uint32_t count) {
   if (PerAtEnd(reader)) return 0;
   if (uint64_t{PerOctetsLeft(reader)} * 8 < uint64_t{reader.bitOffset} + count) {
     TraceRefusal(kReadPastEnd);
@@ -61,7 +56,9 @@ uint32_t PerReadBits(PerReader& reader, uint32_t count) {
     return 0;
   }
   if (count == 0) return 0;
-  const uint64_t window = LoadWindow(reader) << reader.bitOffset;
+  // A value and its bit offset never span more than five octets.
+  const uint32_t readable = ReadableOctets(reader);
+  const uint64_t window = LoadFewerThanEight(reader.position, readable < 5 ? readable : 5) << reader.bitOffset;
   PerSkipBits(reader, count);
   return static_cast<uint32_t>(window >> (64 - count));
 }
@@ -79,10 +76,6 @@ void PerSkipBits(PerReader& reader, uint32_t count) {
   }
   reader.position = PerAdvance(reader.position, static_cast<uint32_t>(total / 8));
   reader.bitOffset = static_cast<uint32_t>(total % 8);
-}
-
-void PerAlign(PerReader& reader) {
-  if (!PerAtEnd(reader) && reader.bitOffset != 0) PerSkipBits(reader, 8 - reader.bitOffset);
 }
 
 }  // namespace kelvra

@@ -1,4 +1,7 @@
 // The cursor over one message, read most significant bit first (X.691, aligned variant).
+//
+// Reads are inline where the octets they may touch are there; at the edges of the message each goes
+// through one function that is not, and which alone decides what happens there.
 #pragma once
 
 #include <stddef.h>
@@ -33,6 +36,11 @@ struct PerReader {
 
   const uint8_t* readable;  // end of the caller's octets; those from here to `end` read as zero
 
+  // Before this address there is an octet, and before the second one a window of octets, that lie
+  // both before `end` and before `readable`. Neither of those may be moved back below them.
+  const uint8_t* octetLimit;
+  const uint8_t* windowLimit;
+
   // State that belongs to the decoding of this one message.
   OpenTypeRing openTypes;
   int32_t extensionPresentCount;  // unknown additions to skip, as the last bitmap left it
@@ -42,9 +50,14 @@ struct PerReader {
 
 // Over `length` octets at `buffer`, with fresh decoding state.
 void PerReaderInit(PerReader& reader, const uint8_t* buffer, uint32_t length);
+// The same where the caller's buffer holds `available` octets from there on, fewer or more than `length`.
+void PerReaderInit(PerReader& reader, const uint8_t* buffer, uint32_t length, uint32_t available);
 
 // `pointer` plus `count`, held at the last address instead of wrapping round.
-const uint8_t* PerAdvance(const uint8_t* pointer, uint32_t count);
+inline const uint8_t* PerAdvance(const uint8_t* pointer, uint32_t count) {
+  const auto address = reinterpret_cast<uintptr_t>(pointer);
+  return reinterpret_cast<const uint8_t*>(count > UINTPTR_MAX - address ? UINTPTR_MAX : address + count);
+}
 
 inline bool PerAtEnd(const PerReader& reader) { return reader.position >= reader.end; }
 
@@ -55,6 +68,11 @@ inline uint32_t PerOctetsLeft(const PerReader& reader) {
                                                   reinterpret_cast<uintptr_t>(reader.position));
 }
 
+// The same of octets that lie before `octetLimit` too.
+inline uint32_t PerOctetsInside(const PerReader& reader) {
+  return reader.position >= reader.octetLimit ? 0 : static_cast<uint32_t>(reader.octetLimit - reader.position);
+}
+
 inline void PerMoveToEnd(PerReader& reader) {
   reader.position = reader.end;
   reader.bitOffset = 0;
@@ -63,15 +81,71 @@ inline void PerMoveToEnd(PerReader& reader) {
 // The octet at `position` plus `index`, zero outside the caller's buffer.
 uint8_t PerPeekOctet(const PerReader& reader, uint32_t index);
 
-// The next `count` bits (0 to 32), or 0 and the reader at its end when there are not as many.
-uint32_t PerReadBits(PerReader& reader, uint32_t count);
-
 // Advances by `count` bits; past the end the reader stops there.
 void PerSkipBits(PerReader& reader, uint32_t count);
 
-// Advances to the next octet boundary.
-void PerAlign(PerReader& reader);
+// PerReadBits wherever the reader stands.
+[[gnu::noinline]] uint32_t PerReadBitsAtEdge(PerReader& reader, uint32_t count);
 
-inline uint32_t PerReadBit(PerReader& reader) { return PerAtEnd(reader) ? 0 : PerReadBits(reader, 1); }
+// --- The window: octets from the position on that can be read without looking further ---
+
+// Enough for 32 bits from any offset, and for the largest constrained whole number with its octet count.
+inline constexpr uint32_t kWindowOctets = 6;
+
+inline bool PerHasWindow(const PerReader& reader) { return reader.position < reader.windowLimit; }
+
+// The big-endian number in the four octets at `octets`.
+inline uint32_t PerLoad32(const uint8_t* octets) {
+  uint32_t value = 0;
+  __builtin_memcpy(&value, octets, sizeof value);
+#if __BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__
+  value = __builtin_bswap32(value);
+#endif
+  return value;
+}
+
+// The next 1 to 32 bits of a window.
+[[gnu::always_inline]] inline uint32_t PerTakeBits(PerReader& reader, uint32_t count) {
+  const uint8_t* octets = reader.position;
+  const uint32_t offset = reader.bitOffset;
+  uint32_t bits = PerLoad32(octets) << offset;
+  // Up to 25 bits lie within four octets.
+  if (!__builtin_constant_p(count) || count > 25) bits |= uint32_t{octets[4]} >> (8 - offset);
+  reader.position = octets + (offset + count) / 8;
+  reader.bitOffset = (offset + count) % 8;
+  return bits >> (32 - count);
+}
+
+// Where the next octet boundary of a window lies.
+inline const uint8_t* PerBoundary(const PerReader& reader) { return reader.position + (reader.bitOffset + 7) / 8; }
+
+inline void PerMoveTo(PerReader& reader, const uint8_t* octet) {
+  reader.position = octet;
+  reader.bitOffset = 0;
+}
+
+// --- Reading ---
+
+// The next `count` bits (0 to 32), or 0 and the reader at its end when there are not as many.
+[[gnu::always_inline]] inline uint32_t PerReadBits(PerReader& reader, uint32_t count) {
+  if (count - 1 < 32 && PerHasWindow(reader)) [[likely]]
+    return PerTakeBits(reader, count);
+  return PerReadBitsAtEdge(reader, count);
+}
+
+[[gnu::always_inline]] inline uint32_t PerReadBit(PerReader& reader) {
+  if (reader.position >= reader.octetLimit) [[unlikely]]
+    return PerReadBitsAtEdge(reader, 1);
+  const uint8_t* octet = reader.position;
+  const uint32_t offset = reader.bitOffset;
+  reader.position = octet + (offset + 1) / 8;
+  reader.bitOffset = (offset + 1) % 8;
+  return uint32_t{*octet} >> (7 - offset) & 1;
+}
+
+// Advances to the next octet boundary.
+inline void PerAlign(PerReader& reader) {
+  if (!PerAtEnd(reader) && reader.bitOffset != 0) PerMoveTo(reader, reader.position + 1);
+}
 
 }  // namespace kelvra

@@ -20,23 +20,26 @@ namespace kelvra {
 
 inline constexpr int64_t kUnsigned32Maximum = 0xFFFFFFFF;
 
+// The words whose bounds decide how a number is read are always inline: with the bounds they fold to the
+// one form that the number has.
+
 // INTEGER (low..high). No check is made that the number stays within a field wider than its range.
 template <class Number>
-Number PerReadNumber(PerReader& r, int64_t low, int64_t high) {
+[[gnu::always_inline]] inline Number PerReadNumber(PerReader& r, int64_t low, int64_t high) {
   const int64_t values = high - low + 1;
   const uint32_t range = values > kUnsigned32Maximum ? kFullRange : static_cast<uint32_t>(values);
   return static_cast<Number>(PerReadConstrainedWholeNumber(r, range) + low);
 }
 
 // INTEGER (low..high, ...): an extension bit decides between the constrained and the unbounded form.
-inline uint32_t PerReadExtensibleNumber(PerReader& r, int64_t low, int64_t high) {
+[[gnu::always_inline]] inline uint32_t PerReadExtensibleNumber(PerReader& r, int64_t low, int64_t high) {
   if (PerReadBit(r) != 0) return static_cast<uint32_t>(PerReadInteger(r));
   return PerReadNumber<uint32_t>(r, low, high);
 }
 
 // INTEGER (low..high) in an open type.
 template <class Number>
-Number PerReadOpenNumber(PerReader& r, int64_t low, int64_t high) {
+[[gnu::always_inline]] inline Number PerReadOpenNumber(PerReader& r, int64_t low, int64_t high) {
   OpenTypeBegin(r);
   const Number value = PerReadNumber<Number>(r, low, high);
   OpenTypeEnd(r);
@@ -101,7 +104,8 @@ inline void PerReadBMPString(BMPStringValue& value, PerReader& r, uint32_t count
 
 // SIZE (low..high): a constrained whole number, then the units.
 
-inline void PerReadSizedOctets(OctetStringValue& value, PerReader& r, uint32_t low, uint32_t high) {
+[[gnu::always_inline]] inline void PerReadSizedOctets(OctetStringValue& value, PerReader& r, uint32_t low,
+                                                      uint32_t high) {
   uint32_t length = 0;
   value.data = PerReadSizedOctets(r, &length, high - low + 1, low);
   value.length = length;
@@ -113,23 +117,28 @@ void PerReadSizedOctetsElement(OctetStringValue& value, PerReader& r) {
   PerReadSizedOctets(value, r, kLow, kHigh);
 }
 
-inline void PerReadSizedNibbles(OctetStringValue& value, PerReader& r, uint32_t low, uint32_t high) {
+[[gnu::always_inline]] inline void PerReadSizedNibbles(OctetStringValue& value, PerReader& r, uint32_t low,
+                                                       uint32_t high) {
   PerReadNibbles(value, r, PerReadNumber<uint32_t>(r, low, high));
 }
 
-inline void PerReadSizedNumericString(OctetStringValue& value, PerReader& r, uint32_t low, uint32_t high) {
+[[gnu::always_inline]] inline void PerReadSizedNumericString(OctetStringValue& value, PerReader& r, uint32_t low,
+                                                             uint32_t high) {
   PerReadNumericString(value, r, PerReadNumber<uint32_t>(r, low, high));
 }
 
-inline void PerReadSizedTBCDString(OctetStringValue& value, PerReader& r, uint32_t low, uint32_t high) {
+[[gnu::always_inline]] inline void PerReadSizedTBCDString(OctetStringValue& value, PerReader& r, uint32_t low,
+                                                          uint32_t high) {
   PerReadTBCDString(value, r, PerReadNumber<uint32_t>(r, low, high));
 }
 
-inline void PerReadSizedBitString(OctetStringValue& value, PerReader& r, uint32_t low, uint32_t high) {
+[[gnu::always_inline]] inline void PerReadSizedBitString(OctetStringValue& value, PerReader& r, uint32_t low,
+                                                         uint32_t high) {
   PerReadBitString(value, r, PerReadNumber<uint32_t>(r, low, high));
 }
 
-inline void PerReadSizedBMPString(BMPStringValue& value, PerReader& r, uint32_t low, uint32_t high) {
+[[gnu::always_inline]] inline void PerReadSizedBMPString(BMPStringValue& value, PerReader& r, uint32_t low,
+                                                         uint32_t high) {
   PerReadBMPString(value, r, PerReadNumber<uint32_t>(r, low, high));
 }
 
@@ -143,7 +152,7 @@ void PerReadSizedBMPStringElement(BMPStringValue& value, PerReader& r) {
 // The index of an extensible CHOICE whose extension bit is read, of `roots` root alternatives. Returns it
 // in full; the record keeps its low 8 bits.
 template <class Choice>
-uint32_t ReadChoiceIndex(Choice& m, PerReader& r, uint32_t roots) {
+[[gnu::always_inline]] inline uint32_t ReadChoiceIndex(Choice& m, PerReader& r, uint32_t roots) {
   const uint32_t index = m.isExtension ? PerReadNormallySmall(r) : PerReadConstrainedWholeNumber(r, roots);
   m.choiceTag = static_cast<uint8_t>(index);
   return index;
@@ -151,14 +160,14 @@ uint32_t ReadChoiceIndex(Choice& m, PerReader& r, uint32_t roots) {
 
 // The header of an extensible CHOICE: extension bit and index.
 template <class Choice>
-uint32_t ReadChoice(Choice& m, PerReader& r, uint32_t roots) {
+[[gnu::always_inline]] inline uint32_t ReadChoice(Choice& m, PerReader& r, uint32_t roots) {
   m.isExtension = PerReadBit(r);
   return ReadChoiceIndex(m, r, roots);
 }
 
 // The same for a CHOICE without an extension marker.
 template <class Choice>
-uint32_t ReadRootChoice(Choice& m, PerReader& r, uint32_t roots) {
+[[gnu::always_inline]] inline uint32_t ReadRootChoice(Choice& m, PerReader& r, uint32_t roots) {
   const uint32_t index = PerReadConstrainedWholeNumber(r, roots);
   m.choiceTag = static_cast<uint8_t>(index);
   return index;

@@ -96,8 +96,8 @@ void CopyElements(Q931MessageRecord& m, const Q931Frame& frame) {
 bool DecodeUserInformationElement(H323UserInformation& m, const Q931Frame& frame, const Q931Element& element) {
   const uint32_t first = element.position + uint32_t{4};
   PerReader reader;
-  PerReaderInit(reader, PerAdvance(frame.octets, first), element.length + uint32_t{1});
-  reader.readable = PerAdvance(frame.octets, frame.available);
+  PerReaderInit(reader, PerAdvance(frame.octets, first), element.length + uint32_t{1},
+                frame.available > first ? frame.available - first : 0);
   if (DecodeH323UserInformation(m, reader) == kDecoded && reader.position != reader.end) return true;
   ReleaseH323UserInformation(&m);
   return false;
