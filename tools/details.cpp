@@ -24,7 +24,11 @@ class DetailList {
   std::string text_;
 };
 
-std::string Quoted(const Json& value) { return Concat({"\"", value.get_ref<const std::string&>(), "\""}); }
+// Some equipment fills identifiers up with NUL characters, which are left out.
+std::string Quoted(const Json& value) {
+  const auto& text = value.get_ref<const std::string&>();
+  return Concat({"\"", text.substr(0, text.find_last_not_of('\0') + 1), "\""});
+}
 
 // The digits of an alias that is a PartyNumber.
 std::string PartyDigits(const Json& alias) {
