@@ -33,6 +33,8 @@
 
 #include <stdint.h>
 
+#include <iterator>
+
 #include "list.h"
 #include "values.h"
 
@@ -60,7 +62,7 @@ void WalkOctets(Visitor& visitor, const char* name, const OctetStringValue& valu
 // Passes a CHOICE of NULLs to a visitor. `Names` lists its alternatives, roots first.
 template <class Names, class Visitor>
 void WalkNullChoice(Visitor& visitor, uint32_t isExtension, uint32_t tag) {
-  constexpr uint32_t kCount = sizeof(Names::kAlternatives) / sizeof(Names::kAlternatives[0]);
+  constexpr uint32_t kCount = std::size(Names::kAlternatives);
   if (isExtension == 0) {
     if (tag < Names::kRoots) return visitor.Null(Names::kAlternatives[tag]);
     return visitor.UnknownRoot(tag);
