@@ -92,7 +92,9 @@ TEST(H245MessageTest, ResumesBehindTheOpenTypeOfAnAlternative) {
     Owned<H245MessageRecord> m;
     DecodeMultimediaSystemControlMessage(*m, input.reader);
     EXPECT_EQ(+m->request.logicalChannelRateRequest.sequenceNumber, 9);
-    if (length >= rate.size()) EXPECT_EQ(+m->request.logicalChannelRateRequest.maximumBitRate, 640U);
+    if (length >= rate.size()) {
+      EXPECT_EQ(+m->request.logicalChannelRateRequest.maximumBitRate, 640U);
+    }
     EXPECT_EQ(input.Next(), kMarker) << length;
   }
 }
