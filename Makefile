@@ -8,7 +8,7 @@ BUILD := build/linux-x64
 DUMP := $(BUILD)/bin/kelvra-dump
 CXX_FILES = $(shell find src tools tests -name '*.cpp' -o -name '*.h')
 
-.PHONY: all demo test format lint clean
+.PHONY: all demo test records format lint clean
 
 # The library and the viewer.
 all:
@@ -28,6 +28,11 @@ demo:
 test:
 	scripts/setup.sh test
 	scripts/test.sh
+
+# The table of every record's members, which the tests compare with the headers.
+records:
+	scripts/setup.sh test
+	scripts/records.py write
 
 format:
 	scripts/setup.sh lint
