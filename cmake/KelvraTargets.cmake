@@ -30,6 +30,10 @@ endfunction()
 # Tools and tests.
 function(kelvra_program_options target)
   _kelvra_common(${target})
+  if(KELVRA_BUILD_TESTS)
+    # What runs only in tests costs more to optimize than it saves. The library is tested as it ships.
+    target_compile_options(${target} PRIVATE -O1 -g1)
+  endif()
 endfunction()
 
 # Exports from the shared library exactly the names that the .def file lists.

@@ -13,8 +13,9 @@ namespace kelvra {
 // that nests deeper is malformed.
 inline constexpr uint32_t kMaximumDepth = 32;
 
-// What the blocks of one message may claim in all. The densest lawful message, 64 kB of minimal
-// fast-connect channels, stays below it. A block past it is refused as if the heap had refused it.
+// What the blocks of one message may claim in all: it keeps a datagram of a stranger from taking the memory
+// of its host. What equipment sends stays far below; only a message made of some 30 kB of the smallest
+// elements with the largest records exceeds it. A block past it is refused as if the heap had refused it.
 inline constexpr uint32_t kMaximumMessageMemory = 16U << 20;
 
 // How many octets of one message may be read, or looked at, a second time: those that leaving an open

@@ -3,6 +3,16 @@
 #include "per/record_decode.h"
 
 namespace kelvra::h225 {
+namespace {
+
+void DecodeWhen(CapacityReportingSpecification::When& m, PerReader& r) {
+  m.isExtended = PerReadBit(r);
+  m.hasCallStart = PerReadBit(r);
+  m.hasCallEnd = PerReadBit(r);
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+}
+
+}  // namespace
 
 Status DecodeCicInfo(CicInfo& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
@@ -103,6 +113,22 @@ Status DecodeCallCapacity(CallCapacity& m, PerReader& r) {
   m.hasCurrentCallCapacity = PerReadBit(r);
   if (m.hasMaximumCallCapacity) KELVRA_TRY(DecodeCallCapacityInfo(m.maximumCallCapacity, r));
   if (m.hasCurrentCallCapacity) KELVRA_TRY(DecodeCallCapacityInfo(m.currentCallCapacity, r));
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+  return kDecoded;
+}
+
+Status DecodeCapacityReportingCapability(CapacityReportingCapability& m, PerReader& r) {
+  if (PerAtEnd(r)) return kExhausted;
+  m.isExtended = PerReadBit(r);
+  m.canReportCallCapacity = PerReadBit(r);
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+  return kDecoded;
+}
+
+Status DecodeCapacityReportingSpecification(CapacityReportingSpecification& m, PerReader& r) {
+  if (PerAtEnd(r)) return kExhausted;
+  m.isExtended = PerReadBit(r);
+  DecodeWhen(m.when, r);
   if (m.isExtended) PerSkipExtensionAdditions(r);
   return kDecoded;
 }

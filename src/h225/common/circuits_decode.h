@@ -13,5 +13,7 @@ Status DecodeCircuitInfo(CircuitInfo& m, PerReader& r);
 Status DecodeCallsAvailable(CallsAvailable& m, PerReader& r);
 Status DecodeCallCapacityInfo(CallCapacityInfo& m, PerReader& r);
 Status DecodeCallCapacity(CallCapacity& m, PerReader& r);
+Status DecodeCapacityReportingCapability(CapacityReportingCapability& m, PerReader& r);
+Status DecodeCapacityReportingSpecification(CapacityReportingSpecification& m, PerReader& r);
 
 }  // namespace kelvra::h225

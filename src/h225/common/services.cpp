@@ -57,6 +57,17 @@ Status DecodeCallCreditServiceControl(CallCreditServiceControl& m, PerReader& r)
   return kDecoded;
 }
 
+Status DecodeCallCreditCapability(CallCreditCapability& m, PerReader& r) {
+  if (PerAtEnd(r)) return kExhausted;
+  m.isExtended = PerReadBit(r);
+  m.hasCanDisplayAmountString = PerReadBit(r);
+  m.hasCanEnforceDurationLimit = PerReadBit(r);
+  if (m.hasCanDisplayAmountString) m.canDisplayAmountString = PerReadBit(r);
+  if (m.hasCanEnforceDurationLimit) m.canEnforceDurationLimit = PerReadBit(r);
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+  return kDecoded;
+}
+
 Status DecodeServiceControlDescriptor(ServiceControlDescriptor& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
   const uint32_t index = ReadChoice(m, r, 4);

@@ -56,6 +56,13 @@ void DecodeEncryptionAuthenticationAndIntegrity(EncryptionAuthenticationAndInteg
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
+void DecodeH235SecurityCapability(H235SecurityCapability& m, PerReader& r) {
+  m.isExtended = PerReadBit(r);
+  DecodeEncryptionAuthenticationAndIntegrity(m.encryptionAuthenticationAndIntegrity, r);
+  m.mediaCapability = PerReadNumber<uint16_t>(r, 1, 65535);
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+}
+
 void DecodeEscrowData(EscrowData& m, PerReader& r) {
   m.isExtended = PerReadBit(r);
   PerReadObjectIdentifier(m.escrowID, r);

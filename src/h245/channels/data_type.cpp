@@ -1,7 +1,7 @@
 #include "h245/capabilities/audio_capability_decode.h"
 #include "h245/capabilities/data_application_decode.h"
 #include "h245/capabilities/encryption_decode.h"
-#include "h245/capabilities/multiplex_capability_decode.h"
+#include "h245/capabilities/multiplex_format_decode.h"
 #include "h245/capabilities/video_capability_decode.h"
 #include "h245/channels/data_type_decode.h"
 #include "h245/common/non_standard_decode.h"
@@ -36,14 +36,6 @@ void DecodeRtpRedundancyEncoding(RedundancyEncoding& m, PerReader& r) {
     return release.Pointer("secondaryEncoding", KELVRA_SLOT(m.secondaryEncoding));
   }
   if (rtp.isExtended) PerSkipExtensionAdditions(r);
-}
-
-void DecodeDifferentPort(FECData::Rfc2733::Mode::SeparateStream::DifferentPort& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasProtectedPayloadType = PerReadBit(r);
-  m.protectedSessionID = PerReadNumber<uint8_t>(r, 1, 255);
-  if (m.hasProtectedPayloadType) m.protectedPayloadType = PerReadNumber<uint8_t>(r, 0, 127);
-  if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
 void DecodeSamePort(FECData::Rfc2733::Mode::SeparateStream::SamePort& m, PerReader& r) {
@@ -152,17 +144,17 @@ void DecodeRedundancyEncoding(RedundancyEncoding& m, PerReader& r) {
   PerSkipOpenTypes(r, unknown);
 }
 
-void DecodeMultiplePayloadStreamElement(MultiplePayloadStreamElement& m, PerReader& r) {
+void DecodeMultiplePayloadStream(MultiplePayloadStream& m, PerReader& r) {
   m.isExtended = PerReadBit(r);
-  m.hasPayloadType = PerReadBit(r);
-  DecodePointer(KELVRA_SLOT(m.dataType), r, DecodeDataType);
-  if (m.hasPayloadType) m.payloadType = PerReadNumber<uint8_t>(r, 0, 127);
+  KELVRA_OR_STOP(DecodeSequenceOf(KELVRA_LIST(m.elements), r, DecodeRedundancyEncodingElement));
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
-void DecodeMultiplePayloadStream(MultiplePayloadStream& m, PerReader& r) {
+void DecodeDifferentPort(FECData::Rfc2733::Mode::SeparateStream::DifferentPort& m, PerReader& r) {
   m.isExtended = PerReadBit(r);
-  KELVRA_OR_STOP(DecodeSequenceOf(KELVRA_LIST(m.elements), r, DecodeMultiplePayloadStreamElement));
+  m.hasProtectedPayloadType = PerReadBit(r);
+  m.protectedSessionID = PerReadNumber<uint8_t>(r, 1, 255);
+  if (m.hasProtectedPayloadType) m.protectedPayloadType = PerReadNumber<uint8_t>(r, 0, 127);
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 

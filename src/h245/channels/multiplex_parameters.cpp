@@ -14,17 +14,7 @@ void DecodeNumberOfRetransmissions(H223AnnexCArqParameters::NumberOfRetransmissi
   }
 }
 
-void DecodeArqType(H223AL1MParameters::ArqType& m, PerReader& r) {
-  const uint32_t index = ReadChoice(m, r, 3);
-  if (m.isExtension) return PerSkipOpenTypes(r, 1);
-  switch (index) {
-    case 1: return DecodeH223AnnexCArqParameters(m.typeIArq, r);
-    case 2: return DecodeH223AnnexCArqParameters(m.typeIIArq, r);
-    default: return;
-  }
-}
-
-void DecodeArqType(H223AL3MParameters::ArqType& m, PerReader& r) {
+void DecodeArqType(H223ArqType& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 3);
   if (m.isExtension) return PerSkipOpenTypes(r, 1);
   switch (index) {
