@@ -23,6 +23,13 @@ uint64_t LoadFewerThanEight(const uint8_t* octets, uint32_t count) {
   return count == 0 ? 0 : value << (64 - 8 * count);
 }
 
+void SetEnd(PerReader& reader, const uint8_t* end) {
+  reader.end = end;
+  reader.octetLimit = end < reader.readable ? end : reader.readable;
+  const auto limit = reinterpret_cast<uintptr_t>(reader.octetLimit);
+  reader.windowLimit = reinterpret_cast<const uint8_t*>(limit < kWindowOctets ? 0 : limit - (kWindowOctets - 1));
+}
+
 }  // namespace
 
 void PerReaderInit(PerReader& reader, const uint8_t* buffer, uint32_t length) {
@@ -32,28 +39,33 @@ void PerReaderInit(PerReader& reader, const uint8_t* buffer, uint32_t length) {
 void PerReaderInit(PerReader& reader, const uint8_t* buffer, uint32_t length, uint32_t available) {
   reader = {};
   reader.position = buffer;
-  reader.end = PerAdvance(buffer, length);
   reader.readable = PerAdvance(buffer, available);
-  reader.octetLimit = reader.end < reader.readable ? reader.end : reader.readable;
-  const uint32_t inside = PerOctetsInside(reader);
-  reader.windowLimit = inside < kWindowOctets ? buffer : reader.octetLimit - (kWindowOctets - 1);
+  SetEnd(reader, PerAdvance(buffer, length));
+}
+
+PerBounds::PerBounds(PerReader& reader, uint32_t length)
+    : reader_(reader), outerEnd_(reader.end), behind_(PerAdvance(reader.position, length)) {
+  SetEnd(reader, behind_);
+}
+
+PerBounds::~PerBounds() {
+  SetEnd(reader_, outerEnd_);
+  PerMoveTo(reader_, behind_);
+  reader_.stoppedAt = nullptr;
+  if (reader_.reread > kMaximumRereading) PerMoveToEnd(reader_);
 }
 
 bool PerCountRereading(PerReader& reader, uint32_t octets) {
-  if (octets <= kMaximumRereading - reader.reread) {
-    reader.reread += octets;
-    return true;
-  }
-  reader.reread = kMaximumRereading;
+  reader.reread = reader.reread + octets > kMaximumRereading ? kMaximumRereading + 1 : reader.reread + octets;
+  if (reader.reread <= kMaximumRereading) return true;
   PerMoveToEnd(reader);
-  reader.stoppedAt = nullptr;  // whatever would move it back from here has octets to count
   return false;
 }
 
 void PerMoveBack(PerReader& reader, const uint8_t* octet) {
   const uint8_t* read = PerBoundary(reader);
   if (PerAtEnd(reader)) read = reader.stoppedAt != nullptr ? reader.stoppedAt : reader.end;
-  if (octet < read && !PerCountRereading(reader, static_cast<uint32_t>(read - octet))) return;
+  if (!PerCountRereading(reader, octet < read ? static_cast<uint32_t>(read - octet) : 0)) return;
   PerMoveTo(reader, octet);
   if (!PerAtEnd(reader)) reader.stoppedAt = nullptr;
 }

@@ -42,7 +42,7 @@ struct PerReader {
   const uint8_t* readable;  // end of the caller's octets; those from here to `end` read as zero
 
   // Before this address there is an octet, and before the second one a window of octets, that lie
-  // both before `end` and before `readable`. Neither of those may be moved back below them.
+  // both before `end` and before `readable`.
   const uint8_t* octetLimit;
   const uint8_t* windowLimit;
 
@@ -86,8 +86,8 @@ inline void PerMoveToEnd(PerReader& reader) {
   reader.bitOffset = 0;
 }
 
-// Counts octets that are read or looked at a second time. Returns false, and leaves the reader at its end
-// for good, once they are too many.
+// Counts octets that are read or looked at a second time. Returns false, and the reader is at its end for
+// good, once they are too many.
 bool PerCountRereading(PerReader& reader, uint32_t octets);
 
 // Moves the reader back to `octet`, which an open type ends at.
@@ -157,6 +157,21 @@ inline void PerMoveTo(PerReader& reader, const uint8_t* octet) {
   reader.bitOffset = (offset + 1) % 8;
   return uint32_t{*octet} >> (7 - offset) & 1;
 }
+
+// Bounds the reader to the next `length` octets while it lives. Afterwards the reader stands behind them,
+// whatever was consumed.
+class PerBounds {
+ public:
+  PerBounds(PerReader& reader, uint32_t length);
+  ~PerBounds();
+  PerBounds(const PerBounds&) = delete;
+  PerBounds& operator=(const PerBounds&) = delete;
+
+ private:
+  PerReader& reader_;
+  const uint8_t* outerEnd_;
+  const uint8_t* behind_;
+};
 
 // Advances to the next octet boundary.
 inline void PerAlign(PerReader& reader) {

@@ -14,12 +14,11 @@ bool IsPrivate(const NonStandardIdentifier& m) {
 // The private message of `length` octets that begins here. The reader is bounded to them, so that what
 // the message claims counts as claimed by the whole; it resumes behind them, whatever was consumed.
 Status DecodeBounded(PrivateMessage& m, PerReader& r, uint32_t length) {
-  const PerReader outer = r;
-  r.end = PerAdvance(outer.position, length);
-  const Status status = DecodePrivateMessage(m, r);
-  r.end = outer.end;
-  r.position = PerAdvance(outer.position, length);
-  r.bitOffset = outer.bitOffset;
+  Status status = kDecoded;
+  {
+    const PerBounds bounds(r, length);
+    status = DecodePrivateMessage(m, r);
+  }
   if (status != kDecoded) PerMoveToEnd(r);
   return status;
 }
