@@ -12,9 +12,9 @@
 #include <functional>
 #include <memory>
 
-#include "api/kelvra.h"
 #include "doubles/heap_double.h"
 #include "doubles/message_corpus.h"
+#include "doubles/message_family.h"
 #include "doubles/record_digest.h"
 #include "per/reader.h"
 
@@ -53,51 +53,6 @@ class GuardedDecode {
   std::unique_ptr<uint8_t[]> room_;
   int64_t result_ = 0;
 };
-
-struct Ras {
-  using Record = h225::RasMessageRecord;
-  static constexpr Family kFamily = Family::kRas;
-  static constexpr const char* kName = "ras";
-  static int64_t Decode(Record* record, const uint8_t* octets, size_t size) {
-    const intptr_t end = KelvraDecodeRASMessage(record, octets, static_cast<uint32_t>(size));
-    return end == 0 ? 0 : end - reinterpret_cast<intptr_t>(octets);
-  }
-  static void Release(Record* record) { KelvraFreeRASMessage(record); }
-  static Record& Owner(Record& record) { return record; }
-  static bool MayOwnBlocks(int64_t result) { return result != 0; }
-};
-
-struct Q931 {
-  using Record = h225::Q931MessageRecord;
-  static constexpr Family kFamily = Family::kQ931;
-  static constexpr const char* kName = "q931";
-  static int64_t Decode(Record* record, const uint8_t* octets, size_t size) {
-    return KelvraDecodeQ931Message(record, octets, static_cast<int32_t>(size));
-  }
-  static void Release(Record* record) { KelvraFreeQ931Message(record); }
-  static h225::H323UserInformation& Owner(Record& record) { return record.userInformation; }
-  static bool MayOwnBlocks(int64_t result) { return result == 0; }
-};
-
-struct H245 {
-  using Record = h245::H245MessageRecord;
-  static constexpr Family kFamily = Family::kH245;
-  static constexpr const char* kName = "h245";
-  static int64_t Decode(Record* record, const uint8_t* octets, size_t size) {
-    return KelvraDecodeH245Message(record, octets, static_cast<uint32_t>(size));
-  }
-  static void Release(Record* record) { KelvraFreeH245Message(record); }
-  static Record& Owner(Record& record) { return record; }
-  static bool MayOwnBlocks(int64_t) { return true; }
-};
-
-template <class MessageFamily>
-BlockCollector BlocksOf(typename MessageFamily::Record& record) {
-  BlockCollector blocks;
-  auto& owner = MessageFamily::Owner(record);
-  std::remove_reference_t<decltype(owner)>::Walk(owner, blocks);
-  return blocks;
-}
 
 template <class MessageFamily>
 class ExhaustiveFaults : public testing::Test {
@@ -142,7 +97,7 @@ class ExhaustiveFaults : public testing::Test {
     GuardedDecode<Record> decode(MessageFamily::Decode, octets, earlier);
     EXPECT_TRUE(decode.GuardsHold());
     EXPECT_LE(heap_.OctetsGranted(), kMaximumMessageMemory);
-    const BlockCollector blocks = BlocksOf<MessageFamily>(decode.Get());
+    const BlockCollector blocks = BlocksOf(decode.Get());
     ExpectOwned(blocks, MessageFamily::MayOwnBlocks(decode.Result()));
     Digest digest;
     digest.AddWord(static_cast<uint64_t>(decode.Result()));
@@ -161,7 +116,7 @@ class ExhaustiveFaults : public testing::Test {
 
   void ExpectReleases(GuardedDecode<Record>& decode) {
     MessageFamily::Release(&decode.Get());
-    EXPECT_TRUE(BlocksOf<MessageFamily>(decode.Get()).Blocks().empty());
+    EXPECT_TRUE(BlocksOf(decode.Get()).Blocks().empty());
     EXPECT_EQ(heap_.Releases().size(), heap_.Granted().size());
     EXPECT_EQ(heap_.WildReleases(), 0U);
     EXPECT_TRUE(heap_.LiveBlocks().empty());

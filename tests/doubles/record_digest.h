@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "api/kelvra.h"
 #include "record/walk.h"
 
 namespace kelvra::test {
@@ -122,5 +123,10 @@ class BlockCollector {
   std::vector<void*> slots_;
   std::vector<Block> blocks_;
 };
+
+// Of a Q.931 message they are those of the user information, whether it is marked as present or not.
+BlockCollector BlocksOf(h225::RasMessageRecord& record);
+BlockCollector BlocksOf(h225::Q931MessageRecord& record);
+BlockCollector BlocksOf(h245::H245MessageRecord& record);
 
 }  // namespace kelvra::test
