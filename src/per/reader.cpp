@@ -23,6 +23,11 @@ uint64_t LoadFewerThanEight(const uint8_t* octets, uint32_t count) {
   return count == 0 ? 0 : value << (64 - 8 * count);
 }
 
+uint32_t AllowanceOf(uint32_t octets) {
+  const uint64_t allowance = kLeastMessageMemory + uint64_t{octets} * kMessageMemoryForEachOctet;
+  return allowance < kMaximumMessageMemory ? static_cast<uint32_t>(allowance) : kMaximumMessageMemory;
+}
+
 void SetEnd(PerReader& reader, const uint8_t* end) {
   reader.end = end;
   reader.octetLimit = end < reader.readable ? end : reader.readable;
@@ -41,6 +46,7 @@ void PerReaderInit(PerReader& reader, const uint8_t* buffer, uint32_t length, ui
   reader.position = buffer;
   reader.readable = PerAdvance(buffer, available);
   SetEnd(reader, PerAdvance(buffer, length));
+  reader.allowance = AllowanceOf(PerOctetsInside(reader));
 }
 
 PerBounds::PerBounds(PerReader& reader, uint32_t length)

@@ -13,10 +13,12 @@ namespace kelvra {
 // that nests deeper is malformed.
 inline constexpr uint32_t kMaximumDepth = 32;
 
-// What the blocks of one message may claim in all: it keeps a datagram of a stranger from taking the memory
-// of its host. What equipment sends stays far below; only a message made of some 30 kB of the smallest
-// elements with the largest records exceeds it. A block past it is refused as if the heap had refused it.
+// What the blocks of one message may claim in all: so many octets for each of its own, beside the first
+// megabyte, up to the maximum. A block past that is refused as if the heap had refused it. The densest
+// lists, of redundancy encodings and of empty PDUs in an InfoRequestResponse, take some 800 for each octet.
 inline constexpr uint32_t kMaximumMessageMemory = 16U << 20;
+inline constexpr uint32_t kLeastMessageMemory = 1U << 20;
+inline constexpr uint32_t kMessageMemoryForEachOctet = 2048;
 
 // How many octets of one message may be read, or looked at, a second time: those that leaving an open
 // type moves the reader back over, and those that were counted but not read. A lawful message has next
@@ -50,7 +52,7 @@ struct PerReader {
   OpenTypeRing openTypes;
   int32_t extensionPresentCount;  // unknown additions to skip, as the last bitmap left it
   uint32_t depth;                 // recursive types entered
-  uint32_t allocated;             // octets claimed so far
+  uint32_t allowance;             // octets that blocks may still claim
   uint32_t reread;                // octets read or looked at a second time so far
   const uint8_t* stoppedAt;       // at the end only: how far it had read when it moved there; null: all the way
 };

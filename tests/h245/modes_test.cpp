@@ -98,13 +98,13 @@ TEST(ModeElementTypeTest, ARefusedBlockIsMissing) {
   BitWriter type;
   NestedType(type, kFecMode, 2);
   Input fec(Marked(type));
-  fec.reader.allocated = kMaximumMessageMemory;
+  fec.reader.allowance = 0;
   Owned<ModeElementType> record;
   DecodeModeElementType(*record, fec.reader);
   EXPECT_EQ(Inner(*record), nullptr);
 
   Input request(BitWriter().Bit(false).Align().Bits(9, 8).Bits(2 - 1, 8).Octets(std::vector<uint8_t>(64)));
-  request.reader.allocated = kMaximumMessageMemory - sizeof(ModeDescription) * 2;
+  request.reader.allowance = sizeof(ModeDescription) * 2;
   Owned<RequestMode> mode;
   DecodeRequestMode(*mode, request.reader);
   ASSERT_NE(+mode->requestedModes, nullptr);

@@ -145,7 +145,7 @@ TEST(TerminalCapabilitySetTest, RefusedListKeepsItsCountAndEndsTheDecode) {
       {kArcs + 2 * kTable, true, true, true, true}};
   for (const auto& c : kCases) {
     Input input(Marked(w));
-    input.reader.allocated = kMaximumMessageMemory - c.allowance;
+    input.reader.allowance = c.allowance;
     Owned<TerminalCapabilitySet> m;
     DecodeTerminalCapabilitySet(*m, input.reader);
     EXPECT_EQ(+m->capabilityTableCount, 2);

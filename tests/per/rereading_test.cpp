@@ -71,17 +71,17 @@ TEST(Rereading, CountsABitmapThatIsReadToTheEnd) {
 TEST(Rereading, CountsTheOctetsOfAnObjectIdentifierThatAreOnlyLookedAt) {
   const struct {
     BitWriter octets;
-    uint32_t allocated;
+    bool granted;
     uint32_t lookedAt;
   } cases[] = {
-      {BitWriter().OpenType({0x2B, 0x06, 0x81, 0x01}), 0, 0},
-      {BitWriter().OpenType({0x2B, 0x86, 0x81, 0x81}), 0, 3},                             // the last three end nothing
-      {BitWriter().Length(50).Octets(std::vector<uint8_t>(20, 0x2B)), 0, 20},             // cut short
-      {BitWriter().OpenType(std::vector<uint8_t>(30, 0x2B)), kMaximumMessageMemory, 30},  // refused
+      {BitWriter().OpenType({0x2B, 0x06, 0x81, 0x01}), true, 0},
+      {BitWriter().OpenType({0x2B, 0x86, 0x81, 0x81}), true, 3},                  // the last three end nothing
+      {BitWriter().Length(50).Octets(std::vector<uint8_t>(20, 0x2B)), true, 20},  // cut short
+      {BitWriter().OpenType(std::vector<uint8_t>(30, 0x2B)), false, 30},          // refused
   };
   for (const auto& c : cases) {
     Input input(c.octets);
-    input.reader.allocated = c.allocated;
+    if (!c.granted) input.reader.allowance = 0;
     ObjectIdentifierValue value{};
     PerReadObjectIdentifier(value, input.reader);
     EXPECT_EQ(input.reader.reread, c.lookedAt);
