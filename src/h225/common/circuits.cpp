@@ -12,8 +12,6 @@ void DecodeWhen(CapacityReportingSpecification::When& m, PerReader& r) {
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
-}  // namespace
-
 Status DecodeCicInfo(CicInfo& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
   m.isExtended = PerReadBit(r);
@@ -40,19 +38,6 @@ Status DecodeCircuitIdentifier(CircuitIdentifier& m, PerReader& r) {
   m.hasGroup = PerReadBit(r);
   if (m.hasCic) KELVRA_TRY(DecodeCicInfo(m.cic, r));
   if (m.hasGroup) KELVRA_TRY(DecodeGroupID(m.group, r));
-  if (m.isExtended) PerSkipExtensionAdditions(r);
-  return kDecoded;
-}
-
-Status DecodeCircuitInfo(CircuitInfo& m, PerReader& r) {
-  if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasSourceCircuitID = PerReadBit(r);
-  m.hasDestinationCircuitID = PerReadBit(r);
-  m.hasGenericData = PerReadBit(r);
-  if (m.hasSourceCircuitID) KELVRA_TRY(DecodeCircuitIdentifier(m.sourceCircuitID, r));
-  if (m.hasDestinationCircuitID) KELVRA_TRY(DecodeCircuitIdentifier(m.destinationCircuitID, r));
-  if (m.hasGenericData) KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.genericData), r, DecodeGenericData));
   if (m.isExtended) PerSkipExtensionAdditions(r);
   return kDecoded;
 }
@@ -102,6 +87,21 @@ Status DecodeCallCapacityInfo(CallCapacityInfo& m, PerReader& r) {
   if (m.hasTerminalCallsAvailable)
     KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.terminalCallsAvailable), r, DecodeCallsAvailable));
   if (m.hasMcuCallsAvailable) KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.mcuCallsAvailable), r, DecodeCallsAvailable));
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+  return kDecoded;
+}
+
+}  // namespace
+
+Status DecodeCircuitInfo(CircuitInfo& m, PerReader& r) {
+  if (PerAtEnd(r)) return kExhausted;
+  m.isExtended = PerReadBit(r);
+  m.hasSourceCircuitID = PerReadBit(r);
+  m.hasDestinationCircuitID = PerReadBit(r);
+  m.hasGenericData = PerReadBit(r);
+  if (m.hasSourceCircuitID) KELVRA_TRY(DecodeCircuitIdentifier(m.sourceCircuitID, r));
+  if (m.hasDestinationCircuitID) KELVRA_TRY(DecodeCircuitIdentifier(m.destinationCircuitID, r));
+  if (m.hasGenericData) KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.genericData), r, DecodeGenericData));
   if (m.isExtended) PerSkipExtensionAdditions(r);
   return kDecoded;
 }

@@ -4,6 +4,7 @@
 #include "per/record_decode.h"
 
 namespace kelvra::h225 {
+namespace {
 
 Status DecodeQ954Details(Q954Details& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
@@ -13,6 +14,38 @@ Status DecodeQ954Details(Q954Details& m, PerReader& r) {
   if (m.isExtended) PerSkipExtensionAdditions(r);
   return kDecoded;
 }
+
+Status DecodeCallCreditServiceControl(CallCreditServiceControl& m, PerReader& r) {
+  if (PerAtEnd(r)) return kExhausted;
+  m.isExtended = PerReadBit(r);
+  m.hasAmountString = PerReadBit(r);
+  m.hasBillingMode = PerReadBit(r);
+  m.hasCallDurationLimit = PerReadBit(r);
+  m.hasEnforceCallDurationLimit = PerReadBit(r);
+  m.hasCallStartingPoint = PerReadBit(r);
+  if (m.hasAmountString) PerReadSizedBMPString(m.amountString, r, 1, 512);
+  if (m.hasBillingMode) KELVRA_TRY(DecodeNullChoice(m.billingMode, r));
+  if (m.hasCallDurationLimit) m.callDurationLimit = PerReadNumber<uint32_t>(r, 1, kUnsigned32Maximum);
+  if (m.hasEnforceCallDurationLimit) m.enforceCallDurationLimit = PerReadBit(r);
+  if (m.hasCallStartingPoint) KELVRA_TRY(DecodeNullChoice(m.callStartingPoint, r));
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+  return kDecoded;
+}
+
+Status DecodeServiceControlDescriptor(ServiceControlDescriptor& m, PerReader& r) {
+  if (PerAtEnd(r)) return kExhausted;
+  const uint32_t index = ReadChoice(m, r, 4);
+  if (m.isExtension) return SkipAlternative(r);
+  switch (index) {
+    case 0: PerReadSizedOctets(m.url, r, 0, 512); return kDecoded;
+    case 1: PerReadAnnouncedOctetString(m.signal, r); return kDecoded;
+    case 2: return DecodeNonStandardParameter(m.nonStandard, r);
+    case 3: return DecodeCallCreditServiceControl(m.callCreditServiceControl, r);
+    default: return kMalformed;
+  }
+}
+
+}  // namespace
 
 Status DecodeQseriesOptions(QseriesOptions& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
@@ -40,23 +73,6 @@ Status DecodeCallLinkage(CallLinkage& m, PerReader& r) {
   return kDecoded;
 }
 
-Status DecodeCallCreditServiceControl(CallCreditServiceControl& m, PerReader& r) {
-  if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasAmountString = PerReadBit(r);
-  m.hasBillingMode = PerReadBit(r);
-  m.hasCallDurationLimit = PerReadBit(r);
-  m.hasEnforceCallDurationLimit = PerReadBit(r);
-  m.hasCallStartingPoint = PerReadBit(r);
-  if (m.hasAmountString) PerReadSizedBMPString(m.amountString, r, 1, 512);
-  if (m.hasBillingMode) KELVRA_TRY(DecodeNullChoice(m.billingMode, r));
-  if (m.hasCallDurationLimit) m.callDurationLimit = PerReadNumber<uint32_t>(r, 1, kUnsigned32Maximum);
-  if (m.hasEnforceCallDurationLimit) m.enforceCallDurationLimit = PerReadBit(r);
-  if (m.hasCallStartingPoint) KELVRA_TRY(DecodeNullChoice(m.callStartingPoint, r));
-  if (m.isExtended) PerSkipExtensionAdditions(r);
-  return kDecoded;
-}
-
 Status DecodeCallCreditCapability(CallCreditCapability& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
   m.isExtended = PerReadBit(r);
@@ -66,19 +82,6 @@ Status DecodeCallCreditCapability(CallCreditCapability& m, PerReader& r) {
   if (m.hasCanEnforceDurationLimit) m.canEnforceDurationLimit = PerReadBit(r);
   if (m.isExtended) PerSkipExtensionAdditions(r);
   return kDecoded;
-}
-
-Status DecodeServiceControlDescriptor(ServiceControlDescriptor& m, PerReader& r) {
-  if (PerAtEnd(r)) return kExhausted;
-  const uint32_t index = ReadChoice(m, r, 4);
-  if (m.isExtension) return SkipAlternative(r);
-  switch (index) {
-    case 0: PerReadSizedOctets(m.url, r, 0, 512); return kDecoded;
-    case 1: PerReadAnnouncedOctetString(m.signal, r); return kDecoded;
-    case 2: return DecodeNonStandardParameter(m.nonStandard, r);
-    case 3: return DecodeCallCreditServiceControl(m.callCreditServiceControl, r);
-    default: return kMalformed;
-  }
 }
 
 Status DecodeServiceControlSession(ServiceControlSession& m, PerReader& r) {

@@ -11,8 +11,6 @@ void DecodeG7231(AudioCapability::G7231& m, PerReader& r) {
   m.silenceSuppression = PerReadBit(r);
 }
 
-}  // namespace
-
 void DecodeIS11172AudioCapability(IS11172AudioCapability& m, PerReader& r) {
   m.isExtended = PerReadBit(r);
   m.audioLayer1 = PerReadBit(r);
@@ -53,6 +51,17 @@ void DecodeIS13818AudioCapability(IS13818AudioCapability& m, PerReader& r) {
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
+void DecodeG7231AnnexCCapability(G7231AnnexCCapability& m, PerReader& r) {
+  m.isExtended = PerReadBit(r);
+  m.hasG723AnnexCAudioMode = PerReadBit(r);
+  m.maxAlSduAudioFrames = PerReadNumber<uint16_t>(r, 1, 256);
+  m.silenceSuppression = PerReadBit(r);
+  if (m.hasG723AnnexCAudioMode) DecodeG723AnnexCAudioMode(m.g723AnnexCAudioMode, r);
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+}
+
+}  // namespace
+
 void DecodeG723AnnexCAudioMode(G7231AnnexCCapability::G723AnnexCAudioMode& m, PerReader& r) {
   m.isExtended = PerReadBit(r);
   m.highRateMode0 = PerReadNumber<uint8_t>(r, 27, 78);
@@ -61,15 +70,6 @@ void DecodeG723AnnexCAudioMode(G7231AnnexCCapability::G723AnnexCAudioMode& m, Pe
   m.lowRateMode1 = PerReadNumber<uint8_t>(r, 23, 66);
   m.sidMode0 = PerReadNumber<uint8_t>(r, 6, 17);
   m.sidMode1 = PerReadNumber<uint8_t>(r, 6, 17);
-  if (m.isExtended) PerSkipExtensionAdditions(r);
-}
-
-void DecodeG7231AnnexCCapability(G7231AnnexCCapability& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasG723AnnexCAudioMode = PerReadBit(r);
-  m.maxAlSduAudioFrames = PerReadNumber<uint16_t>(r, 1, 256);
-  m.silenceSuppression = PerReadBit(r);
-  if (m.hasG723AnnexCAudioMode) DecodeG723AnnexCAudioMode(m.g723AnnexCAudioMode, r);
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 

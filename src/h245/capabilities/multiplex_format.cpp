@@ -95,8 +95,6 @@ void DecodeMobileMultilinkFrameCapability(H223Capability::MobileMultilinkFrameCa
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
-}  // namespace
-
 void DecodeVCCapability(VCCapability& m, PerReader& r) {
   m.isExtended = PerReadBit(r);
   m.hasAal1 = PerReadBit(r);
@@ -113,13 +111,6 @@ void DecodeVCCapability(VCCapability& m, PerReader& r) {
   const int32_t unknown = PerCountUnknownAdditions(r, additions);
   if (m.hasAal1ViaGateway) DecodeOpen(m.aal1ViaGateway, r, DecodeAal1ViaGateway);
   PerSkipOpenTypes(r, unknown);
-}
-
-void DecodeH222Capability(H222Capability& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.numberOfVCs = PerReadNumber<uint16_t>(r, 1, 256);
-  KELVRA_OR_STOP(DecodeSequenceOf(KELVRA_LIST(m.vcCapability), r, DecodeVCCapability));
-  if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
 void DecodeH223AnnexCCapability(H223AnnexCCapability& m, PerReader& r) {
@@ -144,6 +135,15 @@ void DecodeH223AnnexCCapability(H223AnnexCCapability& m, PerReader& r) {
   const int32_t unknown = PerCountUnknownAdditions(r, additions);
   if (m.hasRsCodeCapability) m.rsCodeCapability = PerReadOpenBoolean(r);
   PerSkipOpenTypes(r, unknown);
+}
+
+}  // namespace
+
+void DecodeH222Capability(H222Capability& m, PerReader& r) {
+  m.isExtended = PerReadBit(r);
+  m.numberOfVCs = PerReadNumber<uint16_t>(r, 1, 256);
+  KELVRA_OR_STOP(DecodeSequenceOf(KELVRA_LIST(m.vcCapability), r, DecodeVCCapability));
+  if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
 void DecodeH223Capability(H223Capability& m, PerReader& r) {
