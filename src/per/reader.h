@@ -26,11 +26,14 @@ struct OpenTypeRing {
   const uint8_t* starts[kOpenTypeLevels];
 };
 
+// Of a type that no record has, so that the compiler knows a reader's offset to survive a store to a record.
+using BitOffset = unsigned long;
+
 // There is no error flag: a read that fails moves `position` to `end`, and from then on every read
 // yields 0. An open type's length can carry `position` beyond `end`, which counts as exhausted.
 struct PerReader {
   const uint8_t* position;  // the octet that holds the next unread bit
-  uint32_t bitOffset;       // bits of that octet already consumed, 0 to 7
+  BitOffset bitOffset;      // bits of that octet already consumed, 0 to 7
   const uint8_t* end;
 
   const uint8_t* readable;  // end of the caller's octets; those from here to `end` read as zero
@@ -106,7 +109,7 @@ inline uint32_t PerLoad32(const uint8_t* octets) {
 // The next 1 to 32 bits of a window.
 [[gnu::always_inline]] inline uint32_t PerTakeBits(PerReader& reader, uint32_t count) {
   const uint8_t* octets = reader.position;
-  const uint32_t offset = reader.bitOffset;
+  const BitOffset offset = reader.bitOffset;
   uint32_t bits = PerLoad32(octets) << offset;
   // Up to 25 bits lie within four octets.
   if (!__builtin_constant_p(count) || count > 25) bits |= uint32_t{octets[4]} >> (8 - offset);
@@ -136,10 +139,10 @@ inline void PerMoveTo(PerReader& reader, const uint8_t* octet) {
   if (reader.position >= reader.octetLimit) [[unlikely]]
     return PerReadBitsAtEdge(reader, 1);
   const uint8_t* octet = reader.position;
-  const uint32_t offset = reader.bitOffset;
+  const BitOffset offset = reader.bitOffset;
   reader.position = octet + (offset + 1) / 8;
   reader.bitOffset = (offset + 1) % 8;
-  return uint32_t{*octet} >> (7 - offset) & 1;
+  return uint32_t{*octet} << offset >> 7 & 1;
 }
 
 // Advances to the next octet boundary.
