@@ -6,20 +6,20 @@ SHELL := bash
 
 BUILD := build/linux-x64
 DUMP := $(BUILD)/bin/kelvra-dump
-CXX_FILES = $(shell find src tools tests fuzz -name '*.cpp' -o -name '*.h')
+CXX_FILES = $(shell find src tools tests fuzz bench -name '*.cpp' -o -name '*.h')
 
-.PHONY: all demo test fuzz records format lint clean
+.PHONY: all demo test fuzz records format lint bench bench-check bench-baseline clean
 
 # The library and the viewer.
 all:
 	scripts/setup.sh demo
-	cmake --preset linux-x64 -DKELVRA_BUILD_TESTS=OFF
+	cmake --preset linux-x64 -DKELVRA_BUILD_TESTS=OFF -DKELVRA_BUILD_BENCH=OFF
 	cmake --build --preset linux-x64 --parallel
 
 # Decodes a recorded call: first one line for each message, then their contents.
 demo:
 	scripts/setup.sh demo
-	cmake --preset linux-x64 -DKELVRA_BUILD_TESTS=OFF
+	cmake --preset linux-x64 -DKELVRA_BUILD_TESTS=OFF -DKELVRA_BUILD_BENCH=OFF
 	cmake --build --preset linux-x64 --parallel --target kelvra-dump
 	$(DUMP) samples/call.pcap
 	@echo
@@ -45,8 +45,21 @@ format:
 
 lint:
 	scripts/setup.sh lint
-	cmake --preset linux-x64 -DKELVRA_BUILD_TESTS=OFF
+	cmake --preset linux-x64 -DKELVRA_BUILD_TESTS=OFF -DKELVRA_BUILD_BENCH=OFF
 	run-clang-tidy -quiet -p $(BUILD) '/(src|tools)/.*\.cpp$$'
+
+# Times the library against its floor; ARGUMENTS go to the program, as --benchmark_filter=setup.
+bench:
+	scripts/setup.sh bench
+	cmake --preset bench
+	cmake --build --preset bench --parallel --target kelvra-bench
+	build/bench/bin/kelvra-bench $(ARGUMENTS)
+
+# Counts instructions, and compares them with bench/baseline.json; or renews that file.
+bench-check bench-baseline:
+	scripts/setup.sh bench
+	cmake --preset bench
+	cmake --build --preset bench --parallel --target $@
 
 clean:
 	rm -rf build

@@ -3,6 +3,7 @@
 #
 #   scripts/setup.sh demo   build tools and the viewer's libraries (native x64)
 #   scripts/setup.sh test   the above, the cross compilers, GoogleTest and Wine
+#   scripts/setup.sh bench  build tools, Google Benchmark and valgrind
 #   scripts/setup.sh lint   the above for demo, clang-format and clang-tidy
 #
 # It does nothing when nothing is missing. A Wine that cannot be installed is
@@ -15,10 +16,11 @@ demo_packages=(
   libcli11-dev nlohmann-json3-dev libpcap-dev libtins-dev
 )
 test_packages=(
-  googletest binutils clang libclang-rt-14-dev python3
+  googletest binutils clang libclang-rt-14-dev python3 valgrind
   g++-multilib
   g++-mingw-w64-i686-posix g++-mingw-w64-x86-64-posix
 )
+bench_packages=(cmake ninja-build make g++ libbenchmark-dev valgrind python3)
 wine_packages=(wine wine64 wine32:i386)
 lint_packages=(clang-format clang-tidy)
 
@@ -89,9 +91,10 @@ main() {
   case $mode in
     demo) wanted=("${demo_packages[@]}") ;;
     test) wanted=("${demo_packages[@]}" "${test_packages[@]}") ;;
+    bench) wanted=("${bench_packages[@]}") ;;
     lint) wanted=("${demo_packages[@]}" "${lint_packages[@]}") ;;
     *)
-      echo "usage: scripts/setup.sh [demo|test|lint]" >&2
+      echo "usage: scripts/setup.sh [demo|test|bench|lint]" >&2
       return 2
       ;;
   esac

@@ -36,16 +36,16 @@ inline void* PerAllocate(PerReader& reader, uint64_t size) {
 
 // --- Numbers. Each has its window inline; ...AtEdge reads the same wherever the reader stands. ---
 
-uint32_t PerReadConstrainedWholeNumberAtEdge(PerReader& reader, uint32_t range);
+uint32_t PerReadConstrainedWholeNumberAtEdge(PerReader& reader, uint32_t range);  // of 256 values or more
 uint32_t PerReadLengthAtEdge(PerReader& reader);
 uint32_t PerReadNormallySmallAtEdge(PerReader& reader);
 
 // Constrained whole number of `range` values (10.5), less its lower bound.
 [[gnu::always_inline]] inline uint32_t PerReadConstrainedWholeNumber(PerReader& reader, uint32_t range) {
   if (range < 2) return 0;
+  if (range < 256) return PerReadBits(reader, 32 - static_cast<uint32_t>(__builtin_clz(range - 1)));
   if (!PerHasWindow(reader)) [[unlikely]]
     return PerReadConstrainedWholeNumberAtEdge(reader, range);
-  if (range < 256) return PerTakeBits(reader, 32 - static_cast<uint32_t>(__builtin_clz(range - 1)));
   if (range <= 65536) {
     PerMoveTo(reader, PerBoundary(reader));
     return PerTakeBits(reader, range == 256 ? 8 : 16);

@@ -16,13 +16,6 @@ uint32_t ReadableOctets(const PerReader& reader) {
   return reader.position >= reader.readable ? 0 : static_cast<uint32_t>(reader.readable - reader.position);
 }
 
-// `octets` with the first of them uppermost in 64 bits, which the rest of are zero.
-uint64_t LoadFewerThanEight(const uint8_t* octets, uint32_t count) {
-  uint64_t value = 0;
-  for (uint32_t i = 0; i < count; ++i) value = value << 8 | octets[i];
-  return count == 0 ? 0 : value << (64 - 8 * count);
-}
-
 uint32_t AllowanceOf(uint32_t octets) {
   const uint64_t allowance = kLeastMessageMemory + uint64_t{octets} * kMessageMemoryForEachOctet;
   return allowance < kMaximumMessageMemory ? static_cast<uint32_t>(allowance) : kMaximumMessageMemory;
@@ -93,11 +86,15 @@ uint32_t PerReadBitsAtEdge(PerReader& reader, uint32_t count) {
     return 0;
   }
   if (count == 0) return 0;
-  // A value and its bit offset never span more than five octets.
+  const uint32_t total = static_cast<uint32_t>(reader.bitOffset) + count;
+  const uint32_t octets = (total + 7) / 8;  // five at most
   const uint32_t readable = ReadableOctets(reader);
-  const uint64_t window = LoadFewerThanEight(reader.position, readable < 5 ? readable : 5) << reader.bitOffset;
-  PerSkipBits(reader, count);
-  return static_cast<uint32_t>(window >> (64 - count));
+  uint64_t window = 0;
+  for (uint32_t i = 0; i < octets; ++i) window = window << 8 | (i < readable ? reader.position[i] : 0U);
+  reader.position += total / 8;
+  reader.bitOffset = total % 8;
+  const uint32_t value = static_cast<uint32_t>(window >> (octets * 8 - total));
+  return value & (UINT32_MAX >> (32 - count));
 }
 
 void PerSkipBits(PerReader& reader, uint32_t count) {
@@ -112,7 +109,7 @@ void PerSkipBits(PerReader& reader, uint32_t count) {
     return;
   }
   reader.position = PerAdvance(reader.position, static_cast<uint32_t>(total / 8));
-  reader.bitOffset = static_cast<uint32_t>(total % 8);
+  reader.bitOffset = static_cast<BitOffset>(total % 8);
 }
 
 }  // namespace kelvra

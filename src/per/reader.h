@@ -13,10 +13,11 @@ namespace kelvra {
 // that nests deeper is malformed.
 inline constexpr uint32_t kMaximumDepth = 32;
 
-// What the blocks of one message may claim in all: so many octets for each of its own, beside the first
-// megabyte, up to the maximum. A block past that is refused as if the heap had refused it. The densest
-// lists, of redundancy encodings and of empty PDUs in an InfoRequestResponse, take some 800 for each octet.
-inline constexpr uint32_t kMaximumMessageMemory = 16U << 20;
+// What the blocks of one message may claim in all: so many octets for each of its own beside the first
+// megabyte, up to the maximum. A block past that is refused as if the heap had refused it. The maximum is
+// what can be obtained, cleared and given back in a few milliseconds; what calls exchange stays far below
+// it, though lawful messages could be made that do not.
+inline constexpr uint32_t kMaximumMessageMemory = 6U << 20;
 inline constexpr uint32_t kLeastMessageMemory = 1U << 20;
 inline constexpr uint32_t kMessageMemoryForEachOctet = 2048;
 
@@ -34,11 +35,14 @@ struct OpenTypeRing {
   const uint8_t* starts[kOpenTypeLevels];
 };
 
+// Of a type that no record has, so that the compiler knows a reader's offset to survive a store to a record.
+using BitOffset = unsigned long;
+
 // There is no error flag: a read that fails moves `position` to `end`, and from then on every read
 // yields 0. An open type's length can carry `position` beyond `end`, which counts as exhausted.
 struct PerReader {
   const uint8_t* position;  // the octet that holds the next unread bit
-  uint32_t bitOffset;       // bits of that octet already consumed, 0 to 7
+  BitOffset bitOffset;      // bits of that octet already consumed, 0 to 7
   const uint8_t* end;
 
   const uint8_t* readable;  // end of the caller's octets; those from here to `end` read as zero
@@ -124,7 +128,7 @@ inline uint32_t PerLoad32(const uint8_t* octets) {
 // The next 1 to 32 bits of a window.
 [[gnu::always_inline]] inline uint32_t PerTakeBits(PerReader& reader, uint32_t count) {
   const uint8_t* octets = reader.position;
-  const uint32_t offset = reader.bitOffset;
+  const BitOffset offset = reader.bitOffset;
   uint32_t bits = PerLoad32(octets) << offset;
   // Up to 25 bits lie within four octets.
   if (!__builtin_constant_p(count) || count > 25) bits |= uint32_t{octets[4]} >> (8 - offset);
@@ -154,10 +158,10 @@ inline void PerMoveTo(PerReader& reader, const uint8_t* octet) {
   if (reader.position >= reader.octetLimit) [[unlikely]]
     return PerReadBitsAtEdge(reader, 1);
   const uint8_t* octet = reader.position;
-  const uint32_t offset = reader.bitOffset;
+  const BitOffset offset = reader.bitOffset;
   reader.position = octet + (offset + 1) / 8;
   reader.bitOffset = (offset + 1) % 8;
-  return uint32_t{*octet} >> (7 - offset) & 1;
+  return uint32_t{*octet} << offset >> 7 & 1;
 }
 
 // Bounds the reader to the next `length` octets while it lives. Afterwards the reader stands behind them,

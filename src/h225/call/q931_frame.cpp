@@ -9,7 +9,7 @@ namespace kelvra::h225 {
 namespace {
 
 constexpr uint32_t kTpktHeader = 4;
-constexpr uint16_t kFirstElement = 5;  // whatever length the call reference claims
+constexpr uint16_t kFirstElement = 5;
 constexpr uint8_t kUserUser = 0x7E;
 
 enum Q931ElementIdentifier : uint8_t {
@@ -33,45 +33,103 @@ void Trace(int32_t severity, int32_t reason, int32_t line) {
   CodecTrace(kTraceFrame, severity, reason, kSourceFrame, line);
 }
 
-uint16_t HeaderSize(uint8_t identifier) { return identifier == kUserUser ? 3 : 2; }
+// Goes through the information elements of a frame in the order in which they follow one another.
+class ElementWalk {
+ public:
+  explicit ElementWalk(const Q931Frame& frame) : frame_(frame) {}
 
-// Copies the information elements of one frame into its record.
+  // The next element with contents whose length and header the frame can hold; those of a single octet
+  // are passed over. False when there is no more.
+  bool Next(uint8_t& identifier, Q931Element& element) {
+    // The position wraps at 16 bits; a walk that has taken a step for each position goes round in circles.
+    while (steps_ <= UINT16_MAX && position_ < frame_.length) {
+      ++steps_;
+      const uint16_t position = position_;
+      identifier = frame_.At(position);
+      if (identifier >= 0x80) {
+        position_ = static_cast<uint16_t>(position + 1);
+        continue;
+      }
+      const uint32_t header = identifier == kUserUser ? 3 : 2;
+      const uint32_t high = identifier == kUserUser ? frame_.At(position + uint32_t{1}) : uint8_t{0};
+      element = {position, static_cast<uint16_t>(high << 8 | frame_.At(position + header - 1))};
+      position_ = static_cast<uint16_t>(position + header + element.length);
+      // Bounded by the whole frame, not by what is left of it.
+      if (header + element.length <= frame_.length) return true;
+    }
+    return false;
+  }
+
+ private:
+  const Q931Frame& frame_;
+  uint32_t steps_ = 0;
+  uint16_t position_ = kFirstElement;  // whatever length the call reference claims
+};
+
+// The first element of each identifier, found in one pass over the frame.
+class FirstElements {
+ public:
+  explicit FirstElements(const Q931Frame& frame) {
+    ElementWalk walk(frame);
+    uint8_t identifier = 0;
+    Q931Element element{};
+    while (walk.Next(identifier, element)) {
+      if (!Holds(identifier)) elements_[identifier] = element;
+      held_[identifier / 32] |= uint32_t{1} << identifier % 32;
+    }
+  }
+
+  const Q931Element* Find(uint8_t identifier) const {
+    return identifier < kIdentifiers && Holds(identifier) ? &elements_[identifier] : nullptr;
+  }
+
+ private:
+  static constexpr uint32_t kIdentifiers = 128;  // from 0x80 on elements have a single octet
+
+  bool Holds(uint8_t identifier) const { return (held_[identifier / 32] >> identifier % 32 & 1) != 0; }
+
+  uint32_t held_[kIdentifiers / 32] = {};
+  Q931Element elements_[kIdentifiers];  // of those held
+};
+
+// Copies the information elements of one frame into its cleared record.
 class ElementCopier {
  public:
-  ElementCopier(Q931MessageRecord& record, const Q931Frame& frame) : record_(record), frame_(frame) {}
+  ElementCopier(Q931MessageRecord& record, const Q931Frame& frame, const FirstElements& elements)
+      : record_(record), frame_(frame), elements_(elements) {}
 
   // One octet of the contents, whatever their length.
   uint8_t Octet(uint8_t identifier, uint32_t index, Q931Presence bit) {
-    Q931Element element{};
-    if (FindQ931Element(&frame_, identifier, &element) != kQ931Decoded) return 0;
+    const Q931Element* element = elements_.Find(identifier);
+    if (element == nullptr) return 0;
     record_.presenceMask |= bit;
-    return frame_.At(element.position + uint32_t{2} + index);
+    return frame_.At(element->position + uint32_t{2} + index);
   }
 
   // The contents behind their first `skipped` octets, where 1 to `room` are left. Returns how many.
   uint8_t Octets(uint8_t identifier, uint32_t skipped, uint8_t* octets, uint32_t room, Q931Presence bit) {
-    Q931Element element{};
-    if (FindQ931Element(&frame_, identifier, &element) != kQ931Decoded) return 0;
-    if (element.length <= skipped || element.length - skipped > room) return 0;
-    const uint32_t count = element.length - skipped;
-    for (uint32_t i = 0; i < count; ++i) octets[i] = frame_.At(element.position + 2 + skipped + i);
+    const Q931Element* element = elements_.Find(identifier);
+    if (element == nullptr) return 0;
+    if (element->length <= skipped || element->length - skipped > room) return 0;
+    const uint32_t count = element->length - skipped;
+    for (uint32_t i = 0; i < count; ++i) octets[i] = frame_.At(element->position + 2 + skipped + i);
     record_.presenceMask |= bit;
     return static_cast<uint8_t>(count);
   }
 
   void Mark(uint8_t identifier, Q931Presence bit) {
-    Q931Element element{};
-    if (FindQ931Element(&frame_, identifier, &element) == kQ931Decoded) record_.presenceMask |= bit;
+    if (elements_.Find(identifier) != nullptr) record_.presenceMask |= bit;
   }
 
  private:
   Q931MessageRecord& record_;
   const Q931Frame& frame_;
+  const FirstElements& elements_;
 };
 
 // A record keeps neither the type-of-number octet of a number nor the type of a subaddress.
-void CopyElements(Q931MessageRecord& m, const Q931Frame& frame) {
-  ElementCopier copy(m, frame);
+void CopyElements(Q931MessageRecord& m, const Q931Frame& frame, const FirstElements& elements) {
+  ElementCopier copy(m, frame, elements);
   copy.Octets(kCallingPartyNumber, 1, m.callingPartyNumber, 32, kCallingPartyNumberPresent);
   copy.Octets(kCalledPartyNumber, 1, m.calledPartyNumber, 32, kCalledPartyNumberPresent);
   m.causeValue = copy.Octet(kCause, 1, kCausePresent);
@@ -110,23 +168,10 @@ int32_t FindQ931Element(const Q931Frame* frame, uint8_t identifier, Q931Element*
     Trace(kTraceError, kReasonArgument, __LINE__);
     return kQ931BadArgument;
   }
-  if (frame->length <= kFirstElement) return kQ931Rejected;
-  uint16_t position = kFirstElement;
-  // The position wraps at 16 bits; a search that has taken a step for each position goes round in circles.
-  for (uint32_t step = 0; step <= UINT16_MAX && position < frame->length; ++step) {
-    const uint8_t candidate = frame->At(position);
-    uint32_t size = 1;
-    if (candidate < 0x80) {
-      const uint32_t high = candidate == kUserUser ? frame->At(position + uint32_t{1}) : uint8_t{0};
-      element->length = static_cast<uint16_t>(high << 8 | frame->At(position + uint32_t{HeaderSize(candidate)} - 1));
-      size = uint32_t{element->length} + HeaderSize(candidate);
-      // Bounded by the whole frame, not by what is left of it.
-      if (candidate == identifier && size <= frame->length) {
-        element->position = position;
-        return kQ931Decoded;
-      }
-    }
-    position = static_cast<uint16_t>(position + size);
+  ElementWalk walk(*frame);
+  uint8_t candidate = 0;
+  while (walk.Next(candidate, *element)) {
+    if (candidate == identifier) return kQ931Decoded;
   }
   return kQ931Rejected;
 }
@@ -145,14 +190,15 @@ int32_t DecodeQ931Frame(Q931MessageRecord* record, const uint8_t* buffer, int32_
   record->callReferenceLength = frame.At(1);
   record->callReferenceValue = static_cast<uint16_t>(frame.At(2) << 8 | frame.At(3));
   record->messageType = frame.At(4);
-  CopyElements(*record, frame);
+  const FirstElements elements(frame);
+  CopyElements(*record, frame, elements);
 
-  Q931Element userUser{};
-  if (FindQ931Element(&frame, kUserUser, &userUser) != kQ931Decoded) {
+  const Q931Element* userUser = elements.Find(kUserUser);
+  if (userUser == nullptr) {
     Trace(kTraceError, kReasonMissingElement, __LINE__);
     return kQ931Rejected;
   }
-  if (!DecodeUserInformationElement(record->userInformation, frame, userUser)) {
+  if (!DecodeUserInformationElement(record->userInformation, frame, *userUser)) {
     Trace(kTraceError, kReasonDecode, __LINE__);
     return kQ931Rejected;
   }

@@ -1,0 +1,26 @@
+// What is measured: a decode and its release, and the floor below which neither can go.
+#pragma once
+
+#include "api/kelvra.h"
+#include "workload.h"
+
+namespace kelvra::bench {
+
+// A record of whichever family.
+union AnyRecord {
+  h225::RasMessageRecord ras;
+  h225::Q931MessageRecord q931;
+  h245::H245MessageRecord h245;
+};
+
+void Decode(AnyRecord& record, const Message& message);
+void Release(AnyRecord& record, const Message& message);
+
+// Clears the record, reads each octet once, and obtains and gives back the blocks that the message
+// takes, by calloc and free. `blocks` has room for all of them.
+void RunFloor(AnyRecord& record, const Message& message, std::vector<void*>& blocks);
+
+// The most blocks that a message of the workload obtains.
+size_t MostBlocks(const Workload& workload);
+
+}  // namespace kelvra::bench
