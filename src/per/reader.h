@@ -17,7 +17,7 @@ inline constexpr uint32_t kMaximumDepth = 32;
 // megabyte, up to the maximum. A block past that is refused as if the heap had refused it. The maximum is
 // what can be obtained, cleared and given back in a few milliseconds; what calls exchange stays far below
 // it, though lawful messages could be made that do not.
-inline constexpr uint32_t kMaximumMessageMemory = 6U << 20;
+inline constexpr uint32_t kMaximumMessageMemory = 8U << 20;
 inline constexpr uint32_t kLeastMessageMemory = 1U << 20;
 inline constexpr uint32_t kMessageMemoryForEachOctet = 2048;
 
