@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "doubles/fault_test.h"
 #include "doubles/message_family.h"
 #include "hostile/hostile_messages.h"
 
@@ -54,7 +55,9 @@ size_t DepthOf(const Message& message) {
   }
 }
 
-TEST(Stack, StaysWithinItsBoundAtTheDepthLimit) {
+using Stack = FaultTest;
+
+TEST_F(Stack, StaysWithinItsBoundAtTheDepthLimit) {
   size_t deepest[3] = {};
   const auto measure = [&](const Message& message) {
     size_t& depth = deepest[static_cast<size_t>(message.family)];
