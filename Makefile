@@ -41,8 +41,7 @@ format:
 
 lint:
 	scripts/setup.sh lint
-	cmake --preset linux-x64 -DKELVRA_BUILD_TESTS=OFF
-	run-clang-tidy -quiet -p $(BUILD) '/(src|tools)/.*\.cpp$$'
+	scripts/lint.sh
 
 clean:
 	rm -rf build

@@ -53,10 +53,15 @@ void WalkOctets(Visitor& visitor, const char* name, const OctetStringValue& valu
   visitor.Octets(name, Slot<uint8_t>(&value.data), value.length, notation);
 }
 
+template <uint32_t kCount>
+constexpr uint32_t CountOf(const char* const (&)[kCount]) {
+  return kCount;
+}
+
 // Passes a CHOICE of NULLs to a visitor. `Names` lists its alternatives, roots first.
 template <class Names, class Visitor>
 void WalkNullChoice(Visitor& visitor, uint32_t isExtension, uint32_t tag) {
-  constexpr uint32_t kCount = sizeof(Names::kAlternatives) / sizeof(Names::kAlternatives[0]);
+  constexpr uint32_t kCount = CountOf(Names::kAlternatives);
   if (isExtension == 0) {
     if (tag < Names::kRoots) return visitor.Null(Names::kAlternatives[tag]);
     return visitor.UnknownRoot(tag);
