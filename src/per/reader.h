@@ -69,6 +69,8 @@ void PerReaderInit(PerReader& reader, const uint8_t* buffer, uint32_t length, ui
 // `pointer` plus `count`, held at the last address instead of wrapping round.
 inline const uint8_t* PerAdvance(const uint8_t* pointer, uint32_t count) {
   const auto address = reinterpret_cast<uintptr_t>(pointer);
+  // An address behind the buffer is only compared, which the arithmetic of pointers does not allow for.
+  // NOLINTNEXTLINE(performance-no-int-to-ptr)
   return reinterpret_cast<const uint8_t*>(count > UINTPTR_MAX - address ? UINTPTR_MAX : address + count);
 }
 
