@@ -33,8 +33,6 @@
 
 #include <stdint.h>
 
-#include <iterator>
-
 #include "list.h"
 #include "values.h"
 
@@ -59,10 +57,15 @@ void WalkOctets(Visitor& visitor, const char* name, const OctetStringValue& valu
   visitor.Octets(name, Slot<uint8_t>(&value.data), value.length, notation);
 }
 
+template <class Name, uint32_t kCount>
+constexpr uint32_t CountOf(Name (&)[kCount]) {
+  return kCount;
+}
+
 // Passes a CHOICE of NULLs to a visitor. `Names` lists its alternatives, roots first.
 template <class Names, class Visitor>
 void WalkNullChoice(Visitor& visitor, uint32_t isExtension, uint32_t tag) {
-  constexpr uint32_t kCount = std::size(Names::kAlternatives);
+  constexpr uint32_t kCount = CountOf(Names::kAlternatives);
   if (isExtension == 0) {
     if (tag < Names::kRoots) return visitor.Null(Names::kAlternatives[tag]);
     return visitor.UnknownRoot(tag);
