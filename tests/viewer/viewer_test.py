@@ -164,7 +164,13 @@ class Captures(unittest.TestCase):
         self.assertEqual([printed[6][k] for k in ("frame", "time", "source", "destination", "name")],
                          [10, "2023-11-14T22:13:20.130000Z", "192.0.2.10:50001", "192.0.2.20:1720", "setup"])
         self.assertEqual(sum(o["family"] == "h245" for o in printed), 15)
-        summary = run(data=SAMPLE).stdout.decode()
+        result = run(data=SAMPLE)
+        self.assertEqual(result.returncode, 0)
+        summary = result.stdout.decode()
+        for details in ("receive g711Ulaw64k, g711Alaw64k, g7231, dtmf, h261VideoCapability\n",
+                        "channel 101  forward g729AnnexA  media 192.0.2.10:5006/192.0.2.10:5007\n",
+                        'input "5"  for 200 ms\n', "decision slave\n", "channel 101  by user\n", "end disconnect\n"):
+            self.assertIn(details, summary)
         self.assertIn('from "4001"  to "4002"  media 192.0.2.10:5004/192.0.2.10:5005', summary)
         self.assertEqual(summary.count("+ H.245"), 2)
 
