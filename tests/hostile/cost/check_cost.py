@@ -11,8 +11,8 @@ import tempfile
 
 MOST = 20_000_000  # 10 ms at two instructions a nanosecond
 RATIO = 2.2
-# Below these the cost of obtaining the first blocks shows.
-SMALLEST = 200_000
+# Half a millisecond, below which growth is not judged: bounds begin to hold there, and searches to go round.
+SMALLEST = 1_300_000
 
 
 def counts(program):
