@@ -28,8 +28,6 @@ void PerReaderInit(PerReader& reader, const uint8_t* buffer, uint32_t length, ui
   reader.end = PerAdvance(buffer, length);
   reader.readable = PerAdvance(buffer, available);
   reader.octetLimit = reader.end < reader.readable ? reader.end : reader.readable;
-  const uint32_t inside = PerOctetsInside(reader);
-  reader.windowLimit = inside < kWindowOctets ? buffer : reader.octetLimit - (kWindowOctets - 1);
 }
 
 uint8_t PerPeekOctet(const PerReader& reader, uint32_t index) {
