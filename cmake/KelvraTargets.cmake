@@ -5,9 +5,12 @@ set(kelvra_warnings -Wall -Wextra -Wconversion -Wshadow -Wpedantic -Werror)
 function(_kelvra_common target)
   target_compile_options(${target} PRIVATE ${kelvra_warnings})
   if(KELVRA_SANITIZE)
-    set(flags -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    set(flags -fsanitize=${KELVRA_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_compile_options(${target} PRIVATE ${flags})
     target_link_options(${target} PUBLIC ${flags})
+  endif()
+  if(KELVRA_FUZZ)
+    target_compile_options(${target} PRIVATE -fsanitize=fuzzer-no-link)
   endif()
   if(WIN32)
     # A bare Windows has none of the compiler's own libraries.
@@ -27,6 +30,10 @@ endfunction()
 # Tools and tests.
 function(kelvra_program_options target)
   _kelvra_common(${target})
+  if(KELVRA_BUILD_TESTS)
+    # What runs only in tests takes longer to optimize than to run. The library is tested as it ships.
+    target_compile_options(${target} PRIVATE -O0 -g1)
+  endif()
 endfunction()
 
 # Exports from the shared library exactly the names that the .def file lists.

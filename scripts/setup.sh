@@ -16,7 +16,7 @@ demo_packages=(
   libcli11-dev nlohmann-json3-dev libpcap-dev libtins-dev
 )
 test_packages=(
-  googletest binutils clang python3 valgrind
+  googletest binutils clang libclang-rt-14-dev python3 valgrind
   g++-multilib
   g++-mingw-w64-i686-posix g++-mingw-w64-x86-64-posix
 )

@@ -5,6 +5,7 @@
 #include "api/kelvra.h"
 #include "hex.h"
 #include "json_path.h"
+#include "record_json.h"
 
 namespace {
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "json_visitor.h"
+#include "json.h"
 #include "message.h"
 
 struct Decoded {

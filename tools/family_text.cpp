@@ -41,6 +41,13 @@ constexpr std::array<std::pair<unsigned, const char*>, 28> kMessageTypes{{
     {0x64, "Register"},
 }};
 
+// What a function that refused a message can have meant by it.
+std::string Refusal(Family family, const std::string& name) {
+  if (family == Family::kH245) return "octets left over";
+  const bool versioned = name == "registrationRequest" || name == "registrationConfirm";
+  return family == Family::kRas && versioned ? "malformed or of an unknown version" : "malformed";
+}
+
 }  // namespace
 
 const char* FamilyLabel(Family family) {
@@ -80,7 +87,5 @@ std::string MessageTitle(Family family, const Decoded& decoded) {
 std::string Fault(Family family, const Decoded& decoded) {
   if (decoded.ok) return {};
   if (!decoded.result) return "too long to be decoded";
-  // An H.245 decode ends short of the buffer behind a body that is only named, too.
-  const std::string fault = family == Family::kH245 ? "octets left over" : "malformed";
-  return fault + ", result " + std::to_string(*decoded.result);
+  return Refusal(family, decoded.name) + ", result " + std::to_string(*decoded.result);
 }

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "endpoint.h"
-#include "json_visitor.h"
+#include "json.h"
 
 // The member that the names lead to; a null value where there is none.
 const Json& Find(const Json& json, std::initializer_list<const char*> path);

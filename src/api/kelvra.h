@@ -4,8 +4,9 @@
 // decode hung off the record. The caller owns the record and the buffer. A decode clears the whole
 // record first, so every absent member, count and pointer is zero. The buffer is only read, and only
 // within its length. A record that was decoded, in whole or in part, is released once it is no longer
-// needed; releasing it again does nothing. No function keeps anything of a message between calls, and
-// different threads may decode at the same time, each into a record of its own.
+// needed; releasing it again does nothing. Between calls nothing of a message is kept but the H.225.0 version
+// that it named, by which later messages that name none are read. Different threads may decode at the same
+// time, each into a record of its own.
 #pragma once
 
 #include <stdint.h>
@@ -34,10 +35,11 @@ extern "C" {
 
 // Decodes one H.225.0 RasMessage (one UDP datagram of port 1718 or 1719).
 //
-// Returns the address in `buffer` of the first octet after the message, or 0 when the message was
-// malformed or cut short, or an argument is null. On failure the record's blocks are already released
-// and its pointers null; tags, counts and plain values keep what was decoded. Of an alternative that the
-// record has no body for only the tag is read, and the address is that behind the tag.
+// Returns the address of the first octet after the message, or 0 when the message was malformed or cut
+// short, or an argument is null. The address lies beyond the buffer when the message ends with an open type
+// that announces more octets than there are: compare it with the end of the buffer before you use it. On
+// failure the record's blocks are already released and its pointers null; tags, counts and plain values
+// keep what was decoded.
 // Only the low 16 bits of `length` count. A message that ends exactly with its buffer is refused,
 // because success is judged by the reader standing before the end: hand over one spare octet (zero)
 // behind the message and count it in `length`.
@@ -52,6 +54,9 @@ KELVRA_API void KELVRA_CALL KelvraFreeRASMessage(kelvra::h225::RasMessageRecord*
 // Returns 0 when decoded; -1 on a null argument, or when the user-user element is missing or malformed
 // (the Q.931 members are then filled all the same, and the user information is released); -10 when the
 // low 16 bits of `length` are zero.
+// A negative length, such as that of a failed receive, stands for a buffer of no octets. Of a positive one the
+// low 16 bits tell the length of the frame; all of it bounds what is read, as an element may claim more than
+// the frame. Octets beyond the buffer read as zero.
 KELVRA_API int32_t KELVRA_CALL KelvraDecodeQ931Message(kelvra::h225::Q931MessageRecord* record, const uint8_t* buffer,
                                                        int32_t length);
 // A null record is ignored.
@@ -59,8 +64,9 @@ KELVRA_API void KELVRA_CALL KelvraFreeQ931Message(kelvra::h225::Q931MessageRecor
 
 // Decodes one H.245 MultimediaSystemControlMessage (a TPKT payload, or an element of h245Control).
 //
-// Returns 1 when the reader ended exactly at the end of the buffer, which a failed decode does too;
-// 0 when octets were left over; -1 on a null argument. Only the low 16 bits of `length` count.
+// Returns 1 when the reader ended exactly at the end of the buffer, which a decode that failed outside an
+// open type does too; 0 when octets were left over, or when an open type announced more octets than there
+// are; -1 on a null argument. Only the low 16 bits of `length` count.
 // Whatever the result, the caller releases the record.
 KELVRA_API int32_t KELVRA_CALL KelvraDecodeH245Message(kelvra::h245::H245MessageRecord* record, const uint8_t* buffer,
                                                        uint32_t length);

@@ -4,6 +4,17 @@
 namespace kelvra::h235 {
 namespace {
 
+Status DecodeECpoint(ECpoint& m, PerReader& r) {
+  if (PerAtEnd(r)) return kExhausted;
+  m.isExtended = PerReadBit(r);
+  m.hasX = PerReadBit(r);
+  m.hasY = PerReadBit(r);
+  if (m.hasX) PerReadSizedBitString(m.x, r, 0, 511);
+  if (m.hasY) PerReadSizedBitString(m.y, r, 0, 511);
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+  return kDecoded;
+}
+
 Status DecodeEckasdhp(ECKASDH::Eckasdhp& m, PerReader& r) {
   KELVRA_TRY(DecodeECpoint(m.publicKey, r));
   PerReadSizedBitString(m.modulus, r, 0, 511);
@@ -41,32 +52,12 @@ Status DecodeCryptoHashedToken(CryptoToken::CryptoHashedToken& m, PerReader& r) 
   return kDecoded;
 }
 
-}  // namespace
-
-Status DecodeNonStandardParameter(NonStandardParameter& m, PerReader& r) {
-  if (PerAtEnd(r)) return kExhausted;
-  PerReadObjectIdentifier(m.nonStandardIdentifier, r);
-  PerReadAnnouncedOctetString(m.data, r);
-  return kDecoded;
-}
-
 Status DecodeDHset(DHset& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
   m.isExtended = PerReadBit(r);
   PerReadSizedBitString(m.halfkey, r, 0, 2048);
   PerReadSizedBitString(m.modSize, r, 0, 2048);
   PerReadSizedBitString(m.generator, r, 0, 2048);
-  if (m.isExtended) PerSkipExtensionAdditions(r);
-  return kDecoded;
-}
-
-Status DecodeECpoint(ECpoint& m, PerReader& r) {
-  if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasX = PerReadBit(r);
-  m.hasY = PerReadBit(r);
-  if (m.hasX) PerReadSizedBitString(m.x, r, 0, 511);
-  if (m.hasY) PerReadSizedBitString(m.y, r, 0, 511);
   if (m.isExtended) PerSkipExtensionAdditions(r);
   return kDecoded;
 }
@@ -88,6 +79,32 @@ Status DecodeTypedCertificate(TypedCertificate& m, PerReader& r) {
   PerReadObjectIdentifier(m.type, r);
   PerReadAnnouncedOctetString(m.certificate, r);
   if (m.isExtended) PerSkipExtensionAdditions(r);
+  return kDecoded;
+}
+
+Status DecodeParams(Params& m, PerReader& r) {
+  if (PerAtEnd(r)) return kExhausted;
+  m.isExtended = PerReadBit(r);
+  m.hasRanInt = PerReadBit(r);
+  m.hasIv8 = PerReadBit(r);
+  if (m.hasRanInt) m.ranInt = PerReadInteger(r);
+  if (m.hasIv8) PerReadOctets(m.iv8, r, 8);
+  if (!m.isExtended) return kDecoded;
+
+  int32_t additions = PerReadBitmapLength(r);
+  m.hasIv16 = PerReadAdditionBit(r, additions);
+  PerNoteUnknownAdditions(r, additions);
+  if (m.hasIv16) DecodeOpen(m.iv16, r, PerReadOctetsElement<16>);
+  PerSkipUnknownAdditions(r);
+  return kDecoded;
+}
+
+}  // namespace
+
+Status DecodeNonStandardParameter(NonStandardParameter& m, PerReader& r) {
+  if (PerAtEnd(r)) return kExhausted;
+  PerReadObjectIdentifier(m.nonStandardIdentifier, r);
+  PerReadAnnouncedOctetString(m.data, r);
   return kDecoded;
 }
 
@@ -134,23 +151,6 @@ Status DecodeClearToken(ClearToken& m, PerReader& r) {
   PerNoteUnknownAdditions(r, additions);
   if (m.hasEckasdhkey) KELVRA_TRY(DecodeOpen(m.eckasdhkey, r, DecodeECKASDH));
   if (m.hasSendersID) DecodeOpen(m.sendersID, r, PerReadSizedBMPStringElement<1, 128>);
-  PerSkipUnknownAdditions(r);
-  return kDecoded;
-}
-
-Status DecodeParams(Params& m, PerReader& r) {
-  if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasRanInt = PerReadBit(r);
-  m.hasIv8 = PerReadBit(r);
-  if (m.hasRanInt) m.ranInt = PerReadInteger(r);
-  if (m.hasIv8) PerReadOctets(m.iv8, r, 8);
-  if (!m.isExtended) return kDecoded;
-
-  int32_t additions = PerReadBitmapLength(r);
-  m.hasIv16 = PerReadAdditionBit(r, additions);
-  PerNoteUnknownAdditions(r, additions);
-  if (m.hasIv16) DecodeOpen(m.iv16, r, PerReadOctetsElement<16>);
   PerSkipUnknownAdditions(r);
   return kDecoded;
 }

@@ -7,13 +7,8 @@
 namespace kelvra::h235 {
 
 Status DecodeNonStandardParameter(NonStandardParameter& m, PerReader& r);
-Status DecodeDHset(DHset& m, PerReader& r);
-Status DecodeECpoint(ECpoint& m, PerReader& r);
-Status DecodeECKASDH(ECKASDH& m, PerReader& r);
-Status DecodeTypedCertificate(TypedCertificate& m, PerReader& r);
 Status DecodeAuthenticationMechanism(AuthenticationMechanism& m, PerReader& r);
 Status DecodeClearToken(ClearToken& m, PerReader& r);
-Status DecodeParams(Params& m, PerReader& r);
 Status DecodeSIGNED(SIGNED& m, PerReader& r);
 Status DecodeENCRYPTED(ENCRYPTED& m, PerReader& r);
 Status DecodeHASHED(HASHED& m, PerReader& r);

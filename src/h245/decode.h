@@ -13,6 +13,11 @@ void DecodeNullChoice(NullChoice<Names>& m, PerReader& r) {
   if (m.isExtension) PerSkipOpenTypes(r, 1);
 }
 
+template <class Names>
+void DecodeNullChoice(RootNullChoice<Names>& m, PerReader& r) {
+  ReadRootChoice(m, r, Names::kRoots);
+}
+
 // How many presence bits a SEQUENCE's bitmap holds, kept in 8 bits: a coded 255 gives 0. The additions
 // that are not known are counted for this SEQUENCE alone, not in the counter that the others share.
 inline int32_t PerReadBitmapLength8(PerReader& r) { return static_cast<uint8_t>(PerReadNormallySmall(r) + 1); }

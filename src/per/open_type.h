@@ -17,12 +17,16 @@ inline void OpenTypeBegin(PerReader& reader) {
   ring.starts[ring.index] = reader.position;
 }
 
-// Leaves the innermost open type: the reader resumes behind it, whatever was consumed.
+// Leaves the innermost open type: the reader resumes behind it, whatever was consumed, unless the message
+// has had too much read again.
 inline void OpenTypeEnd(PerReader& reader) {
-  if (reader.position <= reader.end) reader.bitOffset = 0;
   OpenTypeRing& ring = reader.openTypes;
-  reader.position = PerAdvance(ring.starts[ring.index], ring.lengths[ring.index]);
+  const uint8_t* behind = PerAdvance(ring.starts[ring.index], ring.lengths[ring.index]);
   ring.index = ring.index == 0 ? kOpenTypeLevels - 1 : ring.index - 1;
+  if (behind < PerBoundary(reader)) [[unlikely]]
+    return PerMoveBack(reader, behind);
+  if (reader.position <= reader.end) reader.bitOffset = 0;
+  reader.position = behind;
 }
 
 // Passes over `count` open types. A length past the end leaves the reader beyond it.

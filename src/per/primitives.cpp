@@ -135,6 +135,15 @@ const uint8_t* TakeArcs(uint32_t* arcs, uint32_t count, const uint8_t* octets) {
   return octets;
 }
 
+// The arcs of an object identifier wherever the reader stands.
+void ReadArcs(PerReader& reader, uint32_t* arcs, uint32_t count) {
+  const uint32_t first = PerReadSubidentifier(reader);
+  arcs[0] = first / 40;
+  // Contents without a final octet count a single arc, so there is no room for the second.
+  if (count > 1) arcs[1] = first % 40;
+  for (uint32_t i = 2; i < count && !PerAtEnd(reader); ++i) arcs[i] = PerReadSubidentifier(reader);
+}
+
 }  // namespace
 
 void PerRefuseBlock(PerReader& reader) {
@@ -300,20 +309,23 @@ void PerReadObjectIdentifier(ObjectIdentifierValue& value, PerReader& reader) {
   value.count = count;
   if (length > left) {
     PerMoveToEnd(reader);
+    PerCountRereading(reader, contents);
     return;
   }
   auto* arcs = static_cast<uint32_t*>(PerAllocate(reader, uint64_t{count} * sizeof(uint32_t)));
-  if (arcs == nullptr) return;
-  value.arcs = arcs;
-  if (count > 1 && inside == length) [[likely]] {
-    reader.position = TakeArcs(arcs, count, reader.position);
+  if (arcs == nullptr) {
+    PerCountRereading(reader, contents);
     return;
   }
-  const uint32_t first = PerReadSubidentifier(reader);
-  arcs[0] = first / 40;
-  // Contents without a final octet count a single arc, so there is no room for the second.
-  if (count > 1) arcs[1] = first % 40;
-  for (uint32_t i = 2; i < count && !PerAtEnd(reader); ++i) arcs[i] = PerReadSubidentifier(reader);
+  value.arcs = arcs;
+  const uint8_t* behind = PerAdvance(reader.position, contents);
+  if (count > 1 && inside == length) [[likely]] {
+    reader.position = TakeArcs(arcs, count, reader.position);
+  } else {
+    ReadArcs(reader, arcs, count);
+  }
+  // Octets behind the last subidentifier that ends were looked at only.
+  if (reader.position < behind) PerCountRereading(reader, static_cast<uint32_t>(behind - reader.position));
 }
 
 }  // namespace kelvra

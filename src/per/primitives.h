@@ -24,13 +24,13 @@ inline constexpr uint32_t kFullRange = 0xFFFFFFFF;
 // A zeroed block of `size` octets against the message's allowance; refused, the reader moves to its end.
 inline void* PerAllocate(PerReader& reader, uint64_t size) {
   void* block = nullptr;
-  if (size <= kMaximumMessageMemory - reader.allocated) [[likely]]
+  if (size <= reader.allowance) [[likely]]
     block = CodecAlloc(static_cast<size_t>(size));
   if (block == nullptr) [[unlikely]] {
     PerRefuseBlock(reader);
     return nullptr;
   }
-  reader.allocated += static_cast<uint32_t>(size);
+  reader.allowance -= static_cast<uint32_t>(size);
   return block;
 }
 

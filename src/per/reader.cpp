@@ -16,6 +16,16 @@ uint32_t ReadableOctets(const PerReader& reader) {
   return reader.position >= reader.readable ? 0 : static_cast<uint32_t>(reader.readable - reader.position);
 }
 
+uint32_t AllowanceOf(uint32_t octets) {
+  const uint64_t allowance = kLeastMessageMemory + uint64_t{octets} * kMessageMemoryForEachOctet;
+  return allowance < kMaximumMessageMemory ? static_cast<uint32_t>(allowance) : kMaximumMessageMemory;
+}
+
+void SetEnd(PerReader& reader, const uint8_t* end) {
+  reader.end = end;
+  reader.octetLimit = end < reader.readable ? end : reader.readable;
+}
+
 }  // namespace
 
 void PerReaderInit(PerReader& reader, const uint8_t* buffer, uint32_t length) {
@@ -25,9 +35,36 @@ void PerReaderInit(PerReader& reader, const uint8_t* buffer, uint32_t length) {
 void PerReaderInit(PerReader& reader, const uint8_t* buffer, uint32_t length, uint32_t available) {
   reader = {};
   reader.position = buffer;
-  reader.end = PerAdvance(buffer, length);
   reader.readable = PerAdvance(buffer, available);
-  reader.octetLimit = reader.end < reader.readable ? reader.end : reader.readable;
+  SetEnd(reader, PerAdvance(buffer, length));
+  reader.allowance = AllowanceOf(PerOctetsInside(reader));
+}
+
+PerBounds::PerBounds(PerReader& reader, uint32_t length)
+    : reader_(reader), outerEnd_(reader.end), behind_(PerAdvance(reader.position, length)) {
+  SetEnd(reader, behind_);
+}
+
+PerBounds::~PerBounds() {
+  SetEnd(reader_, outerEnd_);
+  PerMoveTo(reader_, behind_);
+  reader_.stoppedAt = nullptr;
+  if (reader_.reread > kMaximumRereading) PerMoveToEnd(reader_);
+}
+
+bool PerCountRereading(PerReader& reader, uint32_t octets) {
+  reader.reread = reader.reread + octets > kMaximumRereading ? kMaximumRereading + 1 : reader.reread + octets;
+  if (reader.reread <= kMaximumRereading) return true;
+  PerMoveToEnd(reader);
+  return false;
+}
+
+void PerMoveBack(PerReader& reader, const uint8_t* octet) {
+  const uint8_t* read = PerBoundary(reader);
+  if (PerAtEnd(reader)) read = reader.stoppedAt != nullptr ? reader.stoppedAt : reader.end;
+  if (!PerCountRereading(reader, octet < read ? static_cast<uint32_t>(read - octet) : 0)) return;
+  PerMoveTo(reader, octet);
+  if (!PerAtEnd(reader)) reader.stoppedAt = nullptr;
 }
 
 uint8_t PerPeekOctet(const PerReader& reader, uint32_t index) {

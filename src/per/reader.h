@@ -13,9 +13,18 @@ namespace kelvra {
 // that nests deeper is malformed.
 inline constexpr uint32_t kMaximumDepth = 32;
 
-// What the blocks of one message may claim in all. The densest lawful message, 64 kB of minimal
-// fast-connect channels, stays below it. A block past it is refused as if the heap had refused it.
-inline constexpr uint32_t kMaximumMessageMemory = 16U << 20;
+// What the blocks of one message may claim in all: so many octets for each of its own beside the first
+// megabyte, up to the maximum. A block past that is refused as if the heap had refused it. The maximum is
+// what can be obtained, cleared and given back in a few milliseconds; what calls exchange stays far below
+// it, though lawful messages could be made that do not.
+inline constexpr uint32_t kMaximumMessageMemory = 6U << 20;
+inline constexpr uint32_t kLeastMessageMemory = 1U << 20;
+inline constexpr uint32_t kMessageMemoryForEachOctet = 2048;
+
+// How many octets of one message may be read, or looked at, a second time: those that leaving an open
+// type moves the reader back over, and those that were counted but not read. A lawful message has next
+// to none. Past it the reader moves to its end and stays there.
+inline constexpr uint32_t kMaximumRereading = 64U << 10;
 
 inline constexpr uint32_t kOpenTypeLevels = 10;
 
@@ -38,15 +47,16 @@ struct PerReader {
 
   const uint8_t* readable;  // end of the caller's octets; those from here to `end` read as zero
 
-  // The nearer of both: octets before it can be read without looking further. Neither of the two may be
-  // moved back below it.
+  // The nearer of both: octets before it can be read without looking further.
   const uint8_t* octetLimit;
 
   // State that belongs to the decoding of this one message.
   OpenTypeRing openTypes;
   int32_t extensionPresentCount;  // unknown additions to skip, as the last bitmap left it
   uint32_t depth;                 // recursive types entered
-  uint32_t allocated;             // octets claimed so far
+  uint32_t allowance;             // octets that blocks may still claim
+  uint32_t reread;                // octets read or looked at a second time so far
+  const uint8_t* stoppedAt;       // at the end only: how far it had read when it moved there; null: all the way
 };
 
 // Over `length` octets at `buffer`, with fresh decoding state.
@@ -75,9 +85,17 @@ inline uint32_t PerOctetsInside(const PerReader& reader) {
 }
 
 inline void PerMoveToEnd(PerReader& reader) {
+  if (!PerAtEnd(reader)) reader.stoppedAt = reader.position;
   reader.position = reader.end;
   reader.bitOffset = 0;
 }
+
+// Counts octets that are read or looked at a second time. Returns false, and the reader is at its end for
+// good, once they are too many.
+bool PerCountRereading(PerReader& reader, uint32_t octets);
+
+// Moves the reader back to `octet`, which an open type ends at.
+[[gnu::noinline]] void PerMoveBack(PerReader& reader, const uint8_t* octet);
 
 // The octet at `position` plus `index`, zero outside the caller's buffer.
 uint8_t PerPeekOctet(const PerReader& reader, uint32_t index);
@@ -144,6 +162,21 @@ inline void PerMoveTo(PerReader& reader, const uint8_t* octet) {
   reader.bitOffset = (offset + 1) % 8;
   return uint32_t{*octet} << offset >> 7 & 1;
 }
+
+// Bounds the reader to the next `length` octets while it lives. Afterwards the reader stands behind them,
+// whatever was consumed.
+class PerBounds {
+ public:
+  PerBounds(PerReader& reader, uint32_t length);
+  ~PerBounds();
+  PerBounds(const PerBounds&) = delete;
+  PerBounds& operator=(const PerBounds&) = delete;
+
+ private:
+  PerReader& reader_;
+  const uint8_t* outerEnd_;
+  const uint8_t* behind_;
+};
 
 // Advances to the next octet boundary.
 inline void PerAlign(PerReader& reader) {

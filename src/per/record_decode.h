@@ -149,14 +149,20 @@ void PerReadSizedBMPStringElement(BMPStringValue& value, PerReader& r) {
 
 // --- CHOICE ---
 
-// The header of an extensible CHOICE with `roots` root alternatives. Returns the index in full; the
-// record keeps its low 8 bits.
+// The index of an extensible CHOICE whose extension bit is read, of `roots` root alternatives. Returns it
+// in full; the record keeps its low 8 bits.
 template <class Choice>
-[[gnu::always_inline]] inline uint32_t ReadChoice(Choice& m, PerReader& r, uint32_t roots) {
-  m.isExtension = PerReadBit(r);
+[[gnu::always_inline]] inline uint32_t ReadChoiceIndex(Choice& m, PerReader& r, uint32_t roots) {
   const uint32_t index = m.isExtension ? PerReadNormallySmall(r) : PerReadConstrainedWholeNumber(r, roots);
   m.choiceTag = static_cast<uint8_t>(index);
   return index;
+}
+
+// The header of an extensible CHOICE: extension bit and index.
+template <class Choice>
+[[gnu::always_inline]] inline uint32_t ReadChoice(Choice& m, PerReader& r, uint32_t roots) {
+  m.isExtension = PerReadBit(r);
+  return ReadChoiceIndex(m, r, roots);
 }
 
 // The same for a CHOICE without an extension marker.
@@ -284,6 +290,16 @@ Status DecodeOpenSequenceOf(List list, PerReader& r,
                             Returned (*decode)(std::type_identity_t<typename List::Element>&, PerReader&)) {
   OpenTypeBegin(r);
   KELVRA_TRY(DecodeSequenceOf(list, r, decode));
+  OpenTypeEnd(r);
+  return kDecoded;
+}
+
+// SEQUENCE SIZE (low..high) OF in an open type.
+template <class List, class Returned>
+Status DecodeOpenSizedSequenceOf(List list, PerReader& r, uint32_t low, uint32_t high,
+                                 Returned (*decode)(std::type_identity_t<typename List::Element>&, PerReader&)) {
+  OpenTypeBegin(r);
+  KELVRA_TRY(DecodeSizedSequenceOf(list, r, low, high, decode));
   OpenTypeEnd(r);
   return kDecoded;
 }

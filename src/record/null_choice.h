@@ -38,6 +38,18 @@ struct NullChoice {
   }
 };
 
+// The same without an extension marker.
+template <class Names>
+struct RootNullChoice {
+  uint8_t choiceTag;
+  uint8_t empty;
+
+  template <class Record, class Visitor>
+  static void Walk(Record& m, Visitor& v) {
+    WalkNullChoice<Names>(v, 0, m.choiceTag);
+  }
+};
+
 }  // namespace h245
 
 #pragma pack(pop)

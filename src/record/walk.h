@@ -26,7 +26,8 @@
 //   template <class L> void FixedOctetStrings(const char* name, L list, uint32_t size);
 //                                        strings of one fixed size whose length words are not kept
 //
-// A list is a ListIn<Element, Count>. Blocks belong to the record; a visitor that releases them does so
+// A list is a ListIn<Element, Count>. Where its elements are lists themselves, each is a record that tells
+// its own list as kUnnamed. Blocks belong to the record; a visitor that releases them does so
 // through the slots.
 #pragma once
 
@@ -36,6 +37,9 @@
 #include "values.h"
 
 namespace kelvra {
+
+// The name of a value that is all there is of its record, as where each element of a list is a list.
+inline constexpr const char* kUnnamed = "";
 
 // How the octets of a string are to be read by a person.
 enum class OctetNotation : uint8_t {
@@ -53,10 +57,15 @@ void WalkOctets(Visitor& visitor, const char* name, const OctetStringValue& valu
   visitor.Octets(name, Slot<uint8_t>(&value.data), value.length, notation);
 }
 
+template <class T, uint32_t kCount>
+constexpr uint32_t CountOf(const T (&)[kCount]) {
+  return kCount;
+}
+
 // Passes a CHOICE of NULLs to a visitor. `Names` lists its alternatives, roots first.
 template <class Names, class Visitor>
 void WalkNullChoice(Visitor& visitor, uint32_t isExtension, uint32_t tag) {
-  constexpr uint32_t kCount = sizeof(Names::kAlternatives) / sizeof(Names::kAlternatives[0]);
+  constexpr uint32_t kCount = CountOf(Names::kAlternatives);
   if (isExtension == 0) {
     if (tag < Names::kRoots) return visitor.Null(Names::kAlternatives[tag]);
     return visitor.UnknownRoot(tag);

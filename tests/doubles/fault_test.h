@@ -7,7 +7,6 @@
 
 #include "doubles/heap_double.h"
 #include "doubles/message_corpus.h"
-#include "doubles/ownership_visitor.h"
 #include "per/reader.h"
 
 namespace kelvra::test {
@@ -21,16 +20,10 @@ class FaultTest : public testing::Test {
     heap_.DropLiveBlocks();
   }
 
-  static OwnershipVisitor WalkOf(DecodedMessage& message) {
-    OwnershipVisitor walk;
-    message.Walk(walk);
-    return walk;
-  }
-
   // The record reaches every live block once, and owns none after a refusal.
   void ExpectOwnership(Family family, DecodedMessage& message, const std::string& what) {
     const std::vector<const void*> live = heap_.LiveBlocks();
-    EXPECT_EQ(WalkOf(message).Blocks(), live) << what;
+    EXPECT_EQ(message.Walk().Blocks(), live) << what;
     EXPECT_TRUE(live.empty() || family == Family::kH245 || message.Accepted()) << what;
     EXPECT_LE(heap_.OctetsGranted(), kMaximumMessageMemory) << what;
   }
@@ -39,7 +32,7 @@ class FaultTest : public testing::Test {
   void ExpectCleanRelease(DecodedMessage& message, const std::string& what) {
     message.Release();
     EXPECT_TRUE(heap_.LiveBlocks().empty()) << what;
-    EXPECT_TRUE(WalkOf(message).Blocks().empty()) << what;
+    EXPECT_TRUE(message.Walk().Blocks().empty()) << what;
     const size_t releases = heap_.Releases().size();
     message.Release();
     EXPECT_EQ(heap_.Releases().size(), releases) << what;

@@ -75,6 +75,18 @@ DecodedMessage::DecodedMessage(Family family, const std::vector<uint8_t>& octets
   }
 }
 
+OwnershipVisitor DecodedMessage::Walk() {
+  OwnershipVisitor visitor;
+  if (auto* ras = std::get_if<h225::RasMessageRecord>(&record_)) {
+    h225::RasMessageRecord::Walk(*ras, visitor);
+  } else if (auto* q931 = std::get_if<h225::Q931MessageRecord>(&record_)) {
+    h225::H323UserInformation::Walk(q931->userInformation, visitor);
+  } else {
+    h245::H245MessageRecord::Walk(std::get<h245::H245MessageRecord>(record_), visitor);
+  }
+  return visitor;
+}
+
 void DecodedMessage::Release() {
   if (auto* ras = std::get_if<h225::RasMessageRecord>(&record_)) {
     KelvraFreeRASMessage(ras);

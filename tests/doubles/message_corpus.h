@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "api/kelvra.h"
+#include "doubles/ownership_visitor.h"
 
 namespace kelvra::test {
 
@@ -36,17 +37,9 @@ class DecodedMessage {
 
   void Release();
 
-  // The user information of a Q.931 message is walked whether it is marked as present or not.
-  template <class Visitor>
-  void Walk(Visitor& visitor) {
-    if (auto* ras = std::get_if<h225::RasMessageRecord>(&record_)) {
-      h225::RasMessageRecord::Walk(*ras, visitor);
-    } else if (auto* q931 = std::get_if<h225::Q931MessageRecord>(&record_)) {
-      h225::H323UserInformation::Walk(q931->userInformation, visitor);
-    } else {
-      h245::H245MessageRecord::Walk(std::get<h245::H245MessageRecord>(record_), visitor);
-    }
-  }
+  // What the record reaches. The user information of a Q.931 message is walked whether it is marked as
+  // present or not.
+  OwnershipVisitor Walk();
 
   const h245::H245MessageRecord& H245() const { return std::get<h245::H245MessageRecord>(record_); }
 

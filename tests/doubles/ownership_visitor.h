@@ -1,7 +1,7 @@
-// Collects the blocks that a record reaches, and the slots that a refused block left empty.
+// Collects the blocks that a record reaches, and the slots that a refused block left empty. The walk is a
+// template over every record, so all else that it does is in functions.
 #pragma once
 
-#include <algorithm>
 #include <cstdint>
 #include <map>
 #include <type_traits>
@@ -42,42 +42,43 @@ class OwnershipVisitor {
   }
   template <class L>
   void List(const char*, L list) {
-    SeeList(list);
+    SeeList(list.begin(), list.Size());
     for (auto& element : list) Enter(element);
   }
   template <class L>
   void OctetStrings(const char*, L list, OctetNotation) {
-    SeeList(list);
+    SeeList(list.begin(), list.Size());
     for (auto& value : list) See(value.data, value.length);
   }
   template <class L>
   void FixedOctetStrings(const char*, L list, uint32_t) {
-    SeeList(list);
+    SeeList(list.begin(), list.Size());
     for (auto& value : list) See(value.data, 0);
   }
   template <class L>
   void ObjectIdentifiers(const char*, L list) {
-    SeeList(list);
+    SeeList(list.begin(), list.Size());
     for (auto& value : list) See(value.arcs, value.count);
   }
   template <class L>
   void Numbers(const char*, L list) {
-    SeeList(list);
+    SeeList(list.begin(), list.Size());
   }
 
   // Sorted; a block that two slots share appears twice.
-  std::vector<const void*> Blocks() const {
-    std::vector<const void*> sorted = blocks_;
-    std::sort(sorted.begin(), sorted.end());
-    return sorted;
-  }
+  std::vector<const void*> Blocks() const;
   // What the slot that holds the block is for.
-  const std::map<const void*, BlockKind>& Kinds() const { return kinds_; }
+  std::map<const void*, BlockKind> Kinds() const;
   // Slots without a block beside a count that is not zero.
   uint32_t EmptyStrings() const { return emptyStrings_; }
   uint32_t EmptyLists() const { return emptyLists_; }  // of H.225.0 records
 
  private:
+  struct Block {
+    const void* address;
+    BlockKind kind;
+  };
+
   // The H.245 types that H.225.0 records hold. Their decoders go on where a block was refused.
   template <class R>
   static constexpr bool kBelongsToH245 =
@@ -91,25 +92,10 @@ class OwnershipVisitor {
     R::Walk(record, *this);
     insideH245_ -= kLevel;
   }
-  template <class L>
-  void SeeList(L list) {
-    SeeList(list.begin(), list.Size());
-  }
-  void See(const void* block, uint32_t count) {
-    if (block != nullptr) return Keep(block, BlockKind::kString);
-    if (count != 0) ++emptyStrings_;
-  }
-  void SeeList(const void* block, uint32_t count) {
-    if (block != nullptr) return Keep(block, insideH245_ != 0 ? BlockKind::kListInsideH245 : BlockKind::kList);
-    if (count != 0 && insideH245_ == 0) ++emptyLists_;
-  }
-  void Keep(const void* block, BlockKind kind) {
-    blocks_.push_back(block);
-    kinds_.emplace(block, kind);
-  }
+  void See(const void* block, uint32_t count);
+  void SeeList(const void* block, uint32_t count);
 
-  std::vector<const void*> blocks_;
-  std::map<const void*, BlockKind> kinds_;
+  std::vector<Block> blocks_;
   uint32_t insideH245_ = 0;
   uint32_t emptyStrings_ = 0;
   uint32_t emptyLists_ = 0;

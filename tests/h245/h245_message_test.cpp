@@ -39,6 +39,100 @@ TEST(H245MessageTest, UnknownAlternativesOfEachClass) {
   }
 }
 
+// Whether a message holds nothing but its tags and extension bits.
+bool HoldsOnlyItsTags(Owned<H245MessageRecord>& m) {
+  m->isExtension = m->choiceTag = 0;
+  m->request.isExtension = m->request.choiceTag = 0;
+  return m.IsZero();
+}
+
+constexpr uint32_t kRootBits[] = {4, 5, 3, 4};  // of each class
+
+TEST(H245MessageTest, RootIndicesBeyondTheAlternativesDecodeNothing) {
+  constexpr struct {
+    uint32_t messageClass, first, last;
+  } kCases[] = {{kRequest, 11, 15}, {kResponse, 19, 31}, {kCommand, 7, 7}, {kIndication, 14, 15}};
+  for (const auto& c : kCases) {
+    for (uint32_t tag = c.first; tag <= c.last; ++tag) {
+      Input input(
+          BitWriter().Bits(c.messageClass, 3).Bits(tag, 1 + kRootBits[c.messageClass]).Octets(Octets(40, 0xFF)));
+      Owned<H245MessageRecord> m;
+      DecodeMultimediaSystemControlMessage(*m, input.reader);
+      EXPECT_EQ(+m->request.choiceTag, tag) << c.messageClass;
+      EXPECT_EQ(input.Bit(), 4 + kRootBits[c.messageClass]);
+      EXPECT_TRUE(HoldsOnlyItsTags(m)) << c.messageClass << ' ' << tag;
+    }
+  }
+}
+
+TEST(H245MessageTest, MultilinkAndLaterAlternativesArePassedOver) {
+  constexpr struct {
+    uint32_t messageClass, tag;
+  } kCases[] = {{kRequest, 2}, {kRequest, 5},    {kResponse, 2},   {kResponse, 6},   {kCommand, 4},
+                {kCommand, 6}, {kIndication, 5}, {kIndication, 8}, {kIndication, 10}};
+  for (const auto& c : kCases) {
+    BitWriter w;
+    w.Bits(c.messageClass, 3).Bit(true).NormallySmall(c.tag).OpenType(Octets(30, 0xFF));
+    Input input(Marked(w));
+    Owned<H245MessageRecord> m;
+    DecodeMultimediaSystemControlMessage(*m, input.reader);
+    EXPECT_EQ(+m->request.isExtension, 1U);
+    EXPECT_EQ(+m->request.choiceTag, c.tag) << c.messageClass;
+    EXPECT_EQ(input.Next(), kMarker);
+    EXPECT_TRUE(HoldsOnlyItsTags(m)) << c.messageClass << ' ' << c.tag;
+  }
+}
+
+TEST(H245MessageTest, ResumesBehindTheOpenTypeOfAnAlternative) {
+  const Octets rate = BitWriter().Bit(false).Align().Bits(9, 8).Bits(513 - 1, 16).Bits(0b11, 2).Align().Bits(640, 32);
+  for (const size_t length : {size_t{2}, rate.size(), rate.size() + 3}) {
+    Octets value = rate;
+    value.resize(length);
+    Input input(Marked(BitWriter().Bits(kRequest, 3).Bit(true).NormallySmall(3).OpenType(value)));
+    Owned<H245MessageRecord> m;
+    DecodeMultimediaSystemControlMessage(*m, input.reader);
+    EXPECT_EQ(+m->request.logicalChannelRateRequest.sequenceNumber, 9);
+    if (length >= rate.size()) {
+      EXPECT_EQ(+m->request.logicalChannelRateRequest.maximumBitRate, 640U);
+    }
+    EXPECT_EQ(input.Next(), kMarker) << length;
+  }
+}
+
+TEST(FunctionNotUnderstoodTest, HoldsAMessageOfThreeClasses) {
+  BitWriter ack;
+  ack.Bits(kIndication, 3).Bits(1, 5).Bits(kResponse, 2).Bits(7, 6).Bit(false).Align().Bits(513 - 1, 16);
+  Input input(Marked(ack));
+  Owned<H245MessageRecord> m;
+  DecodeMultimediaSystemControlMessage(*m, input.reader);
+  FunctionNotUnderstood& inner = m->indication.functionNotUnderstood;
+  EXPECT_EQ(+inner.choiceTag, kResponse);
+  EXPECT_EQ(+inner.response.choiceTag, 7);
+  EXPECT_EQ(+inner.response.closeLogicalChannelAck.forwardLogicalChannelNumber, 513);
+  EXPECT_EQ(input.Next(), kMarker);
+}
+
+TEST(FunctionNotUnderstoodTest, NonStandardMessageIsOfTheClassThatIsReturned) {
+  BitWriter command;
+  command.Bits(kIndication, 3).Bits(1, 5).Bits(kCommand, 2).Bits(0, 4).Bits(0b01, 2);
+  command.Octets({60, 0}).Bits(21324, 16).OpenType({1, 2, 3});
+  Input input(Marked(command));
+  Owned<H245MessageRecord> m;
+  DecodeMultimediaSystemControlMessage(*m, input.reader);
+  H245NonStandardMessageRecord& inner = m->indication.functionNotUnderstood.command.nonStandard;
+  EXPECT_EQ(+inner.messageClass, kCommand);
+  EXPECT_EQ(test::OctetsAt(inner.nonStandardData.data, inner.nonStandardData.dataLength), (Octets{1, 2, 3}));
+  EXPECT_EQ(input.Next(), kMarker);
+}
+
+TEST(FunctionNotUnderstoodTest, FourthIndexDecodesNothing) {
+  Input input(BitWriter().Bits(kIndication, 3).Bits(1, 5).Bits(3, 2).Octets(Octets(40, 0xFF)));
+  Owned<H245MessageRecord> m;
+  DecodeMultimediaSystemControlMessage(*m, input.reader);
+  EXPECT_EQ(+m->indication.functionNotUnderstood.choiceTag, 3);
+  EXPECT_EQ(input.Bit(), 10U);
+}
+
 TEST(ParameterValueTest, Numbers) {
   constexpr struct {
     uint32_t index, value;

@@ -512,30 +512,45 @@ TEST(Primitives, ReadNothingBeyondTheEnd) {
 
 TEST(PerAllocate, GrantsTheAllowanceOfAMessageAndNoMore) {
   Input input({1, 2, 3, 4, 5, 6, 7, 8});
-  input.reader.allocated = kMaximumMessageMemory - 4;
+  input.reader.allowance = 4;
   EXPECT_EQ(Taken(PerReadOctets(input.reader, 4), 4), (Numbers{1, 2, 3, 4}));
   EXPECT_EQ(PerReadOctets(input.reader, 1), nullptr);
   EXPECT_TRUE(input.AtExactEnd());
 }
 
+TEST(PerAllocate, AllowanceGrowsWithTheMessage) {
+  const Octets octets(0xFFFF, 0);
+  PerReader reader;
+  PerReaderInit(reader, octets.data(), 0);
+  EXPECT_EQ(reader.allowance, kLeastMessageMemory);
+  PerReaderInit(reader, octets.data(), 100);
+  EXPECT_EQ(reader.allowance, kLeastMessageMemory + 100 * kMessageMemoryForEachOctet);
+  PerReaderInit(reader, octets.data(), 0xFFFF);
+  EXPECT_EQ(reader.allowance, kMaximumMessageMemory);
+  // Octets that are claimed and not there give no room.
+  PerReaderInit(reader, octets.data(), 0xFFFF, 100);
+  EXPECT_EQ(reader.allowance, kLeastMessageMemory + 100 * kMessageMemoryForEachOctet);
+}
+
 TEST(PerAllocate, RefusesASizeThatWouldWrap) {
   for (const uint64_t size : {uint64_t{kMaximumMessageMemory} + 1, (uint64_t{1} << 32) + 1, UINT64_MAX}) {
     Input input({1});
+    const uint32_t allowance = input.reader.allowance;
     EXPECT_EQ(PerAllocate(input.reader, size), nullptr);
     EXPECT_TRUE(input.AtExactEnd());
-    EXPECT_EQ(input.reader.allocated, 0u);
+    EXPECT_EQ(input.reader.allowance, allowance);
   }
 }
 
 TEST(PerAllocate, CountsTheOctetsOfWideElements) {
   const Octets octets(64, 0);
   Input characters(octets);
-  characters.reader.allocated = kMaximumMessageMemory - 31;
+  characters.reader.allowance = 31;
   EXPECT_EQ(PerReadBMPString(characters.reader, 16), nullptr);
   EXPECT_TRUE(characters.AtExactEnd());
 
   Input arcs({0x02, 0x2B, 0x06});
-  arcs.reader.allocated = kMaximumMessageMemory - 11;
+  arcs.reader.allowance = 11;
   ObjectIdentifierValue value{};
   PerReadObjectIdentifier(value, arcs.reader);
   EXPECT_EQ(uint32_t{value.count}, 3u);
@@ -543,7 +558,7 @@ TEST(PerAllocate, CountsTheOctetsOfWideElements) {
   EXPECT_TRUE(arcs.AtExactEnd());
 
   Input bits(octets);
-  bits.reader.allocated = kMaximumMessageMemory - 2;
+  bits.reader.allowance = 2;
   EXPECT_EQ(PerReadBitString(bits.reader, 17), nullptr);
   EXPECT_TRUE(bits.AtExactEnd());
 }

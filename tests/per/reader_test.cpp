@@ -22,7 +22,7 @@ TEST(PerReaderInit, StandsAtTheFirstBitWithFreshState) {
   EXPECT_EQ(reader.end, octets + 3);
   EXPECT_EQ(reader.readable, octets + 3);
   EXPECT_EQ(reader.depth, 0u);
-  EXPECT_EQ(reader.allocated, 0u);
+  EXPECT_EQ(reader.reread, 0u);
   EXPECT_EQ(reader.extensionPresentCount, 0);
   EXPECT_LT(reader.openTypes.index, kOpenTypeLevels);
 }

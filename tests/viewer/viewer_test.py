@@ -149,6 +149,15 @@ class Captures(unittest.TestCase):
         self.assertEqual(result.returncode, status, result.stderr)
         return [o["name"] for o in objects(result)]
 
+    def test_registration_lines(self):
+        lines = run(data=SAMPLE).stdout.decode()
+        for line in (
+                'registrationRequest +seq 2  gk "GK-1"  alias "4001", "Alice Weber"'
+                '  at 192.0.2.10:1720  ras 192.0.2.10:1719  ttl 300  keepAlive no',
+                'registrationConfirm +seq 2  gk "GK-1"  endpoint "2130_ep"  alias "4001"  at 192.0.2.1:1720  ttl 300',
+                'unregistrationRequest +seq 5  gk "GK-1"  endpoint "2130_ep"  at 192.0.2.10:1720'):
+            self.assertRegex(lines, line)
+
     def test_sample_call(self):
         printed = objects(run("--format", "json", data=SAMPLE))
         self.assertEqual(len(printed), 31)

@@ -13,6 +13,7 @@
 #include "per/record_decode.h"
 
 namespace kelvra::h225 {
+namespace {
 
 Status DecodeConferenceList(ConferenceList& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
@@ -26,6 +27,8 @@ Status DecodeConferenceList(ConferenceList& m, PerReader& r) {
   if (m.isExtended) PerSkipExtensionAdditions(r);
   return kDecoded;
 }
+
+}  // namespace
 
 Status DecodeFacilityUUIE(FacilityUUIE& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;

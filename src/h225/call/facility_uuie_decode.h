@@ -6,7 +6,6 @@
 
 namespace kelvra::h225 {
 
-Status DecodeConferenceList(ConferenceList& m, PerReader& r);
 Status DecodeFacilityUUIE(FacilityUUIE& m, PerReader& r);
 
 }  // namespace kelvra::h225

@@ -55,8 +55,6 @@ void DecodeUserData(H323UserInformation& m, PerReader& r) {
   if (m.userDataExtension) PerSkipExtensionAdditions(r);
 }
 
-}  // namespace
-
 Status DecodeStimulusControl(StimulusControl& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
   m.isExtended = PerReadBit(r);
@@ -68,6 +66,8 @@ Status DecodeStimulusControl(StimulusControl& m, PerReader& r) {
   if (m.isExtended) PerSkipExtensionAdditions(r);
   return kDecoded;
 }
+
+}  // namespace
 
 Status DecodeH323UUPDU(H323UUPDU& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;

@@ -6,7 +6,6 @@
 
 namespace kelvra::h225 {
 
-Status DecodeStimulusControl(StimulusControl& m, PerReader& r);
 Status DecodeH323UUPDU(H323UUPDU& m, PerReader& r);
 Status DecodeH323UserInformation(H323UserInformation& m, PerReader& r);
 

@@ -71,6 +71,10 @@ Status DecodeSystemId(ANSI41UIM::SystemId& m, PerReader& r) {
   }
 }
 
+Status DecodePublicTypeOfNumber(PublicTypeOfNumber& m, PerReader& r) { return DecodeNullChoice(m, r); }
+
+Status DecodePrivateTypeOfNumber(PrivateTypeOfNumber& m, PerReader& r) { return DecodeNullChoice(m, r); }
+
 }  // namespace
 
 Status DecodeTransportAddress(TransportAddress& m, PerReader& r) {
@@ -88,10 +92,6 @@ Status DecodeTransportAddress(TransportAddress& m, PerReader& r) {
     default: return kMalformed;
   }
 }
-
-Status DecodePublicTypeOfNumber(PublicTypeOfNumber& m, PerReader& r) { return DecodeNullChoice(m, r); }
-
-Status DecodePrivateTypeOfNumber(PrivateTypeOfNumber& m, PerReader& r) { return DecodeNullChoice(m, r); }
 
 Status DecodePublicPartyNumber(PublicPartyNumber& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;

@@ -7,8 +7,6 @@
 namespace kelvra::h225 {
 
 Status DecodeTransportAddress(TransportAddress& m, PerReader& r);
-Status DecodePublicTypeOfNumber(PublicTypeOfNumber& m, PerReader& r);
-Status DecodePrivateTypeOfNumber(PrivateTypeOfNumber& m, PerReader& r);
 Status DecodePublicPartyNumber(PublicPartyNumber& m, PerReader& r);
 Status DecodePrivatePartyNumber(PrivatePartyNumber& m, PerReader& r);
 Status DecodePartyNumber(PartyNumber& m, PerReader& r);

@@ -3,6 +3,14 @@
 #include "per/record_decode.h"
 
 namespace kelvra::h225 {
+namespace {
+
+void DecodeWhen(CapacityReportingSpecification::When& m, PerReader& r) {
+  m.isExtended = PerReadBit(r);
+  m.hasCallStart = PerReadBit(r);
+  m.hasCallEnd = PerReadBit(r);
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+}
 
 Status DecodeCicInfo(CicInfo& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
@@ -30,19 +38,6 @@ Status DecodeCircuitIdentifier(CircuitIdentifier& m, PerReader& r) {
   m.hasGroup = PerReadBit(r);
   if (m.hasCic) KELVRA_TRY(DecodeCicInfo(m.cic, r));
   if (m.hasGroup) KELVRA_TRY(DecodeGroupID(m.group, r));
-  if (m.isExtended) PerSkipExtensionAdditions(r);
-  return kDecoded;
-}
-
-Status DecodeCircuitInfo(CircuitInfo& m, PerReader& r) {
-  if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasSourceCircuitID = PerReadBit(r);
-  m.hasDestinationCircuitID = PerReadBit(r);
-  m.hasGenericData = PerReadBit(r);
-  if (m.hasSourceCircuitID) KELVRA_TRY(DecodeCircuitIdentifier(m.sourceCircuitID, r));
-  if (m.hasDestinationCircuitID) KELVRA_TRY(DecodeCircuitIdentifier(m.destinationCircuitID, r));
-  if (m.hasGenericData) KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.genericData), r, DecodeGenericData));
   if (m.isExtended) PerSkipExtensionAdditions(r);
   return kDecoded;
 }
@@ -96,6 +91,21 @@ Status DecodeCallCapacityInfo(CallCapacityInfo& m, PerReader& r) {
   return kDecoded;
 }
 
+}  // namespace
+
+Status DecodeCircuitInfo(CircuitInfo& m, PerReader& r) {
+  if (PerAtEnd(r)) return kExhausted;
+  m.isExtended = PerReadBit(r);
+  m.hasSourceCircuitID = PerReadBit(r);
+  m.hasDestinationCircuitID = PerReadBit(r);
+  m.hasGenericData = PerReadBit(r);
+  if (m.hasSourceCircuitID) KELVRA_TRY(DecodeCircuitIdentifier(m.sourceCircuitID, r));
+  if (m.hasDestinationCircuitID) KELVRA_TRY(DecodeCircuitIdentifier(m.destinationCircuitID, r));
+  if (m.hasGenericData) KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.genericData), r, DecodeGenericData));
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+  return kDecoded;
+}
+
 Status DecodeCallCapacity(CallCapacity& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
   m.isExtended = PerReadBit(r);
@@ -103,6 +113,22 @@ Status DecodeCallCapacity(CallCapacity& m, PerReader& r) {
   m.hasCurrentCallCapacity = PerReadBit(r);
   if (m.hasMaximumCallCapacity) KELVRA_TRY(DecodeCallCapacityInfo(m.maximumCallCapacity, r));
   if (m.hasCurrentCallCapacity) KELVRA_TRY(DecodeCallCapacityInfo(m.currentCallCapacity, r));
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+  return kDecoded;
+}
+
+Status DecodeCapacityReportingCapability(CapacityReportingCapability& m, PerReader& r) {
+  if (PerAtEnd(r)) return kExhausted;
+  m.isExtended = PerReadBit(r);
+  m.canReportCallCapacity = PerReadBit(r);
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+  return kDecoded;
+}
+
+Status DecodeCapacityReportingSpecification(CapacityReportingSpecification& m, PerReader& r) {
+  if (PerAtEnd(r)) return kExhausted;
+  m.isExtended = PerReadBit(r);
+  DecodeWhen(m.when, r);
   if (m.isExtended) PerSkipExtensionAdditions(r);
   return kDecoded;
 }

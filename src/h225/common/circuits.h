@@ -148,6 +148,40 @@ struct CallCapacity {
   }
 };
 
+struct CapacityReportingCapability {
+  uint32_t canReportCallCapacity;
+  uint32_t isExtended;
+
+  template <class Record, class Visitor>
+  static void Walk(Record& m, Visitor& v) {
+    v.Boolean("canReportCallCapacity", m.canReportCallCapacity);
+  }
+};
+
+struct CapacityReportingSpecification {
+  struct When {
+    uint32_t hasCallStart;
+    uint8_t callStart;
+    uint32_t hasCallEnd;
+    uint8_t callEnd;
+    uint32_t isExtended;
+
+    template <class Record, class Visitor>
+    static void Walk(Record& m, Visitor& v) {
+      if (m.hasCallStart) v.Null("callStart");
+      if (m.hasCallEnd) v.Null("callEnd");
+    }
+  };
+
+  When when;
+  uint32_t isExtended;
+
+  template <class Record, class Visitor>
+  static void Walk(Record& m, Visitor& v) {
+    v.Record("when", m.when);
+  }
+};
+
 #pragma pack(pop)
 
 }  // namespace kelvra::h225

@@ -22,8 +22,6 @@ Status DecodeCryptoGKPwdHash(CryptoH323Token::CryptoGKPwdHash& m, PerReader& r) 
   return kDecoded;
 }
 
-}  // namespace
-
 Status DecodeEncryptIntAlg(EncryptIntAlg& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
   const uint32_t index = ReadChoice(m, r, 2);
@@ -46,6 +44,30 @@ Status DecodeNonIsoIntegrityMechanism(NonIsoIntegrityMechanism& m, PerReader& r)
     default: return NullAlternative(index, 4);
   }
 }
+
+Status DecodeSecurityServiceMode(SecurityServiceMode& m, PerReader& r) {
+  if (PerAtEnd(r)) return kExhausted;
+  const uint32_t index = ReadChoice(m, r, 3);
+  if (m.isExtension) return SkipAlternative(r);
+  switch (index) {
+    case 0: return DecodeNonStandardParameter(m.nonStandard, r);
+    default: return NullAlternative(index, 3);
+  }
+}
+
+Status DecodeSecurityCapabilities(SecurityCapabilities& m, PerReader& r) {
+  if (PerAtEnd(r)) return kExhausted;
+  m.isExtended = PerReadBit(r);
+  m.hasNonStandard = PerReadBit(r);
+  if (m.hasNonStandard) KELVRA_TRY(DecodeNonStandardParameter(m.nonStandard, r));
+  KELVRA_TRY(DecodeSecurityServiceMode(m.encryption, r));
+  KELVRA_TRY(DecodeSecurityServiceMode(m.authenticaton, r));
+  KELVRA_TRY(DecodeSecurityServiceMode(m.integrity, r));
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+  return kDecoded;
+}
+
+}  // namespace
 
 Status DecodeIntegrityMechanism(IntegrityMechanism& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
@@ -81,28 +103,6 @@ Status DecodeCryptoH323Token(CryptoH323Token& m, PerReader& r) {
     case 7: return h235::DecodeCryptoToken(m.nestedcryptoToken, r);
     default: return kMalformed;
   }
-}
-
-Status DecodeSecurityServiceMode(SecurityServiceMode& m, PerReader& r) {
-  if (PerAtEnd(r)) return kExhausted;
-  const uint32_t index = ReadChoice(m, r, 3);
-  if (m.isExtension) return SkipAlternative(r);
-  switch (index) {
-    case 0: return DecodeNonStandardParameter(m.nonStandard, r);
-    default: return NullAlternative(index, 3);
-  }
-}
-
-Status DecodeSecurityCapabilities(SecurityCapabilities& m, PerReader& r) {
-  if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasNonStandard = PerReadBit(r);
-  if (m.hasNonStandard) KELVRA_TRY(DecodeNonStandardParameter(m.nonStandard, r));
-  KELVRA_TRY(DecodeSecurityServiceMode(m.encryption, r));
-  KELVRA_TRY(DecodeSecurityServiceMode(m.authenticaton, r));
-  KELVRA_TRY(DecodeSecurityServiceMode(m.integrity, r));
-  if (m.isExtended) PerSkipExtensionAdditions(r);
-  return kDecoded;
 }
 
 Status DecodeH245Security(H245Security& m, PerReader& r) {

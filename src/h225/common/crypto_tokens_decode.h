@@ -6,13 +6,9 @@
 
 namespace kelvra::h225 {
 
-Status DecodeEncryptIntAlg(EncryptIntAlg& m, PerReader& r);
-Status DecodeNonIsoIntegrityMechanism(NonIsoIntegrityMechanism& m, PerReader& r);
 Status DecodeIntegrityMechanism(IntegrityMechanism& m, PerReader& r);
 Status DecodeICV(ICV& m, PerReader& r);
 Status DecodeCryptoH323Token(CryptoH323Token& m, PerReader& r);
-Status DecodeSecurityServiceMode(SecurityServiceMode& m, PerReader& r);
-Status DecodeSecurityCapabilities(SecurityCapabilities& m, PerReader& r);
 Status DecodeH245Security(H245Security& m, PerReader& r);
 
 }  // namespace kelvra::h225

@@ -7,6 +7,16 @@
 namespace kelvra::h225 {
 namespace {
 
+Status DecodeTunnelledProtocolAlternateIdentifier(TunnelledProtocolAlternateIdentifier& m, PerReader& r) {
+  if (PerAtEnd(r)) return kExhausted;
+  m.isExtended = PerReadBit(r);
+  m.hasProtocolVariant = PerReadBit(r);
+  PerReadSizedOctets(m.protocolType, r, 1, 64);
+  if (m.hasProtocolVariant) PerReadSizedOctets(m.protocolVariant, r, 1, 64);
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+  return kDecoded;
+}
+
 Status DecodeId(TunnelledProtocol::Id& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 2);
   if (m.isExtension) return SkipAlternative(r);
@@ -19,47 +29,11 @@ Status DecodeId(TunnelledProtocol::Id& m, PerReader& r) {
 
 void DecodeSet(OctetStringValue& m, PerReader& r) { PerReadBitString(m, r, 32); }
 
-}  // namespace
-
-Status DecodeVendorIdentifier(VendorIdentifier& m, PerReader& r) {
-  if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasProductId = PerReadBit(r);
-  m.hasVersionId = PerReadBit(r);
-  KELVRA_TRY(DecodeH221NonStandard(m.vendor, r));
-  if (m.hasProductId) PerReadSizedOctets(m.productId, r, 1, 256);
-  if (m.hasVersionId) PerReadSizedOctets(m.versionId, r, 1, 256);
-  if (m.isExtended) PerSkipExtensionAdditions(r);
-  return kDecoded;
-}
-
 Status DecodeGatekeeperInfo(GatekeeperInfo& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
   m.isExtended = PerReadBit(r);
   m.hasNonStandardData = PerReadBit(r);
   if (m.hasNonStandardData) KELVRA_TRY(DecodeNonStandardParameter(m.nonStandardData, r));
-  if (m.isExtended) PerSkipExtensionAdditions(r);
-  return kDecoded;
-}
-
-Status DecodeDataRate(DataRate& m, PerReader& r) {
-  if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasNonStandardData = PerReadBit(r);
-  m.hasChannelMultiplier = PerReadBit(r);
-  if (m.hasNonStandardData) KELVRA_TRY(DecodeNonStandardParameter(m.nonStandardData, r));
-  m.channelRate = PerReadNumber<uint32_t>(r, 0, kUnsigned32Maximum);
-  if (m.hasChannelMultiplier) m.channelMultiplier = PerReadNumber<uint16_t>(r, 1, 256);
-  if (m.isExtended) PerSkipExtensionAdditions(r);
-  return kDecoded;
-}
-
-Status DecodeSupportedPrefix(SupportedPrefix& m, PerReader& r) {
-  if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasNonStandardData = PerReadBit(r);
-  if (m.hasNonStandardData) KELVRA_TRY(DecodeNonStandardParameter(m.nonStandardData, r));
-  KELVRA_TRY(DecodeAliasAddress(m.prefix, r));
   if (m.isExtended) PerSkipExtensionAdditions(r);
   return kDecoded;
 }
@@ -112,6 +86,42 @@ Status DecodeT38FaxAnnexbOnlyCaps(T38FaxAnnexbOnlyCaps& m, PerReader& r) {
   return kDecoded;
 }
 
+}  // namespace
+
+Status DecodeVendorIdentifier(VendorIdentifier& m, PerReader& r) {
+  if (PerAtEnd(r)) return kExhausted;
+  m.isExtended = PerReadBit(r);
+  m.hasProductId = PerReadBit(r);
+  m.hasVersionId = PerReadBit(r);
+  KELVRA_TRY(DecodeH221NonStandard(m.vendor, r));
+  if (m.hasProductId) PerReadSizedOctets(m.productId, r, 1, 256);
+  if (m.hasVersionId) PerReadSizedOctets(m.versionId, r, 1, 256);
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+  return kDecoded;
+}
+
+Status DecodeDataRate(DataRate& m, PerReader& r) {
+  if (PerAtEnd(r)) return kExhausted;
+  m.isExtended = PerReadBit(r);
+  m.hasNonStandardData = PerReadBit(r);
+  m.hasChannelMultiplier = PerReadBit(r);
+  if (m.hasNonStandardData) KELVRA_TRY(DecodeNonStandardParameter(m.nonStandardData, r));
+  m.channelRate = PerReadNumber<uint32_t>(r, 0, kUnsigned32Maximum);
+  if (m.hasChannelMultiplier) m.channelMultiplier = PerReadNumber<uint16_t>(r, 1, 256);
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+  return kDecoded;
+}
+
+Status DecodeSupportedPrefix(SupportedPrefix& m, PerReader& r) {
+  if (PerAtEnd(r)) return kExhausted;
+  m.isExtended = PerReadBit(r);
+  m.hasNonStandardData = PerReadBit(r);
+  if (m.hasNonStandardData) KELVRA_TRY(DecodeNonStandardParameter(m.nonStandardData, r));
+  KELVRA_TRY(DecodeAliasAddress(m.prefix, r));
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+  return kDecoded;
+}
+
 Status DecodeSupportedProtocols(SupportedProtocols& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
   const uint32_t index = ReadChoice(m, r, 9);
@@ -159,16 +169,6 @@ Status DecodeMcuInfo(McuInfo& m, PerReader& r) {
   PerNoteUnknownAdditions(r, additions);
   if (m.hasProtocol) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.protocol), r, DecodeSupportedProtocols));
   PerSkipUnknownAdditions(r);
-  return kDecoded;
-}
-
-Status DecodeTunnelledProtocolAlternateIdentifier(TunnelledProtocolAlternateIdentifier& m, PerReader& r) {
-  if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasProtocolVariant = PerReadBit(r);
-  PerReadSizedOctets(m.protocolType, r, 1, 64);
-  if (m.hasProtocolVariant) PerReadSizedOctets(m.protocolVariant, r, 1, 64);
-  if (m.isExtended) PerSkipExtensionAdditions(r);
   return kDecoded;
 }
 

@@ -7,16 +7,11 @@
 namespace kelvra::h225 {
 
 Status DecodeVendorIdentifier(VendorIdentifier& m, PerReader& r);
-Status DecodeGatekeeperInfo(GatekeeperInfo& m, PerReader& r);
 Status DecodeDataRate(DataRate& m, PerReader& r);
 Status DecodeSupportedPrefix(SupportedPrefix& m, PerReader& r);
-Status DecodeProtocolCaps(ProtocolCaps& m, PerReader& r);
-Status DecodeNonStandardProtocol(NonStandardProtocol& m, PerReader& r);
-Status DecodeT38FaxAnnexbOnlyCaps(T38FaxAnnexbOnlyCaps& m, PerReader& r);
 Status DecodeSupportedProtocols(SupportedProtocols& m, PerReader& r);
 Status DecodeGatewayInfo(GatewayInfo& m, PerReader& r);
 Status DecodeMcuInfo(McuInfo& m, PerReader& r);
-Status DecodeTunnelledProtocolAlternateIdentifier(TunnelledProtocolAlternateIdentifier& m, PerReader& r);
 Status DecodeTunnelledProtocol(TunnelledProtocol& m, PerReader& r);
 Status DecodeEndpointType(EndpointType& m, PerReader& r);
 

@@ -35,6 +35,24 @@ struct CallTypeNames {
 };
 using CallType = NullChoice<CallTypeNames>;
 
+struct CallModelNames {
+  static constexpr uint32_t kRoots = 2;
+  static constexpr const char* kAlternatives[] = {"direct", "gatekeeperRouted"};
+};
+using CallModel = NullChoice<CallModelNames>;
+
+struct TransportQOSNames {
+  static constexpr uint32_t kRoots = 3;
+  static constexpr const char* kAlternatives[] = {"endpointControlled", "gatekeeperControlled", "noControl"};
+};
+using TransportQOS = NullChoice<TransportQOSNames>;
+
+struct UseSpecifiedTransportNames {
+  static constexpr uint32_t kRoots = 2;
+  static constexpr const char* kAlternatives[] = {"tcp", "annexE"};
+};
+using UseSpecifiedTransport = NullChoice<UseSpecifiedTransportNames>;
+
 struct PresentationIndicatorNames {
   static constexpr uint32_t kRoots = 3;
   static constexpr const char* kAlternatives[] = {"presentationAllowed", "presentationRestricted",

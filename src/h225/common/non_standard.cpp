@@ -2,16 +2,7 @@
 #include "per/record_decode.h"
 
 namespace kelvra::h225 {
-
-Status DecodeH221NonStandard(H221NonStandard& m, PerReader& r) {
-  if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.t35CountryCode = PerReadNumber<uint8_t>(r, 0, 255);
-  m.t35Extension = PerReadNumber<uint8_t>(r, 0, 255);
-  m.manufacturerCode = PerReadNumber<uint16_t>(r, 0, 65535);
-  if (m.isExtended) PerSkipExtensionAdditions(r);
-  return kDecoded;
-}
+namespace {
 
 Status DecodeNonStandardIdentifier(NonStandardIdentifier& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
@@ -22,6 +13,18 @@ Status DecodeNonStandardIdentifier(NonStandardIdentifier& m, PerReader& r) {
     case 1: return DecodeH221NonStandard(m.h221NonStandard, r);
     default: return kMalformed;
   }
+}
+
+}  // namespace
+
+Status DecodeH221NonStandard(H221NonStandard& m, PerReader& r) {
+  if (PerAtEnd(r)) return kExhausted;
+  m.isExtended = PerReadBit(r);
+  m.t35CountryCode = PerReadNumber<uint8_t>(r, 0, 255);
+  m.t35Extension = PerReadNumber<uint8_t>(r, 0, 255);
+  m.manufacturerCode = PerReadNumber<uint16_t>(r, 0, 65535);
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+  return kDecoded;
 }
 
 Status DecodeNonStandardParameter(NonStandardParameter& m, PerReader& r) {

@@ -7,7 +7,6 @@
 namespace kelvra::h225 {
 
 Status DecodeH221NonStandard(H221NonStandard& m, PerReader& r);
-Status DecodeNonStandardIdentifier(NonStandardIdentifier& m, PerReader& r);
 Status DecodeNonStandardParameter(NonStandardParameter& m, PerReader& r);
 
 }  // namespace kelvra::h225

@@ -4,38 +4,13 @@
 #include "per/record_decode.h"
 
 namespace kelvra::h225 {
+namespace {
 
 Status DecodeQ954Details(Q954Details& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
   m.isExtended = PerReadBit(r);
   m.conferenceCalling = PerReadBit(r);
   m.threePartyService = PerReadBit(r);
-  if (m.isExtended) PerSkipExtensionAdditions(r);
-  return kDecoded;
-}
-
-Status DecodeQseriesOptions(QseriesOptions& m, PerReader& r) {
-  if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.q932Full = PerReadBit(r);
-  m.q951Full = PerReadBit(r);
-  m.q952Full = PerReadBit(r);
-  m.q953Full = PerReadBit(r);
-  m.q955Full = PerReadBit(r);
-  m.q956Full = PerReadBit(r);
-  m.q957Full = PerReadBit(r);
-  KELVRA_TRY(DecodeQ954Details(m.q954Info, r));
-  if (m.isExtended) PerSkipExtensionAdditions(r);
-  return kDecoded;
-}
-
-Status DecodeCallLinkage(CallLinkage& m, PerReader& r) {
-  if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasGlobalCallId = PerReadBit(r);
-  m.hasThreadId = PerReadBit(r);
-  if (m.hasGlobalCallId) KELVRA_TRY(DecodeGloballyUniqueID(m.globalCallId, r));
-  if (m.hasThreadId) KELVRA_TRY(DecodeGloballyUniqueID(m.threadId, r));
   if (m.isExtended) PerSkipExtensionAdditions(r);
   return kDecoded;
 }
@@ -68,6 +43,45 @@ Status DecodeServiceControlDescriptor(ServiceControlDescriptor& m, PerReader& r)
     case 3: return DecodeCallCreditServiceControl(m.callCreditServiceControl, r);
     default: return kMalformed;
   }
+}
+
+}  // namespace
+
+Status DecodeQseriesOptions(QseriesOptions& m, PerReader& r) {
+  if (PerAtEnd(r)) return kExhausted;
+  m.isExtended = PerReadBit(r);
+  m.q932Full = PerReadBit(r);
+  m.q951Full = PerReadBit(r);
+  m.q952Full = PerReadBit(r);
+  m.q953Full = PerReadBit(r);
+  m.q955Full = PerReadBit(r);
+  m.q956Full = PerReadBit(r);
+  m.q957Full = PerReadBit(r);
+  KELVRA_TRY(DecodeQ954Details(m.q954Info, r));
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+  return kDecoded;
+}
+
+Status DecodeCallLinkage(CallLinkage& m, PerReader& r) {
+  if (PerAtEnd(r)) return kExhausted;
+  m.isExtended = PerReadBit(r);
+  m.hasGlobalCallId = PerReadBit(r);
+  m.hasThreadId = PerReadBit(r);
+  if (m.hasGlobalCallId) KELVRA_TRY(DecodeGloballyUniqueID(m.globalCallId, r));
+  if (m.hasThreadId) KELVRA_TRY(DecodeGloballyUniqueID(m.threadId, r));
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+  return kDecoded;
+}
+
+Status DecodeCallCreditCapability(CallCreditCapability& m, PerReader& r) {
+  if (PerAtEnd(r)) return kExhausted;
+  m.isExtended = PerReadBit(r);
+  m.hasCanDisplayAmountString = PerReadBit(r);
+  m.hasCanEnforceDurationLimit = PerReadBit(r);
+  if (m.hasCanDisplayAmountString) m.canDisplayAmountString = PerReadBit(r);
+  if (m.hasCanEnforceDurationLimit) m.canEnforceDurationLimit = PerReadBit(r);
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+  return kDecoded;
 }
 
 Status DecodeServiceControlSession(ServiceControlSession& m, PerReader& r) {

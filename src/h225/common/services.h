@@ -95,6 +95,20 @@ struct CallCreditServiceControl {
   }
 };
 
+struct CallCreditCapability {
+  uint32_t hasCanDisplayAmountString;
+  uint32_t canDisplayAmountString;
+  uint32_t hasCanEnforceDurationLimit;
+  uint32_t canEnforceDurationLimit;
+  uint32_t isExtended;
+
+  template <class Record, class Visitor>
+  static void Walk(Record& m, Visitor& v) {
+    if (m.hasCanDisplayAmountString) v.Boolean("canDisplayAmountString", m.canDisplayAmountString);
+    if (m.hasCanEnforceDurationLimit) v.Boolean("canEnforceDurationLimit", m.canEnforceDurationLimit);
+  }
+};
+
 struct ServiceControlDescriptor {
   uint8_t choiceTag;
   union {

@@ -6,11 +6,9 @@
 
 namespace kelvra::h225 {
 
-Status DecodeQ954Details(Q954Details& m, PerReader& r);
 Status DecodeQseriesOptions(QseriesOptions& m, PerReader& r);
 Status DecodeCallLinkage(CallLinkage& m, PerReader& r);
-Status DecodeCallCreditServiceControl(CallCreditServiceControl& m, PerReader& r);
-Status DecodeServiceControlDescriptor(ServiceControlDescriptor& m, PerReader& r);
+Status DecodeCallCreditCapability(CallCreditCapability& m, PerReader& r);
 Status DecodeServiceControlSession(ServiceControlSession& m, PerReader& r);
 
 }  // namespace kelvra::h225

@@ -6,23 +6,10 @@
 namespace kelvra::h245 {
 namespace {
 
-void DecodeG723AnnexCAudioMode(G7231AnnexCCapability::G723AnnexCAudioMode& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.highRateMode0 = PerReadNumber<uint8_t>(r, 27, 78);
-  m.highRateMode1 = PerReadNumber<uint8_t>(r, 27, 78);
-  m.lowRateMode0 = PerReadNumber<uint8_t>(r, 23, 66);
-  m.lowRateMode1 = PerReadNumber<uint8_t>(r, 23, 66);
-  m.sidMode0 = PerReadNumber<uint8_t>(r, 6, 17);
-  m.sidMode1 = PerReadNumber<uint8_t>(r, 6, 17);
-  if (m.isExtended) PerSkipExtensionAdditions(r);
-}
-
 void DecodeG7231(AudioCapability::G7231& m, PerReader& r) {
   m.maxAlSduAudioFrames = PerReadNumber<uint16_t>(r, 1, 256);
   m.silenceSuppression = PerReadBit(r);
 }
-
-}  // namespace
 
 void DecodeIS11172AudioCapability(IS11172AudioCapability& m, PerReader& r) {
   m.isExtended = PerReadBit(r);
@@ -73,6 +60,19 @@ void DecodeG7231AnnexCCapability(G7231AnnexCCapability& m, PerReader& r) {
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
+}  // namespace
+
+void DecodeG723AnnexCAudioMode(G7231AnnexCCapability::G723AnnexCAudioMode& m, PerReader& r) {
+  m.isExtended = PerReadBit(r);
+  m.highRateMode0 = PerReadNumber<uint8_t>(r, 27, 78);
+  m.highRateMode1 = PerReadNumber<uint8_t>(r, 27, 78);
+  m.lowRateMode0 = PerReadNumber<uint8_t>(r, 23, 66);
+  m.lowRateMode1 = PerReadNumber<uint8_t>(r, 23, 66);
+  m.sidMode0 = PerReadNumber<uint8_t>(r, 6, 17);
+  m.sidMode1 = PerReadNumber<uint8_t>(r, 6, 17);
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+}
+
 void DecodeGSMAudioCapability(GSMAudioCapability& m, PerReader& r) {
   m.isExtended = PerReadBit(r);
   m.audioUnitSize = PerReadNumber<uint16_t>(r, 1, 256);
@@ -92,6 +92,19 @@ void DecodeG729Extensions(G729Extensions& m, PerReader& r) {
   m.annexF = PerReadBit(r);
   m.annexG = PerReadBit(r);
   m.annexH = PerReadBit(r);
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+}
+
+void DecodeAudioTelephonyEventCapability(AudioTelephonyEventCapability& m, PerReader& r) {
+  m.isExtended = PerReadBit(r);
+  m.dynamicRTPPayloadType = PerReadNumber<uint8_t>(r, 96, 127);
+  PerReadAnnouncedOctetString(m.audioTelephoneEvent, r);
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+}
+
+void DecodeAudioToneCapability(AudioToneCapability& m, PerReader& r) {
+  m.isExtended = PerReadBit(r);
+  m.dynamicRTPPayloadType = PerReadNumber<uint8_t>(r, 96, 127);
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 

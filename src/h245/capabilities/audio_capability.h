@@ -159,6 +159,28 @@ struct G729Extensions {
   }
 };
 
+struct AudioTelephonyEventCapability {
+  uint8_t dynamicRTPPayloadType;
+  OctetStringValue audioTelephoneEvent;
+  uint32_t isExtended;
+
+  template <class Record, class Visitor>
+  static void Walk(Record& m, Visitor& v) {
+    v.Number("dynamicRTPPayloadType", m.dynamicRTPPayloadType);
+    WalkOctets(v, "audioTelephoneEvent", m.audioTelephoneEvent, OctetNotation::kCharacters);
+  }
+};
+
+struct AudioToneCapability {
+  uint8_t dynamicRTPPayloadType;
+  uint32_t isExtended;
+
+  template <class Record, class Visitor>
+  static void Walk(Record& m, Visitor& v) {
+    v.Number("dynamicRTPPayloadType", m.dynamicRTPPayloadType);
+  }
+};
+
 struct AudioCapability {
   struct G7231 {
     uint16_t maxAlSduAudioFrames;

@@ -5,11 +5,11 @@
 
 namespace kelvra::h245 {
 
-void DecodeIS11172AudioCapability(IS11172AudioCapability& m, PerReader& r);
-void DecodeIS13818AudioCapability(IS13818AudioCapability& m, PerReader& r);
-void DecodeG7231AnnexCCapability(G7231AnnexCCapability& m, PerReader& r);
+void DecodeG723AnnexCAudioMode(G7231AnnexCCapability::G723AnnexCAudioMode& m, PerReader& r);
 void DecodeGSMAudioCapability(GSMAudioCapability& m, PerReader& r);
 void DecodeG729Extensions(G729Extensions& m, PerReader& r);
+void DecodeAudioTelephonyEventCapability(AudioTelephonyEventCapability& m, PerReader& r);
+void DecodeAudioToneCapability(AudioToneCapability& m, PerReader& r);
 void DecodeAudioCapability(AudioCapability& m, PerReader& r);
 
 }  // namespace kelvra::h245

@@ -12,16 +12,6 @@ void DecodeT84(DataApplicationCapability::Application::T84& m, PerReader& r) {
   DecodeT84Profile(m.t84Profile, r);
 }
 
-void DecodeNlpid(DataApplicationCapability::Application::Nlpid& m, PerReader& r) {
-  DecodeDataProtocolCapability(m.nlpidProtocol, r);
-  PerReadAnnouncedOctetString(m.nlpidData, r);
-}
-
-void DecodeT38fax(DataApplicationCapability::Application::T38fax& m, PerReader& r) {
-  DecodeDataProtocolCapability(m.t38FaxProtocol, r);
-  DecodeT38FaxProfile(m.t38FaxProfile, r);
-}
-
 void DecodeApplication(DataApplicationCapability::Application& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 10);
   if (m.isExtension) {
@@ -48,6 +38,16 @@ void DecodeApplication(DataApplicationCapability::Application& m, PerReader& r) 
 }
 
 }  // namespace
+
+void DecodeNlpid(DataApplicationCapability::Application::Nlpid& m, PerReader& r) {
+  DecodeDataProtocolCapability(m.nlpidProtocol, r);
+  PerReadAnnouncedOctetString(m.nlpidData, r);
+}
+
+void DecodeT38fax(DataApplicationCapability::Application::T38fax& m, PerReader& r) {
+  DecodeDataProtocolCapability(m.t38FaxProtocol, r);
+  DecodeT38FaxProfile(m.t38FaxProfile, r);
+}
 
 void DecodeDataApplicationCapability(DataApplicationCapability& m, PerReader& r) {
   m.isExtended = PerReadBit(r);

@@ -5,6 +5,22 @@
 namespace kelvra::h245 {
 namespace {
 
+void DecodeV42bis(V42bis& m, PerReader& r) {
+  m.isExtended = PerReadBit(r);
+  m.numberOfCodewords = PerReadNumber<uint32_t>(r, 1, 65536);
+  m.maximumStringLength = PerReadNumber<uint16_t>(r, 1, 256);
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+}
+
+void DecodeCompressionType(CompressionType& m, PerReader& r) {
+  const uint32_t index = ReadChoice(m, r, 1);
+  if (m.isExtension) return PerSkipOpenTypes(r, 1);
+  switch (index) {
+    case 0: return DecodeV42bis(m.v42bis, r);
+    default: return;
+  }
+}
+
 void DecodeV76wCompression(DataProtocolCapability::V76wCompression& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 3);
   if (m.isExtension) return PerSkipOpenTypes(r, 1);
@@ -40,23 +56,21 @@ void DecodeT84Restricted(T84Profile::T84Restricted& m, PerReader& r) {
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
-}  // namespace
+void DecodeT38FaxUdpOptions(T38FaxUdpOptions& m, PerReader& r) {
+  m.hasT38FaxMaxBuffer = PerReadBit(r);
+  m.hasT38FaxMaxDatagram = PerReadBit(r);
+  if (m.hasT38FaxMaxBuffer) m.t38FaxMaxBuffer = PerReadInteger(r);
+  if (m.hasT38FaxMaxDatagram) m.t38FaxMaxDatagram = PerReadInteger(r);
+  DecodeNullChoice(m.t38FaxUdpEC, r);
+}
 
-void DecodeV42bis(V42bis& m, PerReader& r) {
+void DecodeT38FaxTcpOptions(T38FaxTcpOptions& m, PerReader& r) {
   m.isExtended = PerReadBit(r);
-  m.numberOfCodewords = PerReadNumber<uint32_t>(r, 1, 65536);
-  m.maximumStringLength = PerReadNumber<uint16_t>(r, 1, 256);
+  m.t38TCPBidirectionalMode = PerReadBit(r);
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
-void DecodeCompressionType(CompressionType& m, PerReader& r) {
-  const uint32_t index = ReadChoice(m, r, 1);
-  if (m.isExtension) return PerSkipOpenTypes(r, 1);
-  switch (index) {
-    case 0: return DecodeV42bis(m.v42bis, r);
-    default: return;
-  }
-}
+}  // namespace
 
 void DecodeDataProtocolCapability(DataProtocolCapability& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 7);
@@ -78,20 +92,6 @@ void DecodeT84Profile(T84Profile& m, PerReader& r) {
     case 1: return DecodeT84Restricted(m.t84Restricted, r);
     default: return;
   }
-}
-
-void DecodeT38FaxUdpOptions(T38FaxUdpOptions& m, PerReader& r) {
-  m.hasT38FaxMaxBuffer = PerReadBit(r);
-  m.hasT38FaxMaxDatagram = PerReadBit(r);
-  if (m.hasT38FaxMaxBuffer) m.t38FaxMaxBuffer = PerReadInteger(r);
-  if (m.hasT38FaxMaxDatagram) m.t38FaxMaxDatagram = PerReadInteger(r);
-  DecodeNullChoice(m.t38FaxUdpEC, r);
-}
-
-void DecodeT38FaxTcpOptions(T38FaxTcpOptions& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.t38TCPBidirectionalMode = PerReadBit(r);
-  if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
 void DecodeT38FaxProfile(T38FaxProfile& m, PerReader& r) {

@@ -3,15 +3,7 @@
 #include "h245/decode.h"
 
 namespace kelvra::h245 {
-
-void DecodeEncryptionMode(EncryptionMode& m, PerReader& r) {
-  const uint32_t index = ReadChoice(m, r, 2);
-  if (m.isExtension) return PerSkipOpenTypes(r, 1);
-  switch (index) {
-    case 0: return DecodeNonStandardParameter(m.nonStandard, r);
-    default: return;
-  }
-}
+namespace {
 
 void DecodeMediaEncryptionAlgorithm(MediaEncryptionAlgorithm& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 2);
@@ -43,6 +35,24 @@ void DecodeIntegrityCapability(IntegrityCapability& m, PerReader& r) {
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
+void DecodeEscrowData(EscrowData& m, PerReader& r) {
+  m.isExtended = PerReadBit(r);
+  PerReadObjectIdentifier(m.escrowID, r);
+  PerReadSizedBitString(m.escrowValue, r, 1, 65535);
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+}
+
+}  // namespace
+
+void DecodeEncryptionMode(EncryptionMode& m, PerReader& r) {
+  const uint32_t index = ReadChoice(m, r, 2);
+  if (m.isExtension) return PerSkipOpenTypes(r, 1);
+  switch (index) {
+    case 0: return DecodeNonStandardParameter(m.nonStandard, r);
+    default: return;
+  }
+}
+
 void DecodeEncryptionAuthenticationAndIntegrity(EncryptionAuthenticationAndIntegrity& m, PerReader& r) {
   m.isExtended = PerReadBit(r);
   m.hasEncryptionCapability = PerReadBit(r);
@@ -56,10 +66,10 @@ void DecodeEncryptionAuthenticationAndIntegrity(EncryptionAuthenticationAndInteg
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
-void DecodeEscrowData(EscrowData& m, PerReader& r) {
+void DecodeH235SecurityCapability(H235SecurityCapability& m, PerReader& r) {
   m.isExtended = PerReadBit(r);
-  PerReadObjectIdentifier(m.escrowID, r);
-  PerReadSizedBitString(m.escrowValue, r, 1, 65535);
+  DecodeEncryptionAuthenticationAndIntegrity(m.encryptionAuthenticationAndIntegrity, r);
+  m.mediaCapability = PerReadNumber<uint16_t>(r, 1, 65535);
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 

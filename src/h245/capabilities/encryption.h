@@ -89,6 +89,18 @@ struct EncryptionAuthenticationAndIntegrity {
   }
 };
 
+struct H235SecurityCapability {
+  EncryptionAuthenticationAndIntegrity encryptionAuthenticationAndIntegrity;
+  uint16_t mediaCapability;  // an entry of the capability table
+  uint32_t isExtended;
+
+  template <class Record, class Visitor>
+  static void Walk(Record& m, Visitor& v) {
+    v.Record("encryptionAuthenticationAndIntegrity", m.encryptionAuthenticationAndIntegrity);
+    v.Number("mediaCapability", m.mediaCapability);
+  }
+};
+
 struct EscrowData {
   ObjectIdentifierValue escrowID;
   OctetStringValue escrowValue;

@@ -6,11 +6,8 @@
 namespace kelvra::h245 {
 
 void DecodeEncryptionMode(EncryptionMode& m, PerReader& r);
-void DecodeMediaEncryptionAlgorithm(MediaEncryptionAlgorithm& m, PerReader& r);
-void DecodeAuthenticationCapability(AuthenticationCapability& m, PerReader& r);
-void DecodeIntegrityCapability(IntegrityCapability& m, PerReader& r);
 void DecodeEncryptionAuthenticationAndIntegrity(EncryptionAuthenticationAndIntegrity& m, PerReader& r);
-void DecodeEscrowData(EscrowData& m, PerReader& r);
+void DecodeH235SecurityCapability(H235SecurityCapability& m, PerReader& r);
 void DecodeEncryptionSync(EncryptionSync& m, PerReader& r);
 
 }  // namespace kelvra::h245

@@ -1,195 +1,55 @@
+#include "h245/capabilities/h2250_capability_decode.h"
 #include "h245/capabilities/multiplex_capability_decode.h"
-#include "h245/channels/network_access_decode.h"
+#include "h245/capabilities/multiplex_format_decode.h"
+#include "h245/common/generic_capability_decode.h"
 #include "h245/common/non_standard_decode.h"
 #include "h245/decode.h"
 
 namespace kelvra::h245 {
 namespace {
 
-void DecodeAal1(VCCapability::Aal1& m, PerReader& r) {
+void DecodeV75Capability(V75Capability& m, PerReader& r) {
   m.isExtended = PerReadBit(r);
-  m.nullClockRecovery = PerReadBit(r);
-  m.srtsClockRecovery = PerReadBit(r);
-  m.adaptiveClockRecovery = PerReadBit(r);
-  m.nullErrorCorrection = PerReadBit(r);
-  m.longInterleaver = PerReadBit(r);
-  m.shortInterleaver = PerReadBit(r);
-  m.errorCorrectionOnly = PerReadBit(r);
-  m.structuredDataTransfer = PerReadBit(r);
-  m.partiallyFilledCells = PerReadBit(r);
+  m.audioHeader = PerReadBit(r);
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
-void DecodeAal5(VCCapability::Aal5& m, PerReader& r) {
+void DecodeV76Capability(V76Capability& m, PerReader& r) {
   m.isExtended = PerReadBit(r);
-  m.forwardMaximumSDUSize = PerReadNumber<uint16_t>(r, 0, 65535);
-  m.backwardMaximumSDUSize = PerReadNumber<uint16_t>(r, 0, 65535);
-  if (m.isExtended) PerSkipExtensionAdditions(r);
-}
-
-void DecodeRangeOfBitRates(VCCapability::AvailableBitRates::Type::RangeOfBitRates& m, PerReader& r) {
-  m.lowerBitRate = PerReadNumber<uint16_t>(r, 1, 65535);
-  m.higherBitRate = PerReadNumber<uint16_t>(r, 1, 65535);
-}
-
-void DecodeType(VCCapability::AvailableBitRates::Type& m, PerReader& r) {
-  const uint32_t index = ReadRootChoice(m, r, 2);
-  switch (index) {
-    case 0: m.singleBitRate = PerReadNumber<uint16_t>(r, 1, 65535); return;
-    case 1: return DecodeRangeOfBitRates(m.rangeOfBitRates, r);
-    default: return;
-  }
-}
-
-void DecodeAvailableBitRates(VCCapability::AvailableBitRates& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  DecodeType(m.type, r);
-  if (m.isExtended) PerSkipExtensionAdditions(r);
-}
-
-void DecodeAal1ViaGateway(VCCapability::Aal1ViaGateway& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  KELVRA_OR_STOP(DecodeSizedSequenceOf(KELVRA_LIST(m.gatewayAddress), r, 1, 256, DecodeQ2931Address));
-  m.nullClockRecovery = PerReadBit(r);
-  m.srtsClockRecovery = PerReadBit(r);
-  m.adaptiveClockRecovery = PerReadBit(r);
-  m.nullErrorCorrection = PerReadBit(r);
-  m.longInterleaver = PerReadBit(r);
-  m.shortInterleaver = PerReadBit(r);
-  m.errorCorrectionOnly = PerReadBit(r);
-  m.structuredDataTransfer = PerReadBit(r);
-  m.partiallyFilledCells = PerReadBit(r);
-  if (m.isExtended) PerSkipExtensionAdditions(r);
-}
-
-void DecodeEnhanced(H223Capability::H223MultiplexTableCapability::Enhanced& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.maximumNestingDepth = PerReadNumber<uint8_t>(r, 1, 15);
-  m.maximumElementListSize = PerReadNumber<uint8_t>(r, 2, 255);
-  m.maximumSubElementListSize = PerReadNumber<uint8_t>(r, 2, 255);
-  if (m.isExtended) PerSkipExtensionAdditions(r);
-}
-
-void DecodeH223MultiplexTableCapability(H223Capability::H223MultiplexTableCapability& m, PerReader& r) {
-  const uint32_t index = ReadRootChoice(m, r, 2);
-  switch (index) {
-    case 1: return DecodeEnhanced(m.enhanced, r);
-    default: return;
-  }
-}
-
-void DecodeMobileOperationTransmitCapability(H223Capability::MobileOperationTransmitCapability& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.modeChangeCapability = PerReadBit(r);
-  m.h223AnnexA = PerReadBit(r);
-  m.h223AnnexADoubleFlag = PerReadBit(r);
-  m.h223AnnexB = PerReadBit(r);
-  m.h223AnnexBwithHeader = PerReadBit(r);
-  if (m.isExtended) PerSkipExtensionAdditions(r);
-}
-
-void DecodeMobileMultilinkFrameCapability(H223Capability::MobileMultilinkFrameCapability& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.maximumSampleSize = PerReadNumber<uint8_t>(r, 1, 255);
-  m.maximumPayloadLength = PerReadNumber<uint16_t>(r, 1, 65025);
+  m.suspendResumeCapabilitywAddress = PerReadBit(r);
+  m.suspendResumeCapabilitywoAddress = PerReadBit(r);
+  m.rejCapability = PerReadBit(r);
+  m.sREJCapability = PerReadBit(r);
+  m.mREJCapability = PerReadBit(r);
+  m.crc8bitCapability = PerReadBit(r);
+  m.crc16bitCapability = PerReadBit(r);
+  m.crc32bitCapability = PerReadBit(r);
+  m.uihCapability = PerReadBit(r);
+  m.numOfDLCS = PerReadNumber<uint16_t>(r, 2, 8191);
+  m.twoOctetAddressFieldCapability = PerReadBit(r);
+  m.loopBackTestCapability = PerReadBit(r);
+  m.n401Capability = PerReadNumber<uint16_t>(r, 1, 4095);
+  m.maxWindowSizeCapability = PerReadNumber<uint8_t>(r, 1, 127);
+  DecodeV75Capability(m.v75Capability, r);
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
 }  // namespace
 
-void DecodeVCCapability(VCCapability& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasAal1 = PerReadBit(r);
-  m.hasAal5 = PerReadBit(r);
-  if (m.hasAal1) DecodeAal1(m.aal1, r);
-  if (m.hasAal5) DecodeAal5(m.aal5, r);
-  m.transportStream = PerReadBit(r);
-  m.programStream = PerReadBit(r);
-  DecodeAvailableBitRates(m.availableBitRates, r);
-  if (!m.isExtended) return;
-
-  int32_t additions = PerReadBitmapLength8(r);
-  m.hasAal1ViaGateway = PerReadAdditionBit(r, additions);
-  const int32_t unknown = PerCountUnknownAdditions(r, additions);
-  if (m.hasAal1ViaGateway) DecodeOpen(m.aal1ViaGateway, r, DecodeAal1ViaGateway);
-  PerSkipOpenTypes(r, unknown);
-}
-
-void DecodeH222Capability(H222Capability& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.numberOfVCs = PerReadNumber<uint16_t>(r, 1, 256);
-  KELVRA_OR_STOP(DecodeSequenceOf(KELVRA_LIST(m.vcCapability), r, DecodeVCCapability));
-  if (m.isExtended) PerSkipExtensionAdditions(r);
-}
-
-void DecodeH223AnnexCCapability(H223AnnexCCapability& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.videoWithAL1M = PerReadBit(r);
-  m.videoWithAL2M = PerReadBit(r);
-  m.videoWithAL3M = PerReadBit(r);
-  m.audioWithAL1M = PerReadBit(r);
-  m.audioWithAL2M = PerReadBit(r);
-  m.audioWithAL3M = PerReadBit(r);
-  m.dataWithAL1M = PerReadBit(r);
-  m.dataWithAL2M = PerReadBit(r);
-  m.dataWithAL3M = PerReadBit(r);
-  m.alpduInterleaving = PerReadBit(r);
-  m.maximumAL1MPDUSize = PerReadNumber<uint16_t>(r, 0, 65535);
-  m.maximumAL2MSDUSize = PerReadNumber<uint16_t>(r, 0, 65535);
-  m.maximumAL3MSDUSize = PerReadNumber<uint16_t>(r, 0, 65535);
-  if (!m.isExtended) return;
-
-  int32_t additions = PerReadBitmapLength8(r);
-  m.hasRsCodeCapability = PerReadAdditionBit(r, additions);
-  const int32_t unknown = PerCountUnknownAdditions(r, additions);
-  if (m.hasRsCodeCapability) m.rsCodeCapability = PerReadOpenBoolean(r);
-  PerSkipOpenTypes(r, unknown);
-}
-
-void DecodeH223Capability(H223Capability& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.transportWithIFrames = PerReadBit(r);
-  m.videoWithAL1 = PerReadBit(r);
-  m.videoWithAL2 = PerReadBit(r);
-  m.videoWithAL3 = PerReadBit(r);
-  m.audioWithAL1 = PerReadBit(r);
-  m.audioWithAL2 = PerReadBit(r);
-  m.audioWithAL3 = PerReadBit(r);
-  m.dataWithAL1 = PerReadBit(r);
-  m.dataWithAL2 = PerReadBit(r);
-  m.dataWithAL3 = PerReadBit(r);
-  m.maximumAl2SDUSize = PerReadNumber<uint16_t>(r, 0, 65535);
-  m.maximumAl3SDUSize = PerReadNumber<uint16_t>(r, 0, 65535);
-  m.maximumDelayJitter = PerReadNumber<uint16_t>(r, 0, 1023);
-  DecodeH223MultiplexTableCapability(m.h223MultiplexTableCapability, r);
-  if (!m.isExtended) return;
-
-  int32_t additions = PerReadBitmapLength8(r);
-  m.hasMaxMUXPDUSizeCapability = PerReadAdditionBit(r, additions);
-  m.hasNsrpSupport = PerReadAdditionBit(r, additions);
-  m.hasMobileOperationTransmitCapability = PerReadAdditionBit(r, additions);
-  m.hasH223AnnexCCapability = PerReadAdditionBit(r, additions);
-  m.hasBitRate = PerReadAdditionBit(r, additions);
-  m.hasMobileMultilinkFrameCapability = PerReadAdditionBit(r, additions);
-  const int32_t unknown = PerCountUnknownAdditions(r, additions);
-  if (m.hasMaxMUXPDUSizeCapability) m.maxMUXPDUSizeCapability = PerReadOpenBoolean(r);
-  if (m.hasNsrpSupport) m.nsrpSupport = PerReadOpenBoolean(r);
-  if (m.hasMobileOperationTransmitCapability)
-    DecodeOpen(m.mobileOperationTransmitCapability, r, DecodeMobileOperationTransmitCapability);
-  if (m.hasH223AnnexCCapability) DecodeOpen(m.h223AnnexCCapability, r, DecodeH223AnnexCCapability);
-  if (m.hasBitRate) m.bitRate = PerReadOpenNumber<uint16_t>(r, 1, 19200);
-  if (m.hasMobileMultilinkFrameCapability)
-    DecodeOpen(m.mobileMultilinkFrameCapability, r, DecodeMobileMultilinkFrameCapability);
-  PerSkipOpenTypes(r, unknown);
-}
-
-void DecodeMultiplexFormat(MultiplexFormat& m, PerReader& r) {
-  const uint32_t index = ReadChoice(m, r, 3);
-  if (m.isExtension) return PerSkipOpenTypes(r, 1);
+void DecodeMultiplexCapability(MultiplexCapability& m, PerReader& r) {
+  const uint32_t index = ReadChoice(m, r, 4);
+  if (m.isExtension) {
+    switch (index) {
+      case 0: return DecodeOpen(m.h2250Capability, r, DecodeH2250Capability);
+      case 1: return DecodeOpen(m.genericMultiplexCapability, r, DecodeGenericCapability);
+      default: return PerSkipOpenTypes(r, 1);
+    }
+  }
   switch (index) {
     case 0: return DecodeNonStandardParameter(m.nonStandard, r);
     case 1: return DecodeH222Capability(m.h222Capability, r);
     case 2: return DecodeH223Capability(m.h223Capability, r);
+    case 3: return DecodeV76Capability(m.v76Capability, r);
     default: return;
   }
 }

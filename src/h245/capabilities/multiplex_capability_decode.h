@@ -5,10 +5,6 @@
 
 namespace kelvra::h245 {
 
-void DecodeVCCapability(VCCapability& m, PerReader& r);
-void DecodeH222Capability(H222Capability& m, PerReader& r);
-void DecodeH223AnnexCCapability(H223AnnexCCapability& m, PerReader& r);
-void DecodeH223Capability(H223Capability& m, PerReader& r);
-void DecodeMultiplexFormat(MultiplexFormat& m, PerReader& r);
+void DecodeMultiplexCapability(MultiplexCapability& m, PerReader& r);
 
 }  // namespace kelvra::h245

@@ -76,8 +76,6 @@ void DecodePixelAspectInformation(CustomPictureFormat::PixelAspectInformation& m
   }
 }
 
-}  // namespace
-
 void DecodeH261VideoCapability(H261VideoCapability& m, PerReader& r) {
   m.isExtended = PerReadBit(r);
   m.hasQcifMPI = PerReadBit(r);
@@ -261,57 +259,6 @@ void DecodeH263VideoModeCombos(H263VideoModeCombos& m, PerReader& r) {
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
-void DecodeH263Options(H263Options& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasTransparencyParameters = PerReadBit(r);
-  m.hasRefPictureSelection = PerReadBit(r);
-  m.hasCustomPictureClockFrequency = PerReadBit(r);
-  m.hasCustomPictureFormat = PerReadBit(r);
-  m.hasModeCombos = PerReadBit(r);
-  m.advancedIntraCodingMode = PerReadBit(r);
-  m.deblockingFilterMode = PerReadBit(r);
-  m.improvedPBFramesMode = PerReadBit(r);
-  m.unlimitedMotionVectors = PerReadBit(r);
-  m.fullPictureFreeze = PerReadBit(r);
-  m.partialPictureFreezeAndRelease = PerReadBit(r);
-  m.resizingPartPicFreezeAndRelease = PerReadBit(r);
-  m.fullPictureSnapshot = PerReadBit(r);
-  m.partialPictureSnapshot = PerReadBit(r);
-  m.videoSegmentTagging = PerReadBit(r);
-  m.progressiveRefinement = PerReadBit(r);
-  m.dynamicPictureResizingByFour = PerReadBit(r);
-  m.dynamicPictureResizingSixteenthPel = PerReadBit(r);
-  m.dynamicWarpingHalfPel = PerReadBit(r);
-  m.dynamicWarpingSixteenthPel = PerReadBit(r);
-  m.independentSegmentDecoding = PerReadBit(r);
-  m.slicesInOrderNonRect = PerReadBit(r);
-  m.slicesInOrderRect = PerReadBit(r);
-  m.slicesNoOrderNonRect = PerReadBit(r);
-  m.slicesNoOrderRect = PerReadBit(r);
-  m.alternateInterVLCMode = PerReadBit(r);
-  m.modifiedQuantizationMode = PerReadBit(r);
-  m.reducedResolutionUpdate = PerReadBit(r);
-  if (m.hasTransparencyParameters) DecodeTransparencyParameters(m.transparencyParameters, r);
-  m.separateVideoBackChannel = PerReadBit(r);
-  if (m.hasRefPictureSelection) DecodeRefPictureSelection(m.refPictureSelection, r);
-  if (m.hasCustomPictureClockFrequency)
-    KELVRA_OR_STOP(
-        DecodeSizedSequenceOf(KELVRA_LIST(m.customPictureClockFrequency), r, 1, 16, DecodeCustomPictureClockFrequency));
-  if (m.hasCustomPictureFormat)
-    KELVRA_OR_STOP(DecodeSizedSequenceOf(KELVRA_LIST(m.customPictureFormat), r, 1, 16, DecodeCustomPictureFormat));
-  if (m.hasModeCombos)
-    KELVRA_OR_STOP(DecodeSizedSequenceOf(KELVRA_LIST(m.modeCombos), r, 1, 16, DecodeH263VideoModeCombos));
-  if (!m.isExtended) return;
-
-  int32_t additions = PerReadBitmapLength8(r);
-  m.hasVideoBadMBsCap = PerReadAdditionBit(r, additions);
-  m.hasH263Version3Options = PerReadAdditionBit(r, additions);
-  const int32_t unknown = PerCountUnknownAdditions(r, additions);
-  if (m.hasVideoBadMBsCap) m.videoBadMBsCap = PerReadOpenBoolean(r);
-  if (m.hasH263Version3Options) DecodeOpen(m.h263Version3Options, r, DecodeH263Version3Options);
-  PerSkipOpenTypes(r, unknown);
-}
-
 void DecodeEnhancementOptions(EnhancementOptions& m, PerReader& r) {
   m.isExtended = PerReadBit(r);
   m.hasSqcifMPI = PerReadBit(r);
@@ -348,21 +295,6 @@ void DecodeBEnhancementParameters(BEnhancementParameters& m, PerReader& r) {
   m.isExtended = PerReadBit(r);
   DecodeEnhancementOptions(m.enhancementOptions, r);
   m.numberOfBPictures = PerReadNumber<uint8_t>(r, 1, 64);
-  if (m.isExtended) PerSkipExtensionAdditions(r);
-}
-
-void DecodeEnhancementLayerInfo(EnhancementLayerInfo& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasSnrEnhancement = PerReadBit(r);
-  m.hasSpatialEnhancement = PerReadBit(r);
-  m.hasBPictureEnhancement = PerReadBit(r);
-  m.baseBitRateConstrained = PerReadBit(r);
-  if (m.hasSnrEnhancement)
-    KELVRA_OR_STOP(DecodeSizedSequenceOf(KELVRA_LIST(m.snrEnhancement), r, 1, 14, DecodeEnhancementOptions));
-  if (m.hasSpatialEnhancement)
-    KELVRA_OR_STOP(DecodeSizedSequenceOf(KELVRA_LIST(m.spatialEnhancement), r, 1, 14, DecodeEnhancementOptions));
-  if (m.hasBPictureEnhancement)
-    KELVRA_OR_STOP(DecodeSizedSequenceOf(KELVRA_LIST(m.bPictureEnhancement), r, 1, 14, DecodeBEnhancementParameters));
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
@@ -417,6 +349,74 @@ void DecodeExtendedVideoCapability(ExtendedVideoCapability& m, PerReader& r) {
   KELVRA_OR_STOP(DecodeSequenceOf(KELVRA_LIST(m.videoCapability), r, DecodeVideoCapability));
   if (m.hasVideoCapabilityExtension)
     KELVRA_OR_STOP(DecodeSequenceOf(KELVRA_LIST(m.videoCapabilityExtension), r, DecodeGenericCapability));
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+}
+
+}  // namespace
+
+void DecodeH263Options(H263Options& m, PerReader& r) {
+  m.isExtended = PerReadBit(r);
+  m.hasTransparencyParameters = PerReadBit(r);
+  m.hasRefPictureSelection = PerReadBit(r);
+  m.hasCustomPictureClockFrequency = PerReadBit(r);
+  m.hasCustomPictureFormat = PerReadBit(r);
+  m.hasModeCombos = PerReadBit(r);
+  m.advancedIntraCodingMode = PerReadBit(r);
+  m.deblockingFilterMode = PerReadBit(r);
+  m.improvedPBFramesMode = PerReadBit(r);
+  m.unlimitedMotionVectors = PerReadBit(r);
+  m.fullPictureFreeze = PerReadBit(r);
+  m.partialPictureFreezeAndRelease = PerReadBit(r);
+  m.resizingPartPicFreezeAndRelease = PerReadBit(r);
+  m.fullPictureSnapshot = PerReadBit(r);
+  m.partialPictureSnapshot = PerReadBit(r);
+  m.videoSegmentTagging = PerReadBit(r);
+  m.progressiveRefinement = PerReadBit(r);
+  m.dynamicPictureResizingByFour = PerReadBit(r);
+  m.dynamicPictureResizingSixteenthPel = PerReadBit(r);
+  m.dynamicWarpingHalfPel = PerReadBit(r);
+  m.dynamicWarpingSixteenthPel = PerReadBit(r);
+  m.independentSegmentDecoding = PerReadBit(r);
+  m.slicesInOrderNonRect = PerReadBit(r);
+  m.slicesInOrderRect = PerReadBit(r);
+  m.slicesNoOrderNonRect = PerReadBit(r);
+  m.slicesNoOrderRect = PerReadBit(r);
+  m.alternateInterVLCMode = PerReadBit(r);
+  m.modifiedQuantizationMode = PerReadBit(r);
+  m.reducedResolutionUpdate = PerReadBit(r);
+  if (m.hasTransparencyParameters) DecodeTransparencyParameters(m.transparencyParameters, r);
+  m.separateVideoBackChannel = PerReadBit(r);
+  if (m.hasRefPictureSelection) DecodeRefPictureSelection(m.refPictureSelection, r);
+  if (m.hasCustomPictureClockFrequency)
+    KELVRA_OR_STOP(
+        DecodeSizedSequenceOf(KELVRA_LIST(m.customPictureClockFrequency), r, 1, 16, DecodeCustomPictureClockFrequency));
+  if (m.hasCustomPictureFormat)
+    KELVRA_OR_STOP(DecodeSizedSequenceOf(KELVRA_LIST(m.customPictureFormat), r, 1, 16, DecodeCustomPictureFormat));
+  if (m.hasModeCombos)
+    KELVRA_OR_STOP(DecodeSizedSequenceOf(KELVRA_LIST(m.modeCombos), r, 1, 16, DecodeH263VideoModeCombos));
+  if (!m.isExtended) return;
+
+  int32_t additions = PerReadBitmapLength8(r);
+  m.hasVideoBadMBsCap = PerReadAdditionBit(r, additions);
+  m.hasH263Version3Options = PerReadAdditionBit(r, additions);
+  const int32_t unknown = PerCountUnknownAdditions(r, additions);
+  if (m.hasVideoBadMBsCap) m.videoBadMBsCap = PerReadOpenBoolean(r);
+  if (m.hasH263Version3Options) DecodeOpen(m.h263Version3Options, r, DecodeH263Version3Options);
+  PerSkipOpenTypes(r, unknown);
+}
+
+void DecodeEnhancementLayerInfo(EnhancementLayerInfo& m, PerReader& r) {
+  m.isExtended = PerReadBit(r);
+  m.hasSnrEnhancement = PerReadBit(r);
+  m.hasSpatialEnhancement = PerReadBit(r);
+  m.hasBPictureEnhancement = PerReadBit(r);
+  m.baseBitRateConstrained = PerReadBit(r);
+  if (m.hasSnrEnhancement)
+    KELVRA_OR_STOP(DecodeSizedSequenceOf(KELVRA_LIST(m.snrEnhancement), r, 1, 14, DecodeEnhancementOptions));
+  if (m.hasSpatialEnhancement)
+    KELVRA_OR_STOP(DecodeSizedSequenceOf(KELVRA_LIST(m.spatialEnhancement), r, 1, 14, DecodeEnhancementOptions));
+  if (m.hasBPictureEnhancement)
+    KELVRA_OR_STOP(DecodeSizedSequenceOf(KELVRA_LIST(m.bPictureEnhancement), r, 1, 14, DecodeBEnhancementParameters));
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 

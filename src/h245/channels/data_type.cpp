@@ -1,7 +1,7 @@
 #include "h245/capabilities/audio_capability_decode.h"
 #include "h245/capabilities/data_application_decode.h"
 #include "h245/capabilities/encryption_decode.h"
-#include "h245/capabilities/multiplex_capability_decode.h"
+#include "h245/capabilities/multiplex_format_decode.h"
 #include "h245/capabilities/video_capability_decode.h"
 #include "h245/channels/data_type_decode.h"
 #include "h245/common/non_standard_decode.h"
@@ -10,6 +10,13 @@
 
 namespace kelvra::h245 {
 namespace {
+
+void DecodeRTPH263VideoRedundancyFrameMapping(RTPH263VideoRedundancyFrameMapping& m, PerReader& r) {
+  m.isExtended = PerReadBit(r);
+  m.threadNumber = PerReadNumber<uint8_t>(r, 0, 15);
+  KELVRA_OR_STOP(DecodeSizedSequenceOf(KELVRA_LIST(m.frameSequence), r, 1, 256, PerReadElement<uint8_t, 0, 255>));
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+}
 
 void DecodeFrameToThreadMapping(RTPH263VideoRedundancyEncoding::FrameToThreadMapping& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 2);
@@ -20,6 +27,14 @@ void DecodeFrameToThreadMapping(RTPH263VideoRedundancyEncoding::FrameToThreadMap
       return;
     default: return;
   }
+}
+
+void DecodeRedundancyEncodingElement(RedundancyEncodingElement& m, PerReader& r) {
+  m.isExtended = PerReadBit(r);
+  m.hasPayloadType = PerReadBit(r);
+  DecodePointer(KELVRA_SLOT(m.dataType), r, DecodeDataType);
+  if (m.hasPayloadType) m.payloadType = PerReadNumber<uint8_t>(r, 0, 127);
+  if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
 // The count of `secondary` is one aligned octet. Where its block is refused, the secondaryEncoding
@@ -36,14 +51,6 @@ void DecodeRtpRedundancyEncoding(RedundancyEncoding& m, PerReader& r) {
     return release.Pointer("secondaryEncoding", KELVRA_SLOT(m.secondaryEncoding));
   }
   if (rtp.isExtended) PerSkipExtensionAdditions(r);
-}
-
-void DecodeDifferentPort(FECData::Rfc2733::Mode::SeparateStream::DifferentPort& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasProtectedPayloadType = PerReadBit(r);
-  m.protectedSessionID = PerReadNumber<uint8_t>(r, 1, 255);
-  if (m.hasProtectedPayloadType) m.protectedPayloadType = PerReadNumber<uint8_t>(r, 0, 127);
-  if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
 void DecodeSamePort(FECData::Rfc2733::Mode::SeparateStream::SamePort& m, PerReader& r) {
@@ -77,6 +84,20 @@ void DecodeRfc2733(FECData::Rfc2733& m, PerReader& r) {
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
+void DecodeMultiplePayloadStream(MultiplePayloadStream& m, PerReader& r) {
+  m.isExtended = PerReadBit(r);
+  KELVRA_OR_STOP(DecodeSequenceOf(KELVRA_LIST(m.elements), r, DecodeRedundancyEncodingElement));
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+}
+
+void DecodeFECData(FECData& m, PerReader& r) {
+  const uint32_t index = ReadRootChoice(m, r, 1);
+  switch (index) {
+    case 0: return DecodeRfc2733(m.rfc2733, r);
+    default: return;
+  }
+}
+
 void DecodeMediaType(H235Media::MediaType& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 4);
   if (m.isExtension) {
@@ -96,15 +117,6 @@ void DecodeMediaType(H235Media::MediaType& m, PerReader& r) {
   }
 }
 
-}  // namespace
-
-void DecodeRTPH263VideoRedundancyFrameMapping(RTPH263VideoRedundancyFrameMapping& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.threadNumber = PerReadNumber<uint8_t>(r, 0, 15);
-  KELVRA_OR_STOP(DecodeSizedSequenceOf(KELVRA_LIST(m.frameSequence), r, 1, 256, PerReadElement<uint8_t, 0, 255>));
-  if (m.isExtended) PerSkipExtensionAdditions(r);
-}
-
 void DecodeRTPH263VideoRedundancyEncoding(RTPH263VideoRedundancyEncoding& m, PerReader& r) {
   m.isExtended = PerReadBit(r);
   m.hasContainedThreads = PerReadBit(r);
@@ -115,6 +127,15 @@ void DecodeRTPH263VideoRedundancyEncoding(RTPH263VideoRedundancyEncoding& m, Per
     KELVRA_OR_STOP(DecodeSizedSequenceOf(KELVRA_LIST(m.containedThreads), r, 1, 256, PerReadElement<uint8_t, 0, 15>));
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
+
+void DecodeH235Media(H235Media& m, PerReader& r) {
+  m.isExtended = PerReadBit(r);
+  DecodeEncryptionAuthenticationAndIntegrity(m.encryptionAuthenticationAndIntegrity, r);
+  DecodeMediaType(m.mediaType, r);
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+}
+
+}  // namespace
 
 void DecodeRedundancyEncodingMethod(RedundancyEncodingMethod& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 2);
@@ -128,14 +149,6 @@ void DecodeRedundancyEncodingMethod(RedundancyEncodingMethod& m, PerReader& r) {
     case 0: return DecodeNonStandardParameter(m.nonStandard, r);
     default: return;
   }
-}
-
-void DecodeRedundancyEncodingElement(RedundancyEncodingElement& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasPayloadType = PerReadBit(r);
-  DecodePointer(KELVRA_SLOT(m.dataType), r, DecodeDataType);
-  if (m.hasPayloadType) m.payloadType = PerReadNumber<uint8_t>(r, 0, 127);
-  if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
 void DecodeRedundancyEncoding(RedundancyEncoding& m, PerReader& r) {
@@ -152,39 +165,18 @@ void DecodeRedundancyEncoding(RedundancyEncoding& m, PerReader& r) {
   PerSkipOpenTypes(r, unknown);
 }
 
-void DecodeMultiplePayloadStreamElement(MultiplePayloadStreamElement& m, PerReader& r) {
+void DecodeDifferentPort(FECData::Rfc2733::Mode::SeparateStream::DifferentPort& m, PerReader& r) {
   m.isExtended = PerReadBit(r);
-  m.hasPayloadType = PerReadBit(r);
-  DecodePointer(KELVRA_SLOT(m.dataType), r, DecodeDataType);
-  if (m.hasPayloadType) m.payloadType = PerReadNumber<uint8_t>(r, 0, 127);
+  m.hasProtectedPayloadType = PerReadBit(r);
+  m.protectedSessionID = PerReadNumber<uint8_t>(r, 1, 255);
+  if (m.hasProtectedPayloadType) m.protectedPayloadType = PerReadNumber<uint8_t>(r, 0, 127);
   if (m.isExtended) PerSkipExtensionAdditions(r);
-}
-
-void DecodeMultiplePayloadStream(MultiplePayloadStream& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  KELVRA_OR_STOP(DecodeSequenceOf(KELVRA_LIST(m.elements), r, DecodeMultiplePayloadStreamElement));
-  if (m.isExtended) PerSkipExtensionAdditions(r);
-}
-
-void DecodeFECData(FECData& m, PerReader& r) {
-  const uint32_t index = ReadRootChoice(m, r, 1);
-  switch (index) {
-    case 0: return DecodeRfc2733(m.rfc2733, r);
-    default: return;
-  }
 }
 
 void DecodeMultiplexedStreamParameter(MultiplexedStreamParameter& m, PerReader& r) {
   m.isExtended = PerReadBit(r);
   DecodeMultiplexFormat(m.multiplexFormat, r);
   m.controlOnMuxStream = PerReadBit(r);
-  if (m.isExtended) PerSkipExtensionAdditions(r);
-}
-
-void DecodeH235Media(H235Media& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  DecodeEncryptionAuthenticationAndIntegrity(m.encryptionAuthenticationAndIntegrity, r);
-  DecodeMediaType(m.mediaType, r);
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 

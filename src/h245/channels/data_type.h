@@ -6,7 +6,7 @@
 #include "../capabilities/audio_capability.h"
 #include "../capabilities/data_application.h"
 #include "../capabilities/encryption.h"
-#include "../capabilities/multiplex_capability.h"
+#include "../capabilities/multiplex_format.h"
 #include "../capabilities/video_capability.h"
 
 namespace kelvra::h245 {
@@ -137,18 +137,7 @@ struct RedundancyEncoding {
   }
 };
 
-struct MultiplePayloadStreamElement {
-  DataType* dataType;
-  uint32_t hasPayloadType;
-  uint8_t payloadType;
-  uint32_t isExtended;
-
-  template <class Record, class Visitor>
-  static void Walk(Record& m, Visitor& v) {
-    v.Pointer("dataType", KELVRA_SLOT(m.dataType));
-    if (m.hasPayloadType) v.Number("payloadType", m.payloadType);
-  }
-};
+using MultiplePayloadStreamElement = RedundancyEncodingElement;
 
 struct MultiplePayloadStream {
   uint8_t elementsCount;

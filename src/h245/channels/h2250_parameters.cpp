@@ -21,15 +21,6 @@ void DecodeMediaPacketization(H2250LogicalChannelParameters::MediaPacketization&
   m.mediaPacketizationOctet = PerReadOpenNumber<uint8_t>(r, 0, 255);
 }
 
-}  // namespace
-
-void DecodeTerminalLabel(TerminalLabel& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.mcuNumber = static_cast<uint8_t>(PerReadConstrainedWholeNumber(r, 192));
-  m.terminalNumber = static_cast<uint8_t>(PerReadConstrainedWholeNumber(r, 192));
-  if (m.isExtended) PerSkipExtensionAdditions(r);
-}
-
 void DecodeRSVPParameters(RSVPParameters& m, PerReader& r) {
   m.isExtended = PerReadBit(r);
   m.hasQosMode = PerReadBit(r);
@@ -58,17 +49,6 @@ void DecodeATMParameters(ATMParameters& m, PerReader& r) {
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
-void DecodeQOSCapability(QOSCapability& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasNonStandardData = PerReadBit(r);
-  m.hasRsvpParameters = PerReadBit(r);
-  m.hasAtmParameters = PerReadBit(r);
-  if (m.hasNonStandardData) DecodeNonStandardParameter(m.nonStandardData, r);
-  if (m.hasRsvpParameters) DecodeRSVPParameters(m.rsvpParameters, r);
-  if (m.hasAtmParameters) DecodeATMParameters(m.atmParameters, r);
-  if (m.isExtended) PerSkipExtensionAdditions(r);
-}
-
 void DecodeMediaTransportType(MediaTransportType& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 4);
   if (m.isExtension) {
@@ -83,6 +63,26 @@ void DecodeMediaChannelCapability(MediaChannelCapability& m, PerReader& r) {
   m.isExtended = PerReadBit(r);
   m.hasMediaTransport = PerReadBit(r);
   if (m.hasMediaTransport) DecodeMediaTransportType(m.mediaTransport, r);
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+}
+
+}  // namespace
+
+void DecodeTerminalLabel(TerminalLabel& m, PerReader& r) {
+  m.isExtended = PerReadBit(r);
+  m.mcuNumber = static_cast<uint8_t>(PerReadConstrainedWholeNumber(r, 192));
+  m.terminalNumber = static_cast<uint8_t>(PerReadConstrainedWholeNumber(r, 192));
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+}
+
+void DecodeQOSCapability(QOSCapability& m, PerReader& r) {
+  m.isExtended = PerReadBit(r);
+  m.hasNonStandardData = PerReadBit(r);
+  m.hasRsvpParameters = PerReadBit(r);
+  m.hasAtmParameters = PerReadBit(r);
+  if (m.hasNonStandardData) DecodeNonStandardParameter(m.nonStandardData, r);
+  if (m.hasRsvpParameters) DecodeRSVPParameters(m.rsvpParameters, r);
+  if (m.hasAtmParameters) DecodeATMParameters(m.atmParameters, r);
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 

@@ -6,11 +6,7 @@
 namespace kelvra::h245 {
 
 void DecodeTerminalLabel(TerminalLabel& m, PerReader& r);
-void DecodeRSVPParameters(RSVPParameters& m, PerReader& r);
-void DecodeATMParameters(ATMParameters& m, PerReader& r);
 void DecodeQOSCapability(QOSCapability& m, PerReader& r);
-void DecodeMediaTransportType(MediaTransportType& m, PerReader& r);
-void DecodeMediaChannelCapability(MediaChannelCapability& m, PerReader& r);
 void DecodeTransportCapability(TransportCapability& m, PerReader& r);
 void DecodeH2250LogicalChannelParameters(H2250LogicalChannelParameters& m, PerReader& r);
 void DecodeH2250LogicalChannelAckParameters(H2250LogicalChannelAckParameters& m, PerReader& r);

@@ -14,17 +14,14 @@ void DecodeNumberOfRetransmissions(H223AnnexCArqParameters::NumberOfRetransmissi
   }
 }
 
-void DecodeArqType(H223AL1MParameters::ArqType& m, PerReader& r) {
-  const uint32_t index = ReadChoice(m, r, 3);
-  if (m.isExtension) return PerSkipOpenTypes(r, 1);
-  switch (index) {
-    case 1: return DecodeH223AnnexCArqParameters(m.typeIArq, r);
-    case 2: return DecodeH223AnnexCArqParameters(m.typeIIArq, r);
-    default: return;
-  }
+void DecodeH223AnnexCArqParameters(H223AnnexCArqParameters& m, PerReader& r) {
+  m.isExtended = PerReadBit(r);
+  DecodeNumberOfRetransmissions(m.numberOfRetransmissions, r);
+  m.sendBufferSize = PerReadNumber<uint32_t>(r, 0, 16777215);
+  if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
-void DecodeArqType(H223AL3MParameters::ArqType& m, PerReader& r) {
+void DecodeArqType(H223ArqType& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 3);
   if (m.isExtension) return PerSkipOpenTypes(r, 1);
   switch (index) {
@@ -37,61 +34,6 @@ void DecodeArqType(H223AL3MParameters::ArqType& m, PerReader& r) {
 void DecodeAl3(H223LogicalChannelParameters::AdaptationLayerType::Al3& m, PerReader& r) {
   m.controlFieldOctets = PerReadNumber<uint8_t>(r, 0, 2);
   m.sendBufferSize = PerReadNumber<uint32_t>(r, 0, 16777215);
-}
-
-void DecodeAdaptationLayerType(H223LogicalChannelParameters::AdaptationLayerType& m, PerReader& r) {
-  const uint32_t index = ReadChoice(m, r, 6);
-  if (m.isExtension) {
-    switch (index) {
-      case 0: return DecodeOpen(m.al1M, r, DecodeH223AL1MParameters);
-      case 1: return DecodeOpen(m.al2M, r, DecodeH223AL2MParameters);
-      case 2: return DecodeOpen(m.al3M, r, DecodeH223AL3MParameters);
-      default: return PerSkipOpenTypes(r, 1);
-    }
-  }
-  switch (index) {
-    case 0: return DecodeNonStandardParameter(m.nonStandard, r);
-    case 5: return DecodeAl3(m.al3, r);
-    default: return;
-  }
-}
-
-void DecodeERM(V76LogicalChannelParameters::Mode::ERM& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.windowSize = PerReadNumber<uint8_t>(r, 1, 127);
-  DecodeNullChoice(m.recovery, r);
-  if (m.isExtended) PerSkipExtensionAdditions(r);
-}
-
-void DecodeMode(V76LogicalChannelParameters::Mode& m, PerReader& r) {
-  const uint32_t index = ReadChoice(m, r, 2);
-  if (m.isExtension) return PerSkipOpenTypes(r, 1);
-  switch (index) {
-    case 0: return DecodeERM(m.eRM, r);
-    default: return;
-  }
-}
-
-}  // namespace
-
-void DecodeH222LogicalChannelParameters(H222LogicalChannelParameters& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasPcrPid = PerReadBit(r);
-  m.hasProgramDescriptors = PerReadBit(r);
-  m.hasStreamDescriptors = PerReadBit(r);
-  m.resourceID = PerReadNumber<uint16_t>(r, 0, 65535);
-  m.subChannelID = PerReadNumber<uint16_t>(r, 0, 8191);
-  if (m.hasPcrPid) m.pcrPid = PerReadNumber<uint16_t>(r, 0, 8191);
-  if (m.hasProgramDescriptors) PerReadAnnouncedOctetString(m.programDescriptors, r);
-  if (m.hasStreamDescriptors) PerReadAnnouncedOctetString(m.streamDescriptors, r);
-  if (m.isExtended) PerSkipExtensionAdditions(r);
-}
-
-void DecodeH223AnnexCArqParameters(H223AnnexCArqParameters& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  DecodeNumberOfRetransmissions(m.numberOfRetransmissions, r);
-  m.sendBufferSize = PerReadNumber<uint32_t>(r, 0, 16777215);
-  if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
 void DecodeH223AL1MParameters(H223AL1MParameters& m, PerReader& r) {
@@ -135,11 +77,37 @@ void DecodeH223AL3MParameters(H223AL3MParameters& m, PerReader& r) {
   PerSkipOpenTypes(r, unknown);
 }
 
-void DecodeH223LogicalChannelParameters(H223LogicalChannelParameters& m, PerReader& r) {
+void DecodeAdaptationLayerType(H223LogicalChannelParameters::AdaptationLayerType& m, PerReader& r) {
+  const uint32_t index = ReadChoice(m, r, 6);
+  if (m.isExtension) {
+    switch (index) {
+      case 0: return DecodeOpen(m.al1M, r, DecodeH223AL1MParameters);
+      case 1: return DecodeOpen(m.al2M, r, DecodeH223AL2MParameters);
+      case 2: return DecodeOpen(m.al3M, r, DecodeH223AL3MParameters);
+      default: return PerSkipOpenTypes(r, 1);
+    }
+  }
+  switch (index) {
+    case 0: return DecodeNonStandardParameter(m.nonStandard, r);
+    case 5: return DecodeAl3(m.al3, r);
+    default: return;
+  }
+}
+
+void DecodeERM(V76LogicalChannelParameters::Mode::ERM& m, PerReader& r) {
   m.isExtended = PerReadBit(r);
-  DecodeAdaptationLayerType(m.adaptationLayerType, r);
-  m.segmentableFlag = PerReadBit(r);
+  m.windowSize = PerReadNumber<uint8_t>(r, 1, 127);
+  DecodeNullChoice(m.recovery, r);
   if (m.isExtended) PerSkipExtensionAdditions(r);
+}
+
+void DecodeMode(V76LogicalChannelParameters::Mode& m, PerReader& r) {
+  const uint32_t index = ReadChoice(m, r, 2);
+  if (m.isExtension) return PerSkipOpenTypes(r, 1);
+  switch (index) {
+    case 0: return DecodeERM(m.eRM, r);
+    default: return;
+  }
 }
 
 void DecodeV76HDLCParameters(V76HDLCParameters& m, PerReader& r) {
@@ -153,6 +121,28 @@ void DecodeV76HDLCParameters(V76HDLCParameters& m, PerReader& r) {
 void DecodeV75Parameters(V75Parameters& m, PerReader& r) {
   m.isExtended = PerReadBit(r);
   m.audioHeaderPresent = PerReadBit(r);
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+}
+
+}  // namespace
+
+void DecodeH222LogicalChannelParameters(H222LogicalChannelParameters& m, PerReader& r) {
+  m.isExtended = PerReadBit(r);
+  m.hasPcrPid = PerReadBit(r);
+  m.hasProgramDescriptors = PerReadBit(r);
+  m.hasStreamDescriptors = PerReadBit(r);
+  m.resourceID = PerReadNumber<uint16_t>(r, 0, 65535);
+  m.subChannelID = PerReadNumber<uint16_t>(r, 0, 8191);
+  if (m.hasPcrPid) m.pcrPid = PerReadNumber<uint16_t>(r, 0, 8191);
+  if (m.hasProgramDescriptors) PerReadAnnouncedOctetString(m.programDescriptors, r);
+  if (m.hasStreamDescriptors) PerReadAnnouncedOctetString(m.streamDescriptors, r);
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+}
+
+void DecodeH223LogicalChannelParameters(H223LogicalChannelParameters& m, PerReader& r) {
+  m.isExtended = PerReadBit(r);
+  DecodeAdaptationLayerType(m.adaptationLayerType, r);
+  m.segmentableFlag = PerReadBit(r);
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 

@@ -61,6 +61,34 @@ struct H223AnnexCArqParameters {
   }
 };
 
+// crcLength and arqType of the mobile adaptation layers.
+struct H223CrcLengthNames {
+  static constexpr uint32_t kRoots = 4;
+  static constexpr const char* kAlternatives[] = {"crc4bit", "crc12bit", "crc20bit", "crc28bit",
+                                                  "crc8bit", "crc16bit", "crc32bit", "crcNotUsed"};
+};
+using H223CrcLength = NullChoice<H223CrcLengthNames>;
+
+struct H223ArqType {
+  uint32_t isExtension;
+  uint8_t choiceTag;
+  union {
+    H223AnnexCArqParameters typeIArq;
+    H223AnnexCArqParameters typeIIArq;
+  };
+
+  template <class Record, class Visitor>
+  static void Walk(Record& m, Visitor& v) {
+    if (m.isExtension) return v.UnknownExtension(m.choiceTag);
+    switch (m.choiceTag) {
+      case 0: return v.Null("noArq");
+      case 1: return v.Record("typeIArq", m.typeIArq);
+      case 2: return v.Record("typeIIArq", m.typeIIArq);
+      default: return v.UnknownRoot(m.choiceTag);
+    }
+  }
+};
+
 struct H223AL1MParameters {
   struct TransferModeNames {
     static constexpr uint32_t kRoots = 2;
@@ -74,38 +102,11 @@ struct H223AL1MParameters {
   };
   using HeaderFEC = NullChoice<HeaderFECNames>;
 
-  struct CrcLengthNames {
-    static constexpr uint32_t kRoots = 4;
-    static constexpr const char* kAlternatives[] = {"crc4bit", "crc12bit", "crc20bit", "crc28bit",
-                                                    "crc8bit", "crc16bit", "crc32bit", "crcNotUsed"};
-  };
-  using CrcLength = NullChoice<CrcLengthNames>;
-
-  struct ArqType {
-    uint32_t isExtension;
-    uint8_t choiceTag;
-    union {
-      H223AnnexCArqParameters typeIArq;
-      H223AnnexCArqParameters typeIIArq;
-    };
-
-    template <class Record, class Visitor>
-    static void Walk(Record& m, Visitor& v) {
-      if (m.isExtension) return v.UnknownExtension(m.choiceTag);
-      switch (m.choiceTag) {
-        case 0: return v.Null("noArq");
-        case 1: return v.Record("typeIArq", m.typeIArq);
-        case 2: return v.Record("typeIIArq", m.typeIIArq);
-        default: return v.UnknownRoot(m.choiceTag);
-      }
-    }
-  };
-
   TransferMode transferMode;
   HeaderFEC headerFEC;
-  CrcLength crcLength;
+  H223CrcLength crcLength;
   uint8_t rcpcCodeRate;
-  ArqType arqType;
+  H223ArqType arqType;
   uint32_t alpduInterleaving;
   uint32_t alsduSplitting;
   uint32_t isExtended;
@@ -150,37 +151,10 @@ struct H223AL3MParameters {
   };
   using HeaderFormat = NullChoice<HeaderFormatNames>;
 
-  struct CrcLengthNames {
-    static constexpr uint32_t kRoots = 4;
-    static constexpr const char* kAlternatives[] = {"crc4bit", "crc12bit", "crc20bit", "crc28bit",
-                                                    "crc8bit", "crc16bit", "crc32bit", "crcNotUsed"};
-  };
-  using CrcLength = NullChoice<CrcLengthNames>;
-
-  struct ArqType {
-    uint32_t isExtension;
-    uint8_t choiceTag;
-    union {
-      H223AnnexCArqParameters typeIArq;
-      H223AnnexCArqParameters typeIIArq;
-    };
-
-    template <class Record, class Visitor>
-    static void Walk(Record& m, Visitor& v) {
-      if (m.isExtension) return v.UnknownExtension(m.choiceTag);
-      switch (m.choiceTag) {
-        case 0: return v.Null("noArq");
-        case 1: return v.Record("typeIArq", m.typeIArq);
-        case 2: return v.Record("typeIIArq", m.typeIIArq);
-        default: return v.UnknownRoot(m.choiceTag);
-      }
-    }
-  };
-
   HeaderFormat headerFormat;
-  CrcLength crcLength;
+  H223CrcLength crcLength;
   uint8_t rcpcCodeRate;
-  ArqType arqType;
+  H223ArqType arqType;
   uint32_t alpduInterleaving;
   uint32_t isExtended;
   uint32_t hasRsCodeCorrection;

@@ -4,12 +4,13 @@
 #include "h245/decode.h"
 
 namespace kelvra::h245 {
+namespace {
 
-void DecodeCapabilityIdentifier(CapabilityIdentifier& m, PerReader& r) {
+void DecodeParameterIdentifier(ParameterIdentifier& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 4);
   if (m.isExtension) return PerSkipOpenTypes(r, 1);
   switch (index) {
-    case 0: return PerReadObjectIdentifier(m.standard, r);
+    case 0: m.standard = PerReadNumber<uint8_t>(r, 0, 127); return;
     case 1: return DecodeNonStandardParameter(m.h221NonStandard, r);
     case 2: return PerReadOctets(m.uuid, r, 16);
     case 3: return PerReadSizedOctets(m.domainBased, r, 1, 64);
@@ -17,11 +18,13 @@ void DecodeCapabilityIdentifier(CapabilityIdentifier& m, PerReader& r) {
   }
 }
 
-void DecodeParameterIdentifier(ParameterIdentifier& m, PerReader& r) {
+}  // namespace
+
+void DecodeCapabilityIdentifier(CapabilityIdentifier& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 4);
   if (m.isExtension) return PerSkipOpenTypes(r, 1);
   switch (index) {
-    case 0: m.standard = PerReadNumber<uint8_t>(r, 0, 127); return;
+    case 0: return PerReadObjectIdentifier(m.standard, r);
     case 1: return DecodeNonStandardParameter(m.h221NonStandard, r);
     case 2: return PerReadOctets(m.uuid, r, 16);
     case 3: return PerReadSizedOctets(m.domainBased, r, 1, 64);

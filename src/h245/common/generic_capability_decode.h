@@ -6,7 +6,6 @@
 namespace kelvra::h245 {
 
 void DecodeCapabilityIdentifier(CapabilityIdentifier& m, PerReader& r);
-void DecodeParameterIdentifier(ParameterIdentifier& m, PerReader& r);
 void DecodeParameterValue(ParameterValue& m, PerReader& r);
 void DecodeGenericParameter(GenericParameter& m, PerReader& r);
 void DecodeGenericCapability(GenericCapability& m, PerReader& r);

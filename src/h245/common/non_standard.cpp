@@ -11,11 +11,15 @@ void DecodeNonStandardIdentifier(NonStandardIdentifier& m, PerReader& r) {
   m.h221NonStandard.manufacturerCode = PerReadNumber<uint16_t>(r, 0, 65535);
 }
 
-void DecodeNonStandardParameter(NonStandardParameter& m, PerReader& r) {
-  DecodeNonStandardIdentifier(m.nonStandardIdentifier, r);
+void DecodeNonStandardData(NonStandardParameter& m, PerReader& r) {
   uint32_t length = 0;
   m.data = PerReadOctetString(r, &length);
   m.dataLength = length;
+}
+
+void DecodeNonStandardParameter(NonStandardParameter& m, PerReader& r) {
+  DecodeNonStandardIdentifier(m.nonStandardIdentifier, r);
+  DecodeNonStandardData(m, r);
 }
 
 }  // namespace kelvra::h245

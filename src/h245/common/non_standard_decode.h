@@ -6,6 +6,8 @@
 namespace kelvra::h245 {
 
 void DecodeNonStandardIdentifier(NonStandardIdentifier& m, PerReader& r);
+// The octets of the parameter, behind its identifier.
+void DecodeNonStandardData(NonStandardParameter& m, PerReader& r);
 void DecodeNonStandardParameter(NonStandardParameter& m, PerReader& r);
 
 }  // namespace kelvra::h245

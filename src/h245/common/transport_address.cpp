@@ -5,6 +5,13 @@
 namespace kelvra::h245 {
 namespace {
 
+void DecodeIPAddress(MulticastAddress::IPAddress& m, PerReader& r) {
+  m.isExtended = PerReadBit(r);
+  PerReadOctets(m.network, r, 4);
+  m.tsapIdentifier = PerReadNumber<uint16_t>(r, 0, 65535);
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+}
+
 void DecodeIPAddress(UnicastAddress::IPAddress& m, PerReader& r) {
   m.isExtended = PerReadBit(r);
   m.networkLength = 4;
@@ -18,6 +25,13 @@ void DecodeIPXAddress(UnicastAddress::IPXAddress& m, PerReader& r) {
   m.node.data = PerReadOctets(r, 6);
   m.netnum.data = PerReadOctets(r, 4);
   m.tsapIdentifier.data = PerReadOctets(r, 2);
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+}
+
+void DecodeIP6Address(MulticastAddress::IP6Address& m, PerReader& r) {
+  m.isExtended = PerReadBit(r);
+  PerReadOctets(m.network, r, 16);
+  m.tsapIdentifier = PerReadNumber<uint16_t>(r, 0, 65535);
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
@@ -39,18 +53,20 @@ void DecodeIPSourceRouteAddress(UnicastAddress::IPSourceRouteAddress& m, PerRead
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
-void DecodeIPAddress(MulticastAddress::IPAddress& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  PerReadOctets(m.network, r, 4);
-  m.tsapIdentifier = PerReadNumber<uint16_t>(r, 0, 65535);
-  if (m.isExtended) PerSkipExtensionAdditions(r);
-}
-
-void DecodeIP6Address(MulticastAddress::IP6Address& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  PerReadOctets(m.network, r, 16);
-  m.tsapIdentifier = PerReadNumber<uint16_t>(r, 0, 65535);
-  if (m.isExtended) PerSkipExtensionAdditions(r);
+void DecodeMulticastAddress(MulticastAddress& m, PerReader& r) {
+  const uint32_t index = ReadChoice(m, r, 2);
+  if (m.isExtension) {
+    switch (index) {
+      case 0: return DecodeOpen(m.nsap, r, PerReadSizedOctetsElement<1, 20>);
+      case 1: return DecodeOpen(m.nonStandardAddress, r, DecodeNonStandardParameter);
+      default: return PerSkipOpenTypes(r, 1);
+    }
+  }
+  switch (index) {
+    case 0: return DecodeIPAddress(m.iPAddress, r);
+    case 1: return DecodeIP6Address(m.iP6Address, r);
+    default: return;
+  }
 }
 
 }  // namespace
@@ -70,22 +86,6 @@ void DecodeUnicastAddress(UnicastAddress& m, PerReader& r) {
     case 2: return DecodeIP6Address(m.iP6Address, r);
     case 3: m.netBios.data = PerReadOctets(r, 16); return;
     case 4: return DecodeIPSourceRouteAddress(m.iPSourceRouteAddress, r);
-    default: return;
-  }
-}
-
-void DecodeMulticastAddress(MulticastAddress& m, PerReader& r) {
-  const uint32_t index = ReadChoice(m, r, 2);
-  if (m.isExtension) {
-    switch (index) {
-      case 0: return DecodeOpen(m.nsap, r, PerReadSizedOctetsElement<1, 20>);
-      case 1: return DecodeOpen(m.nonStandardAddress, r, DecodeNonStandardParameter);
-      default: return PerSkipOpenTypes(r, 1);
-    }
-  }
-  switch (index) {
-    case 0: return DecodeIPAddress(m.iPAddress, r);
-    case 1: return DecodeIP6Address(m.iP6Address, r);
     default: return;
   }
 }

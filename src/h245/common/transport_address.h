@@ -121,17 +121,7 @@ struct MulticastAddress {
     }
   };
 
-  struct IP6Address {
-    OctetStringValue network;
-    uint16_t tsapIdentifier;
-    uint32_t isExtended;
-
-    template <class Record, class Visitor>
-    static void Walk(Record& m, Visitor& v) {
-      WalkOctets(v, "network", m.network);
-      v.Number("tsapIdentifier", m.tsapIdentifier);
-    }
-  };
+  using IP6Address = IPAddress;
 
   uint32_t isExtension;
   uint8_t choiceTag;

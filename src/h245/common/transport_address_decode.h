@@ -6,7 +6,6 @@
 namespace kelvra::h245 {
 
 void DecodeUnicastAddress(UnicastAddress& m, PerReader& r);
-void DecodeMulticastAddress(MulticastAddress& m, PerReader& r);
 void DecodeTransportAddress(TransportAddress& m, PerReader& r);
 
 }  // namespace kelvra::h245

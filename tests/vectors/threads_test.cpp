@@ -7,83 +7,15 @@
 
 #include "api/kelvra.h"
 #include "api/messages.h"
+#include "record_json.h"
 
 namespace kelvra::test {
 namespace {
 
-// Writes down all that a record holds, its blocks included.
-class Transcript {
- public:
-  void Number(const char* name, int64_t value) { Add(name, std::to_string(value)); }
-  void Boolean(const char* name, uint32_t value) { Number(name, value); }
-  void EnumeratedValue(uint32_t value, const char*) { Number("value", value); }
-  void Null(const char* name) { Add(name, "null"); }
-  void UnknownExtension(uint32_t index) { Number("extension", index); }
-  void UnknownRoot(uint32_t index) { Number("root", index); }
-  template <class Value>
-  void ObjectIdentifier(const char* name, Value& value) {
-    Numbers(name, KELVRA_COUNTED_LIST(value.count, value.arcs));
-  }
-  template <class Value>
-  void Characters16(const char* name, Value& value) {
-    Numbers(name, KELVRA_COUNTED_LIST(value.length, value.data));
-  }
-  void Octets(const char* name, Slot<uint8_t> slot, uint32_t count, OctetNotation notation) {
-    const bool bits = notation == OctetNotation::kBits || notation == OctetNotation::kFixedBits;
-    const uint8_t* octets = slot.Get();
-    if (octets == nullptr) return Null(name);
-    Embedded(name, octets, bits ? (count + 7) / 8 : count, notation);
-  }
-  void Embedded(const char* name, const uint8_t* octets, uint32_t count, OctetNotation) {
-    Add(name, std::string(octets, octets + count));
-  }
-  template <class R>
-  void Record(const char* name, R& record) {
-    Add(name, "{");
-    R::Walk(record, *this);
-    text_ += '}';
-  }
-  template <class R>
-  void Pointer(const char* name, Slot<R> slot) {
-    if (R* record = slot.Get()) Record(name, *record);
-  }
-  template <class L>
-  void List(const char* name, L list) {
-    if (list.begin() == nullptr) return Null(name);
-    for (auto& element : list) Record(name, element);
-  }
-  template <class L>
-  void OctetStrings(const char* name, L list, OctetNotation notation) {
-    for (auto& value : list) Octets(name, KELVRA_SLOT(value.data), value.length, notation);
-  }
-  template <class L>
-  void FixedOctetStrings(const char* name, L list, uint32_t size) {
-    for (auto& value : list) Octets(name, KELVRA_SLOT(value.data), size, OctetNotation::kOctets);
-  }
-  template <class L>
-  void ObjectIdentifiers(const char* name, L list) {
-    for (auto& value : list) ObjectIdentifier(name, value);
-  }
-  template <class L>
-  void Numbers(const char* name, L list) {
-    if (list.begin() == nullptr) return Null(name);
-    for (const auto number : list) Number(name, number);
-  }
-
-  const std::string& Text() const { return text_; }
-
- private:
-  void Add(const char* name, const std::string& value) { text_.append(name).append(" ").append(value).append("\n"); }
-
-  std::string text_;
-};
-
+// The result and the record as JSON, by which one decode is compared with another.
 template <class Record>
 std::string Describe(Record& record, int64_t result) {
-  Transcript transcript;
-  transcript.Number("result", result);
-  Record::Walk(record, transcript);
-  return transcript.Text();
+  return std::to_string(result) + RecordToJson(record).dump();
 }
 
 std::string DecodeRas(const std::vector<uint8_t>& octets) {

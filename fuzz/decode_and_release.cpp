@@ -1,0 +1,88 @@
+#include "decode_and_release.h"
+
+#include <stdio.h>
+#include <stdlib.h>
+
+#include <algorithm>
+#include <memory>
+
+#include "api/kelvra.h"
+#include "h225/call/q931_frame.h"
+#include "record_reader.h"
+
+namespace kelvra::fuzz {
+namespace {
+
+void Require(bool kept, const char* promise) {
+  if (kept) return;
+  fprintf(stderr, "broken promise: %s\n", promise);
+  abort();
+}
+
+// The message in a block of its size, and a record of other contents in another.
+template <class Record>
+class Decode {
+ public:
+  Decode(const uint8_t* octets, size_t size)
+      : octets_(std::make_unique<uint8_t[]>(size)), record_(static_cast<Record*>(malloc(sizeof(Record)))) {
+    Require(record_ != nullptr, "the fuzzer has memory for a record");
+    std::copy_n(octets, size, octets_.get());
+    std::fill_n(reinterpret_cast<uint8_t*>(record_), sizeof(Record), uint8_t{0xA5});
+  }
+  ~Decode() { free(record_); }
+  Decode(const Decode&) = delete;
+  Decode& operator=(const Decode&) = delete;
+
+  const uint8_t* Octets() const { return octets_.get(); }
+  Record* Get() { return record_; }
+
+  // `walked` is the part of the record that owns blocks. `released` tells that a refusal has given them
+  // back already.
+  template <class Walked, class Release>
+  void ReadAndRelease(Walked& walked, bool released, Release release) {
+    Require(!released || Blocks(walked) == 0, "a refused message leaves no block");
+    release(record_);
+    Require(Blocks(walked) == 0, "a release leaves no pointer");
+    release(record_);
+  }
+
+ private:
+  template <class Walked>
+  static uint32_t Blocks(Walked& walked) {
+    RecordReader reader;
+    Walked::Walk(walked, reader);
+    volatile uint32_t sum = reader.Sum();
+    static_cast<void>(sum);
+    return reader.Blocks();
+  }
+
+  std::unique_ptr<uint8_t[]> octets_;
+  Record* record_;
+};
+
+}  // namespace
+
+void DecodeAndReleaseRas(const uint8_t* octets, size_t size) {
+  Decode<h225::RasMessageRecord> decode(octets, size);
+  const intptr_t end = KelvraDecodeRASMessage(decode.Get(), decode.Octets(), static_cast<uint32_t>(size));
+  // An address beyond the buffer is possible where a message ends with open types that are passed over.
+  Require(end == 0 || end > reinterpret_cast<intptr_t>(decode.Octets()), "the end of a message lies behind its start");
+  decode.ReadAndRelease(*decode.Get(), end == 0, KelvraFreeRASMessage);
+}
+
+void DecodeAndReleaseQ931(const uint8_t* octets, size_t size) {
+  Decode<h225::Q931MessageRecord> decode(octets, size);
+  const int32_t result = KelvraDecodeQ931Message(decode.Get(), decode.Octets(), static_cast<int32_t>(size));
+  Require(result == h225::kQ931Decoded || result == h225::kQ931Rejected || result == h225::kQ931BadArgument,
+          "a Q.931 result is one of three");
+  decode.ReadAndRelease(decode.Get()->userInformation, result != h225::kQ931Decoded, KelvraFreeQ931Message);
+}
+
+void DecodeAndReleaseH245(const uint8_t* octets, size_t size) {
+  Decode<h245::H245MessageRecord> decode(octets, size);
+  const int32_t result = KelvraDecodeH245Message(decode.Get(), decode.Octets(), static_cast<uint32_t>(size));
+  Require(result == 0 || result == 1, "an H.245 result is one of two");
+  decode.ReadAndRelease(*decode.Get(), false, KelvraFreeH245Message);
+}
+
+}  // namespace kelvra::fuzz

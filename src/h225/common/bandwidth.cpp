@@ -1,0 +1,50 @@
+#include "h225/common/addresses_decode.h"
+#include "h225/common/bandwidth_decode.h"
+#include "per/record_decode.h"
+
+namespace kelvra::h225 {
+
+Status DecodeTransportChannelInfo(TransportChannelInfo& m, PerReader& r) {
+  if (PerAtEnd(r)) return kExhausted;
+  m.isExtended = PerReadBit(r);
+  m.hasSendAddress = PerReadBit(r);
+  m.hasRecvAddress = PerReadBit(r);
+  if (m.hasSendAddress) KELVRA_TRY(DecodeTransportAddress(m.sendAddress, r));
+  if (m.hasRecvAddress) KELVRA_TRY(DecodeTransportAddress(m.recvAddress, r));
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+  return kDecoded;
+}
+
+Status DecodeBandwidthDetails(BandwidthDetails& m, PerReader& r) {
+  if (PerAtEnd(r)) return kExhausted;
+  m.isExtended = PerReadBit(r);
+  m.sender = PerReadBit(r);
+  m.multicast = PerReadBit(r);
+  m.bandwidth = PerReadNumber<uint32_t>(r, 0, kUnsigned32Maximum);
+  KELVRA_TRY(DecodeTransportChannelInfo(m.rtcpAddresses, r));
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+  return kDecoded;
+}
+
+Status DecodeRTPSession(RTPSession& m, PerReader& r) {
+  if (PerAtEnd(r)) return kExhausted;
+  m.isExtended = PerReadBit(r);
+  KELVRA_TRY(DecodeTransportChannelInfo(m.rtpAddress, r));
+  KELVRA_TRY(DecodeTransportChannelInfo(m.rtcpAddress, r));
+  PerReadPrintableString(m.cname, r, PerReadLength(r));
+  m.ssrc = PerReadNumber<uint32_t>(r, 1, kUnsigned32Maximum);
+  m.sessionId = PerReadNumber<uint8_t>(r, 1, 255);
+  KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.associatedSessionIds), r, PerReadElement<uint8_t, 1, 255>));
+  if (!m.isExtended) return kDecoded;
+
+  int32_t additions = PerReadBitmapLength(r);
+  m.hasMulticast = PerReadAdditionBit(r, additions);
+  m.hasBandwidth = PerReadAdditionBit(r, additions);
+  PerNoteUnknownAdditions(r, additions);
+  if (m.hasMulticast) PerSkipOpenTypes(r, 1);
+  if (m.hasBandwidth) m.bandwidth = PerReadOpenNumber<uint32_t>(r, 0, kUnsigned32Maximum);
+  PerSkipUnknownAdditions(r);
+  return kDecoded;
+}
+
+}  // namespace kelvra::h225

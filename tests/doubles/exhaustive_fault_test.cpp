@@ -1,0 +1,187 @@
+// Every carried message with every fault of a kind: cut at each octet, each bit flipped, an octet put in
+// at each place, each allocation refused alone and with all behind it. The record is looked at octet by
+// octet after each.
+//
+// The digests of all these records are left in a folder, so that the targets can be compared: those with
+// the same size of pointers decode into the same octets.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <memory>
+
+#include "doubles/heap_double.h"
+#include "doubles/message_corpus.h"
+#include "doubles/message_family.h"
+#include "doubles/record_digest.h"
+#include "per/reader.h"
+
+namespace kelvra::test {
+namespace {
+
+// A record between guard words, decoded from a block of the message's very size.
+template <class RecordType>
+class GuardedDecode {
+ public:
+  using Decode = int64_t (*)(RecordType*, const uint8_t*, size_t);
+
+  GuardedDecode(Decode decode, const std::vector<uint8_t>& octets, uint8_t earlier)
+      : octets_(new uint8_t[octets.size()]), room_(new uint8_t[sizeof(RecordType) + 2 * kGuard]) {
+    std::copy(octets.begin(), octets.end(), octets_.get());
+    std::fill_n(room_.get(), kGuard, kGuardOctet);
+    std::fill_n(room_.get() + kGuard, sizeof(RecordType), earlier);
+    std::fill_n(room_.get() + kGuard + sizeof(RecordType), kGuard, kGuardOctet);
+    result_ = decode(&Get(), octets_.get(), octets.size());
+  }
+
+  RecordType& Get() { return *reinterpret_cast<RecordType*>(room_.get() + kGuard); }
+  int64_t Result() const { return result_; }
+  bool GuardsHold() const {
+    const auto untouched = [](const uint8_t* guard) {
+      return std::all_of(guard, guard + kGuard, [](uint8_t octet) { return octet == kGuardOctet; });
+    };
+    return untouched(room_.get()) && untouched(room_.get() + kGuard + sizeof(RecordType));
+  }
+
+ private:
+  static constexpr size_t kGuard = 64;
+  static constexpr uint8_t kGuardOctet = 0xC3;
+
+  std::unique_ptr<uint8_t[]> octets_;
+  std::unique_ptr<uint8_t[]> room_;
+  int64_t result_ = 0;
+};
+
+template <class MessageFamily>
+class ExhaustiveFaults : public testing::Test {
+ protected:
+  using Record = typename MessageFamily::Record;
+
+  void TearDown() override { heap_.DropLiveBlocks(); }
+
+  // Decodes twice over different earlier contents. `refuse` sets the heap up before each.
+  void Try(
+      const std::vector<uint8_t>& octets, const std::function<void()>& refuse = [] {}) {
+    const uint64_t first = TryOnce(octets, 0xA5, refuse);
+    if (HasFailure()) return;
+    ASSERT_EQ(TryOnce(octets, 0x5A, refuse), first) << "another record on the second run";
+    all_.AddWord(first);
+    ++cases_;
+  }
+
+  // Calls `fault` with each carried message and stops at the first that fails.
+  void ForEachMessage(const std::function<void(const std::vector<uint8_t>&)>& fault) {
+    for (const Message& message : Corpus()) {
+      if (message.family != MessageFamily::kFamily) continue;
+      fault(WithSpare(message.family, message.octets));
+      if (this->HasFailure()) FAIL() << message.name;
+    }
+    EXPECT_GT(cases_, 0U);
+  }
+
+  void Leave(const std::string& kind) {
+    std::filesystem::create_directories(KELVRA_DIGESTS);
+    std::ofstream file(std::string(KELVRA_DIGESTS "/") + MessageFamily::kName + "-" + kind, std::ios::binary);
+    file << cases_ << " cases, digest " << std::hex << all_.Value() << '\n';
+    EXPECT_TRUE(file.good());
+  }
+
+  HeapDouble& heap_ = HeapDouble::Instance();
+
+ private:
+  uint64_t TryOnce(const std::vector<uint8_t>& octets, uint8_t earlier, const std::function<void()>& refuse) {
+    heap_.Reset();
+    refuse();
+    GuardedDecode<Record> decode(MessageFamily::Decode, octets, earlier);
+    EXPECT_TRUE(decode.GuardsHold());
+    EXPECT_LE(heap_.OctetsGranted(), kMaximumMessageMemory);
+    const BlockCollector blocks = BlocksOf(decode.Get());
+    ExpectOwned(blocks, MessageFamily::MayOwnBlocks(decode.Result()));
+    Digest digest;
+    digest.AddWord(static_cast<uint64_t>(decode.Result()));
+    blocks.AddTo(digest, &decode.Get(), sizeof(Record));
+    ExpectReleases(decode);
+    return digest.Value();
+  }
+
+  void ExpectOwned(const BlockCollector& blocks, bool mayOwn) {
+    std::vector<const void*> owned;
+    for (const BlockCollector::Block& block : blocks.Blocks()) owned.push_back(block.address);
+    std::sort(owned.begin(), owned.end());
+    EXPECT_EQ(owned, heap_.LiveBlocks());
+    EXPECT_TRUE(mayOwn || owned.empty());
+  }
+
+  void ExpectReleases(GuardedDecode<Record>& decode) {
+    MessageFamily::Release(&decode.Get());
+    EXPECT_TRUE(BlocksOf(decode.Get()).Blocks().empty());
+    EXPECT_EQ(heap_.Releases().size(), heap_.Granted().size());
+    EXPECT_EQ(heap_.WildReleases(), 0U);
+    EXPECT_TRUE(heap_.LiveBlocks().empty());
+    EXPECT_TRUE(decode.GuardsHold());
+  }
+
+  Digest all_;
+  uint64_t cases_ = 0;
+};
+
+using Families = testing::Types<Ras, Q931, H245>;
+class FamilyName {
+ public:
+  template <class MessageFamily>
+  static std::string GetName(int) {
+    return MessageFamily::kName;
+  }
+};
+TYPED_TEST_SUITE(ExhaustiveFaults, Families, FamilyName);
+
+TYPED_TEST(ExhaustiveFaults, CutAtEveryOctet) {
+  this->ForEachMessage([this](const std::vector<uint8_t>& octets) {
+    std::vector<uint8_t> cut = octets;
+    for (; !cut.empty() && !this->HasFailure(); cut.pop_back()) this->Try(cut);
+  });
+  this->Leave("cut");
+}
+
+TYPED_TEST(ExhaustiveFaults, EveryBitFlipped) {
+  this->ForEachMessage([this](const std::vector<uint8_t>& octets) {
+    std::vector<uint8_t> flipped = octets;
+    for (size_t bit = 0; bit < octets.size() * 8 && !this->HasFailure(); ++bit) {
+      const auto mask = static_cast<uint8_t>(0x80 >> bit % 8);
+      flipped[bit / 8] ^= mask;
+      this->Try(flipped);
+      flipped[bit / 8] ^= mask;
+    }
+  });
+  this->Leave("flipped");
+}
+
+TYPED_TEST(ExhaustiveFaults, AnOctetAddedAtEveryPlace) {
+  this->ForEachMessage([this](const std::vector<uint8_t>& octets) {
+    std::vector<uint8_t> longer = octets;
+    longer.push_back(0x81);
+    for (size_t place = octets.size(); !this->HasFailure(); --place) {
+      this->Try(longer);
+      if (place == 0) break;
+      std::swap(longer[place], longer[place - 1]);
+    }
+  });
+  this->Leave("added");
+}
+
+TYPED_TEST(ExhaustiveFaults, EveryAllocationRefused) {
+  this->ForEachMessage([this](const std::vector<uint8_t>& octets) {
+    this->Try(octets);
+    const size_t allocations = this->heap_.Requests();
+    for (size_t nth = 1; nth <= allocations && !this->HasFailure(); ++nth) {
+      this->Try(octets, [this, nth] { this->heap_.RefuseOnly(nth); });
+      this->Try(octets, [this, nth] { this->heap_.RefuseFrom(nth); });
+    }
+  });
+  this->Leave("refused");
+}
+
+}  // namespace
+}  // namespace kelvra::test

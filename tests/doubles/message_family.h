@@ -1,0 +1,47 @@
+// The decode and the release of each family under the same names, for tests that are written once for all.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+#include "api/kelvra.h"
+#include "doubles/message_corpus.h"
+
+namespace kelvra::test {
+
+struct Ras {
+  using Record = h225::RasMessageRecord;
+  static constexpr Family kFamily = Family::kRas;
+  static constexpr const char* kName = "ras";
+  static int64_t Decode(Record* record, const uint8_t* octets, size_t size) {
+    const intptr_t end = KelvraDecodeRASMessage(record, octets, static_cast<uint32_t>(size));
+    return end == 0 ? 0 : end - reinterpret_cast<intptr_t>(octets);
+  }
+  static void Release(Record* record) { KelvraFreeRASMessage(record); }
+  // Whether a decode with this result leaves blocks to release.
+  static bool MayOwnBlocks(int64_t result) { return result != 0; }
+};
+
+struct Q931 {
+  using Record = h225::Q931MessageRecord;
+  static constexpr Family kFamily = Family::kQ931;
+  static constexpr const char* kName = "q931";
+  static int64_t Decode(Record* record, const uint8_t* octets, size_t size) {
+    return KelvraDecodeQ931Message(record, octets, static_cast<int32_t>(size));
+  }
+  static void Release(Record* record) { KelvraFreeQ931Message(record); }
+  static bool MayOwnBlocks(int64_t result) { return result == 0; }
+};
+
+struct H245 {
+  using Record = h245::H245MessageRecord;
+  static constexpr Family kFamily = Family::kH245;
+  static constexpr const char* kName = "h245";
+  static int64_t Decode(Record* record, const uint8_t* octets, size_t size) {
+    return KelvraDecodeH245Message(record, octets, static_cast<uint32_t>(size));
+  }
+  static void Release(Record* record) { KelvraFreeH245Message(record); }
+  static bool MayOwnBlocks(int64_t) { return true; }
+};
+
+}  // namespace kelvra::test

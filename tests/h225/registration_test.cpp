@@ -1,0 +1,242 @@
+// Registration: what a message means by its additions depends on the H.225.0 version that it names.
+#include <gtest/gtest.h>
+
+#include <thread>
+
+#include "h225/common/protocol_version.h"
+#include "h225/decoding.h"
+#include "h225/ras/registration_decode.h"
+
+namespace kelvra::h225 {
+namespace {
+
+using test::Addition;
+using test::Additions;
+using test::BitWriter;
+using test::Input;
+using test::kMarker;
+using test::Marked;
+using test::OctetsOf;
+using test::Owned;
+using test::ProtocolIdentifier;
+using Octets = std::vector<uint8_t>;
+
+// The number-th of some AliasAddresses, a single digit.
+BitWriter& Digit(BitWriter& w, uint32_t number) { return w.Bits(0, 2).Bits(0, 7).Align().Bits(3 + number % 10, 4); }
+
+// A RegistrationRequest up to its additions.
+BitWriter Request(const Octets& protocolIdentifier, bool extended, uint32_t aliases = 0) {
+  BitWriter w;
+  w.Bit(extended).Bit(false).Bit(aliases != 0).Bit(false).Align().Bits(0, 16).OpenType(protocolIdentifier);
+  w.Bit(true).Length(0).Length(0);
+  test::EmptyEndpointType(w);
+  if (aliases != 0) w.Length(aliases);
+  for (uint32_t i = 0; i < aliases; ++i) Digit(w, i);
+  return w.Bits(0, 3).Bit(false).Align().Bits(0xB5, 8).Bits(0, 8).Bits(18, 16);
+}
+
+// A RegistrationConfirm up to its additions.
+BitWriter Confirm(const Octets& protocolIdentifier, bool extended) {
+  BitWriter w;
+  w.Bit(extended).Bits(0, 3).Align().Bits(0, 16).OpenType(protocolIdentifier).Length(0);
+  return w.Bits(0, 7).Align().Bits('E', 16);
+}
+
+// A RegistrationReject up to its reason.
+BitWriter Reject() { return BitWriter().Bits(0, 3).Align().Bits(0, 16).OpenType(ProtocolIdentifier(9)); }
+
+// A BOOLEAN, as well as AlternateTransportAddresses with an empty annexE.
+const Octets kBooleanOrAddresses = {0x40, 0x00};
+const Octets kTrue = {0x80};
+
+// The additions keepAlive, maintainConnection, the tenth one, multipleCalls and one beyond all known.
+Octets ExtendedRequest(uint8_t version) {
+  BitWriter w = Request(ProtocolIdentifier(version), true);
+  Additions(w, Addition(5, 22) | Addition(8, 22) | Addition(9, 22) | Addition(14, 22) | Addition(21, 22), 22);
+  return Marked(w.OpenType(kTrue).OpenType(kTrue).OpenType(kBooleanOrAddresses).OpenType(kTrue).OpenType({1, 2, 3}));
+}
+
+// A preGrantedARQ with four additions, of which the fourth is `annexE`, and three octets behind it.
+Octets ConfirmWithPreGrant(uint8_t version) {
+  BitWriter grant;
+  grant.Bit(true).Bits(0b1010, 4);
+  Additions(grant, 0b1111, 4).OpenType({0, 9}).OpenType({0, 7}).OpenType(kBooleanOrAddresses).OpenType({0x40});
+  BitWriter w = Confirm(ProtocolIdentifier(version), true);
+  return Additions(w, Addition(6, 7), 7).OpenType(grant).Octets({0, 0, 0});
+}
+
+// Which of the members that depend on the version a message had.
+struct Reading {
+  uint32_t keepAlive, maintainConnection, versionThreeBoolean, alternateTransportAddresses, multipleCalls;
+  bool complete;
+
+  bool operator==(const Reading&) const = default;
+};
+
+Reading ReadRequest(const Octets& octets) {
+  Input input(octets);
+  Owned<RegistrationRequest> m;
+  const bool decoded = DecodeRegistrationRequest(*m, input.reader) == kDecoded;
+  return {m->hasKeepAlive & m->keepAlive,
+          m->hasMaintainConnection & m->maintainConnection,
+          m->hasVersionThreeBoolean,
+          m->hasAlternateTransportAddresses & m->alternateTransportAddresses.hasAnnexE,
+          m->hasMultipleCalls & m->multipleCalls,
+          decoded && input.Next() == kMarker};
+}
+
+// The additions of preGrantedARQ that are not known are counted anew, so the confirm passes over as many
+// open types behind it.
+struct Grant {
+  uint32_t irrFrequencyInCall, totalBandwidthRestriction;
+  uint32_t versionThreeBoolean, alternateTransportAddresses, useSpecifiedTransport;
+  uint32_t octetsLeft;
+
+  bool operator==(const Grant&) const = default;
+};
+
+Grant ReadGrant(const Octets& octets) {
+  Input input(octets);
+  Owned<RegistrationConfirm> m;
+  EXPECT_EQ(DecodeRegistrationConfirm(*m, input.reader), kDecoded);
+  const RegistrationConfirm::PreGrantedARQ& grant = m->preGrantedARQ;
+  return {grant.irrFrequencyInCall,
+          grant.totalBandwidthRestriction,
+          grant.hasVersionThreeBoolean,
+          grant.hasAlternateTransportAddresses & grant.alternateTransportAddresses.hasAnnexE,
+          grant.hasUseSpecifiedTransport & grant.useSpecifiedTransport.choiceTag,
+          PerOctetsLeft(input.reader)};
+}
+
+constexpr struct {
+  uint8_t version;
+  Reading request;
+  Grant grant;
+  int32_t mode;
+} kVersions[] = {
+    {1, {1, 0, 0, 0, 0, true}, {10, 7, 0, 0, 0, 1}, 0},
+    {2, {1, 0, 0, 0, 0, true}, {10, 7, 0, 0, 0, 1}, 0},
+    {3, {1, 1, 1, 0, 0, true}, {10, 7, 1, 0, 0, 2}, 1},
+    {4, {1, 1, 0, 1, 1, true}, {10, 7, 0, 1, 1, 3}, 2},
+};
+
+TEST(RegistrationTest, AdditionsAreThoseOfTheVersionNamed) {
+  for (const auto& v : kVersions) {
+    SCOPED_TRACE(v.version);
+    EXPECT_EQ(ReadRequest(ExtendedRequest(v.version)), v.request);
+    EXPECT_EQ(ProtocolVersionMode(), v.mode);
+    EXPECT_EQ(ReadGrant(ConfirmWithPreGrant(v.version)), v.grant);
+    EXPECT_EQ(ProtocolVersionMode(), v.mode);
+  }
+}
+
+TEST(RegistrationTest, OtherVersionsOnAnotherThreadDoNotMatter) {
+  constexpr int kRounds = 20000;
+  size_t differences[2] = {0, 0};
+  const auto decode = [&](size_t thread) {
+    const auto& v = kVersions[2 + thread];
+    const Octets request = ExtendedRequest(v.version);
+    const Octets confirm = ConfirmWithPreGrant(v.version);
+    for (int round = 0; round < kRounds; ++round) {
+      if (!(ReadRequest(request) == v.request)) ++differences[thread];
+      if (!(ReadGrant(confirm) == v.grant)) ++differences[thread];
+    }
+  };
+  std::thread other(decode, 1);
+  decode(0);
+  other.join();
+  EXPECT_EQ(differences[0], 0U);
+  EXPECT_EQ(differences[1], 0U);
+}
+
+TEST(RegistrationTest, UnknownVersionIsRefusedAtOnce) {
+  ASSERT_TRUE(ReadRequest(ExtendedRequest(2)).complete);
+  const Octets kIdentifiers[] = {
+      ProtocolIdentifier(0),
+      ProtocolIdentifier(5),
+      {0x00, 0x08, 0x91, 0x4A, 0x00},  // an arc too few
+      {0x00, 0x08, 0x91, 0x4A, 0x00, 0x04, 0x04},
+      {},
+  };
+  for (const Octets& identifier : kIdentifiers) {
+    SCOPED_TRACE(testing::PrintToString(identifier));
+    Input request(Marked(Request(identifier, false)));
+    Owned<RegistrationRequest> m;
+    EXPECT_EQ(DecodeRegistrationRequest(*m, request.reader), kUnsupportedVersion);
+    EXPECT_TRUE(request.AtExactEnd());
+    EXPECT_EQ(+m->discoveryComplete, 0U);
+
+    Input confirm(Marked(Confirm(identifier, false)));
+    Owned<RegistrationConfirm> c;
+    EXPECT_EQ(DecodeRegistrationConfirm(*c, confirm.reader), kUnsupportedVersion);
+    EXPECT_TRUE(confirm.AtExactEnd());
+    EXPECT_EQ(ProtocolVersionMode(), kVersion2Mode);
+  }
+}
+
+TEST(RegistrationTest, RejectNamesAnyVersion) {
+  ASSERT_TRUE(ReadRequest(ExtendedRequest(4)).complete);
+  Input input(Marked(Reject().Bits(6, 4)));
+  Owned<RegistrationReject> m;
+  ASSERT_EQ(DecodeRegistrationReject(*m, input.reader), kDecoded);
+  EXPECT_EQ(+m->rejectReason.choiceTag, 6);
+  EXPECT_EQ(input.Next(), kMarker);
+  EXPECT_EQ(ProtocolVersionMode(), kVersion4Mode);
+}
+
+TEST(RegistrationTest, AliasesBeyond255AreKept) {
+  Input input(Marked(Request(ProtocolIdentifier(4), false, 300)));
+  Owned<RegistrationRequest> m;
+  ASSERT_EQ(DecodeRegistrationRequest(*m, input.reader), kDecoded);
+  ASSERT_EQ(+m->terminalAliasCount, 300U);
+  EXPECT_EQ(OctetsOf(m->terminalAlias[299].dialedDigits), Octets{3 + 299 % 10});
+  EXPECT_EQ(+m->endpointVendor.vendor.manufacturerCode, 18);
+  EXPECT_EQ(input.Next(), kMarker);
+}
+
+TEST(RegistrationRejectTest, DuplicateAliasesAreListed) {
+  BitWriter w = Reject().Bits(4, 4).Length(2);
+  Digit(w, 0);
+  Digit(w, 1);
+  Input input(Marked(w));
+  Owned<RegistrationReject> m;
+  ASSERT_EQ(DecodeRegistrationReject(*m, input.reader), kDecoded);
+  ASSERT_EQ(+m->rejectReason.duplicateAlias.count, 2);
+  EXPECT_EQ(OctetsOf(m->rejectReason.duplicateAlias.elements[1].dialedDigits), Octets{4});
+  EXPECT_EQ(input.Next(), kMarker);
+}
+
+TEST(RegistrationRejectTest, InvalidTerminalAliases) {
+  // An alias, a wildcard, a prefix, and an addition that is passed over.
+  BitWriter aliases;
+  aliases.Bit(true).Bits(0b111, 3).Length(1);
+  Digit(aliases, 0).Length(1).Bits(0, 2);
+  Digit(aliases, 1).Length(1).Bits(0, 2);
+  Digit(aliases, 2);
+  Additions(aliases, 1, 1).OpenType({1, 2});
+  Input input(Marked(Reject().Bit(true).NormallySmall(6).OpenType(aliases)));
+  Owned<RegistrationReject> m;
+  ASSERT_EQ(DecodeRegistrationReject(*m, input.reader), kDecoded);
+  const auto& invalid = m->rejectReason.invalidTerminalAliases;
+  EXPECT_EQ(+invalid.isExtended, 1U);
+  ASSERT_EQ(+invalid.terminalAliasCount, 1);
+  EXPECT_EQ(OctetsOf(invalid.terminalAlias[0].dialedDigits), Octets{3});
+  ASSERT_EQ(+invalid.terminalAliasPatternCount, 1);
+  EXPECT_EQ(OctetsOf(invalid.terminalAliasPattern[0].wildcard.dialedDigits), Octets{4});
+  ASSERT_EQ(+invalid.supportedPrefixesCount, 1);
+  EXPECT_EQ(OctetsOf(invalid.supportedPrefixes[0].prefix.dialedDigits), Octets{5});
+  EXPECT_EQ(input.Next(), kMarker);
+}
+
+TEST(RegistrationRejectTest, OtherExtensionReasonsArePassedOver) {
+  for (const uint32_t tag : {0U, 5U, 8U, 9U, 70U}) {
+    Input input(Marked(Reject().Bit(true).NormallySmall(tag).OpenType({1, 2})));
+    Owned<RegistrationReject> m;
+    ASSERT_EQ(DecodeRegistrationReject(*m, input.reader), kDecoded);
+    EXPECT_EQ(+m->rejectReason.choiceTag, tag);
+    EXPECT_EQ(input.Next(), kMarker);
+  }
+}
+
+}  // namespace
+}  // namespace kelvra::h225

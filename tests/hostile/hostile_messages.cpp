@@ -1,0 +1,316 @@
+#include "hostile/hostile_messages.h"
+
+#include "doubles/channel_writer.h"
+#include "h225/messages.h"
+#include "h225/q931_builder.h"
+
+namespace kelvra::test {
+namespace {
+
+using Octets = std::vector<uint8_t>;
+
+constexpr uint32_t kLongestLength = 16383;
+
+void Append(Octets& octets, const Octets& more) { octets.insert(octets.end(), more.begin(), more.end()); }
+
+// Repeats `pattern` up to `size` octets.
+Octets Filled(Octets octets, const Octets& pattern, size_t size) {
+  while (octets.size() + pattern.size() <= size) Append(octets, pattern);
+  octets.resize(size);
+  return octets;
+}
+
+// --- H.245 ---
+
+// A videoData channel up to where the first open type begins: an extendedVideoCapability.
+Octets ExtendedVideoChannel() {
+  BitWriter message;
+  message.Bits(0b000, 3).Bits(0b00011, 5).Bits(0b00, 2);  // openLogicalChannel
+  message.Align().Bits(0, 16).Bits(0b00, 2);              // its number; parameters without portNumber
+  message.Bits(0b0010, 4).Bit(true).NormallySmall(1);     // videoData: extendedVideoCapability
+  return message.Align();
+}
+
+// Video capabilities in each other as deep as they may be, each a list of 255 whose open types end after a
+// few octets. The innermost skip as far as a length can say, and what they read there is read for each.
+Octets RewoundVideoCapabilities(size_t size) {
+  constexpr uint8_t kList[] = {0x03, 0x00, 0x80, 0xFF};
+  const Octets wide = {0x81, 0x03, 0x00, 0x80, 0xFF};              // a list of 255 in an open type of 3 octets
+  const Octets back = {0x80, 0x05, 0x82, 0x00, 0xBF, 0xFF, 0x00};  // 5 octets, of which a length says 16383
+  const Octets bits = {0x80, 0x02, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF};
+  Octets octets = ExtendedVideoChannel();
+  octets.insert(octets.end(), std::begin(kList), std::end(kList));
+  for (int level = 0; level < 32; ++level) Append(octets, wide);
+  const size_t behind = octets.size() + 6 + kLongestLength;
+  for (int i = 0; i < 255; ++i) Append(octets, back);
+  octets.resize(behind < size ? behind : size);
+  for (int i = 0; i < 256 && octets.size() + bits.size() <= size; ++i) Append(octets, bits);
+  octets.resize(octets.size() + 6404 < size ? octets.size() + 6404 : size, 0xFF);
+  octets.resize(size);
+  return octets;
+}
+
+// Streams in each other: each open type ends where its own first element starts.
+Octets RewoundPayloadStreams(size_t size) {
+  BitWriter level;
+  level.Bits(0, 1).Align().Length(255);            // 255 elements
+  level.Bits(0b00, 2).Bit(true).NormallySmall(4);  // of which the first holds a multiplePayloadStream
+  level.Align().Length(3);
+  BitWriter message;
+  message.Bits(0b000, 3).Bits(0b00011, 5).Bits(0b00, 2).Align().Bits(0, 16).Bits(0b00, 2);
+  message.Bit(true).NormallySmall(4).Align().Length(3);
+  return Filled(message, level, size);
+}
+
+// Elements that are an object identifier and no more, of which each claims all that is left and none ends.
+Octets ClaimedObjectIdentifiers(size_t size) {
+  Octets octets = ExtendedVideoChannel();
+  Append(octets, {0x03, 0x00, 0x80, 0xFF});
+  // genericVideoCapability in 5 octets: capabilityIdentifier standard, of 16383 octets.
+  for (int i = 0; i < 255; ++i) Append(octets, {0x80, 0x05, 0x00, 0x00, 0xBF, 0xFF, 0x05});
+  octets.resize(size, 0x85);
+  return octets;
+}
+
+// The same with a length that goes past the end.
+Octets ObjectIdentifiersPastTheEnd(size_t size) {
+  Octets octets = ExtendedVideoChannel();
+  Append(octets, {0x03, 0x00, 0x80, 0xFF});
+  return Filled(octets, {0x80, 0x05, 0x00, 0x00, 0xBF, 0xFF, 0x81}, size);
+}
+
+// Lawful: capabilities that each are an object identifier of as many octets as fit.
+Octets LongObjectIdentifiers(size_t size) {
+  const uint32_t each = static_cast<uint32_t>((size - 64) / 255);
+  BitWriter message;
+  BitWriter list;
+  list.Bits(0b00, 2).Length(255);
+  for (int i = 0; i < 255; ++i) {
+    list.Bits(0b0000, 4).Bit(false).Align().Length(each - 7).Octets(Octets(each - 7, 0x01));  // nonStandard, object
+    list.Length(0);
+  }
+  Octets octets = ExtendedVideoChannel();
+  Append(octets, {0x80 | kLongestLength >> 8, 0xFF});
+  Append(octets, list);
+  octets.resize(size);
+  return octets;
+}
+
+// Parameters in each other to the depth, each a list of 255 that goes on in the next.
+Octets NestedParameters(size_t size) {
+  BitWriter capability;
+  capability.Bits(0b001000, 6).Bits(0b000, 3).OpenType({0x2A, 3});  // collapsing alone; an identifier
+  capability.Length(255);
+  BitWriter message;
+  message.Bits(0b000, 3).Bits(0b00011, 5).Bits(0b00, 2).Align().Bits(0, 16).Bits(0b00, 2);
+  message.Bits(0b0011, 4).Bit(true).NormallySmall(6).Align();  // genericAudioCapability
+  Octets octets = message;
+  Append(octets, {0xBF, 0xFF});
+  Append(octets, capability);
+  BitWriter parameter;
+  parameter.Bits(0b00, 2).Bits(0b000, 3).Bits(1, 7).Bits(0b0111, 4).Length(255);
+  return Filled(octets, parameter, size);
+}
+
+// Additions that are passed over: open types of no octet, of as many as a length can say, and bitmaps that
+// claim more than there is.
+Octets SkippedAdditions(size_t size, const Octets& pattern) {
+  BitWriter message;
+  message.Bits(0b000, 3).Bits(0b00011, 5).Bits(0b10, 2).Align().Bits(0, 16).Bits(0b00, 2);
+  WriteNullDataType(message);
+  message.Bit(true).NormallySmall(1).OpenType(Octets{});
+  message.NormallySmall(0x7FFFFFFE);
+  return Filled(message, pattern, size);
+}
+
+// --- RAS ---
+
+// An Endpoint whose nonStandardData has an object identifier, and a list of as many tokens as are said that
+// starts `distance` octets on.
+Octets EndpointWithTokens(uint32_t distance, uint32_t tokens) {
+  constexpr size_t kIdentifier = 64;
+  Octets octets = {0xC0,
+                   0x01,
+                   0x40,
+                   0,
+                   0,
+                   static_cast<uint8_t>((tokens - 1) >> 8),
+                   static_cast<uint8_t>(tokens - 1),
+                   0x20,
+                   0x00,
+                   static_cast<uint8_t>(0x80 | distance >> 8),
+                   static_cast<uint8_t>(distance)};
+  octets.resize(3 + kIdentifier);
+  Append(octets, {0x00, 0x04, 0x40, 0x00});
+  return octets;
+}
+
+// Endpoints that all read the same generic data behind the last of them, in which open types of no octet
+// hold bitmaps that claim 2^31 additions.
+Octets RewoundEndpoints(size_t size) {
+  constexpr uint32_t kEndpoints = 20;
+  const Octets nested = {0x40, 0x00, 0x00, 0x44, 0x08, 0x00};
+  Octets claim = {0x38, 1, 5, 21};
+  claim.resize(claim.size() + 15);
+  Append(claim, {0x80, 4, 0x7F, 0xFF, 0xFF, 0xFE});
+  Octets octets = {0x02, 0x00, 0x00, 0x00, 0x06, 0x00, 0x08, 0x91, 0x4A, 0x00, 0x04, 0x00,      0x7F,
+                   0x00, 0x00, 0x01, 0x00, 0x01, 0x00, 0x09, 0x80, 0x00, 0x00, 0x80, kEndpoints};
+  const auto each = static_cast<uint32_t>(EndpointWithTokens(0, 1).size());
+  const auto repeats = static_cast<uint32_t>((size - octets.size() - 21 * each) / (nested.size() + claim.size()));
+  for (uint32_t i = 0; i <= kEndpoints; ++i) {
+    Append(octets, EndpointWithTokens(each - 11 + (kEndpoints - i) * each, 1 + 2 * repeats));
+  }
+  for (uint32_t i = 0; i < repeats; ++i) {
+    Append(octets, nested);
+    Append(octets, claim);
+  }
+  octets.resize(size);
+  return octets;
+}
+
+// Up to the additions of a gatekeeperRequest, of which the one at `index` is there.
+BitWriter GatekeeperRequestWith(uint32_t index) {
+  BitWriter message;
+  message.Bits(0b000000, 6).Bits(0b10000, 5).Align().Bits(1, 16).OpenType(ProtocolIdentifier(4));
+  IpAddress(message, 1, 1719);
+  EmptyEndpointType(message);
+  return Additions(message, Addition(index, 10), 10);
+}
+
+// Generic data whose parameters are lists of parameters, 512 wide at each level.
+Octets WideGenericData(size_t size) {
+  BitWriter message = GatekeeperRequestWith(9);
+  message.Length(kLongestLength).Length(255);
+  message.Bit(false).Bit(true).Bits(0b0000, 4).Align().Bits(7, 16).Align().Bits(511, 16);  // 512 parameters
+  BitWriter parameter;
+  parameter.Bits(0b01, 2).Bits(0b0000, 4).Align().Bits(7, 16);
+  parameter.Bits(0b01010, 5).Align().Bits(511, 16);  // compound, of 512
+  return Filled(message, parameter, size);
+}
+
+// Cryptographic tokens in open types of no octet.
+Octets RewoundTokens(size_t size, uint8_t filler) {
+  BitWriter message = GatekeeperRequestWith(1);
+  message.Length(0).Length(255);
+  return Filled(message, {filler, 0x00}, size);
+}
+
+// Lawful: calls whose PDUs are all empty, 255 to a call.
+Octets EmptyPdus(size_t size) {
+  BitWriter pdus;
+  pdus.Length(255);
+  for (int i = 0; i < 255; ++i) pdus.Bits(0, 2).Bit(true).NormallySmall(1).OpenType(Octets{}).Bit(false);
+  BitWriter call;
+  call.Bit(true).Bits(0, 5).Align().Bits(77, 16).Octets(Rising(0x30, 16));
+  call.Bits(0, 3).Bits(0, 3).Bits(0, 3).Bits(0, 2).Octets({5}).Bits(0, 2);
+  Additions(call, Addition(4, 8), 8).OpenType(pdus);
+  const auto calls = static_cast<uint32_t>((size - 64) / static_cast<const Octets&>(call.Done()).size());
+  BitWriter message;
+  message.Bit(false).Bits(22, 5).Bit(false).Bits(0b001, 3).Align().Bits(0, 16);
+  EmptyEndpointType(message).Bits(0, 7).Align().Bits('E', 16);
+  IpAddress(message, 6, 1719).Length(0).Length(calls < 255 ? calls : 255);
+  Octets octets = message;
+  for (uint32_t i = 0; i < calls; ++i) Append(octets, call);
+  octets.resize(size);
+  return octets;
+}
+
+// --- Call signalling ---
+
+Octets Packet(const Octets& information, size_t size) {
+  constexpr size_t kAround = 13;  // TPKT header, Q.931 header, user-user element
+  Octets octets = information;
+  octets.resize(size - kAround);
+  return Q931Builder().UserUser(octets).Done();
+}
+
+// A Setup up to its additions, of which the one at `index` is there.
+BitWriter SetupWith(uint32_t index) {
+  constexpr uint32_t kAdditions = 26;
+  BitWriter information;
+  information.Bits(0, 2).Bits(0, 2).Bits(0, 4);  // neither user data nor nonStandardData; setup
+  information.Bit(true).Bits(0, 7).OpenType(ProtocolIdentifier(4));
+  EmptyEndpointType(information).Bit(true).Octets(Rising(0x60, 16)).Bits(0, 3).Bits(0, 3);
+  return Additions(information, Addition(index, kAdditions), kAdditions);
+}
+
+constexpr uint32_t kTokens = 4;
+constexpr uint32_t kFastStart = 6;
+constexpr uint32_t kDesiredFeatures = 22;
+
+// Channels in open types of a few octets, each of which reads the video capabilities behind the last.
+Octets RewoundFastStart(size_t size) {
+  Octets information = SetupWith(kFastStart).Length(kLongestLength).Length(255);
+  Octets channel = ExtendedVideoChannel();
+  channel.erase(channel.begin());
+  Append(channel, {0x03, 0x00, 0x80, 0xFF});
+  for (int i = 0; i < 255; ++i) {
+    information.push_back(static_cast<uint8_t>(channel.size()));
+    Append(information, channel);
+  }
+  for (int level = 0; level < 32; ++level) Append(information, {0x81, 0x03, 0x00, 0x80, 0xFF});
+  information = Filled(information, {0x80, 0x05, 0x82, 0x00, 0xBF, 0xFF, 0x00}, size / 2);
+  return Packet(Filled(information, {0x80, 0x02, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF}, size - 16), size);
+}
+
+// Lawful: as many smallest channels as one list holds, in each of as many lists as there are.
+Octets SmallestChannels(size_t size) {
+  BitWriter information = SetupWith(kFastStart);
+  BitWriter channels;
+  channels.Length(255);
+  for (uint16_t i = 1; i <= 255; ++i) channels.OpenType(NullChannel(i));
+  return Packet(information.OpenType(channels), size);
+}
+
+Octets WideFeatures(size_t size) {
+  BitWriter information = SetupWith(kDesiredFeatures);
+  information.Length(kLongestLength).Length(255);
+  BitWriter feature;
+  feature.Bit(false).Bit(true).Bits(0b0000, 4).Align().Bits(7, 16).Align().Bits(0, 16);
+  feature.Bits(0b01, 2).Bits(0b0000, 4).Align().Bits(7, 16).Bits(0b01011, 5).Bits(15, 4);  // 16 nested in each
+  return Packet(Filled(information, feature, size - 16), size);
+}
+
+Octets RewoundSetupTokens(size_t size) {
+  BitWriter information = SetupWith(kTokens);
+  information.Length(0).Length(255);
+  return Packet(Filled(information, {0x80, 0x00, 0x7F}, size - 16), size);
+}
+
+// Elements whose lengths lead round in circles, so that none is found.
+Octets CircularElements(size_t size) {
+  Octets octets = {3, 0, 0, 0, 0x08, 0x02, 0x00, 0x01, 0x05};
+  octets = Filled(octets, {0x01, 0x00}, size - 3);
+  Append(octets, {0x7E, 0xFF, 0xFF});
+  return octets;
+}
+
+Octets ElementsWithoutContents(size_t size) { return Filled({3, 0, 0, 0, 0x08, 0x02, 0x00, 0x01, 0x05}, {0xA0}, size); }
+
+}  // namespace
+
+std::vector<Message> HostileMessages(size_t size) {
+  return {
+      {Family::kH245, "rewound video capabilities", RewoundVideoCapabilities(size)},
+      {Family::kH245, "rewound payload streams", RewoundPayloadStreams(size)},
+      {Family::kH245, "claimed object identifiers", ClaimedObjectIdentifiers(size)},
+      {Family::kH245, "object identifiers past the end", ObjectIdentifiersPastTheEnd(size)},
+      {Family::kH245, "long object identifiers", LongObjectIdentifiers(size)},
+      {Family::kH245, "nested parameters", NestedParameters(size)},
+      {Family::kH245, "additions of no octet", SkippedAdditions(size, {0x00})},
+      {Family::kH245, "additions of 16383 octets", SkippedAdditions(size, {0xBF, 0xFF})},
+      {Family::kRas, "rewound endpoints", RewoundEndpoints(size)},
+      {Family::kRas, "wide generic data", WideGenericData(size)},
+      {Family::kRas, "rewound tokens", RewoundTokens(size, 0x80)},
+      {Family::kRas, "rewound tokens of zeros", RewoundTokens(size, 0x00)},
+      {Family::kRas, "empty PDUs", EmptyPdus(size)},
+      {Family::kQ931, "rewound fast start", RewoundFastStart(size)},
+      {Family::kQ931, "smallest channels", SmallestChannels(size)},
+      {Family::kQ931, "wide features", WideFeatures(size)},
+      {Family::kQ931, "rewound tokens of a Setup", RewoundSetupTokens(size)},
+      {Family::kQ931, "elements in circles", CircularElements(size)},
+      {Family::kQ931, "elements without contents", ElementsWithoutContents(size)},
+  };
+}
+
+}  // namespace kelvra::test
