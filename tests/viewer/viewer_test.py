@@ -92,6 +92,11 @@ class SingleMessages(unittest.TestCase):
                 "requestSeqNum": 1, "protocolIdentifier": "0.0.8.2250.0.4", "gatekeeperIdentifier": "GK-1",
                 "rasAddress": {"ipAddress": {"ip": "C0000201", "port": 1719}}}}})
 
+    def test_source_route_that_lost_its_tag(self):
+        (printed,) = objects(decode_hex("ras", "00000001060008914a000410c000020106b7010a00000182010000000000"))
+        self.assertEqual(printed["message"]["gatekeeperRequest"]["rasAddress"], {"ipSourceRoute": {
+            "ip": "C0000201", "port": 1719, "route": ["0A000001"], "routing": {"extension-2": None}}})
+
     def test_q931_and_h245(self):
         for family, text, expected in (("q931", RELEASE_COMPLETE, ("releaseComplete", 0, True)),
                                        ("h245", CHANNEL_ACK, ("openLogicalChannelAck", 1, True))):
