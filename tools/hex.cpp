@@ -19,11 +19,11 @@ bool IsSeparator(char character) {
 
 std::string ToHex(std::span<const uint8_t> octets) {
   static const char digits[] = "0123456789ABCDEF";
-  std::string text;
-  text.reserve(2 * octets.size());
+  std::string text(2 * octets.size(), '\0');
+  char* next = text.data();
   for (const uint8_t octet : octets) {
-    text += digits[octet >> 4];
-    text += digits[octet & 15];
+    *next++ = digits[octet >> 4];
+    *next++ = digits[octet & 15];
   }
   return text;
 }

@@ -59,6 +59,11 @@ Control LeadingControl(std::string_view text) {
   return {};
 }
 
+bool MayBeginControl(char character) {
+  const auto octet = static_cast<unsigned char>(character);
+  return octet < 0x20 || octet == 0x7F || octet == 0xC2 || octet == 0xE2;
+}
+
 }  // namespace
 
 std::string FromLatin1(std::span<const uint8_t> characters) {
@@ -82,7 +87,14 @@ std::string FromUtf16(std::span<const uint16_t> units) {
 
 std::string Printable(std::string_view text) {
   std::string printable;
+  printable.reserve(text.size());
   while (!text.empty()) {
+    // What stands before the next octet that could be or begin a control.
+    size_t plain = 0;
+    while (plain < text.size() && !MayBeginControl(text[plain])) ++plain;
+    printable += text.substr(0, plain);
+    text.remove_prefix(plain);
+    if (text.empty()) break;
     const Control control = LeadingControl(text);
     if (control.octets > 0) {
       AppendEscape(printable, control.unit);

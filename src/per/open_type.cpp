@@ -12,7 +12,7 @@ void PerSkipOpenTypes(PerReader& reader, int32_t count) {
 int32_t PerCountUnknownAdditions(PerReader& reader, int32_t additions) {
   int32_t count = 0;
   while (additions > 0 && !PerAtEnd(reader)) {
-    const int64_t left = int64_t{PerOctetsLeft(reader)} * 8 - reader.bitOffset;
+    const int64_t left = int64_t{PerOctetsLeft(reader)} * 8 - static_cast<int64_t>(reader.bitOffset);
     int64_t bits = additions < left ? additions : left;
     if (bits > 32) bits = 32;
     count += __builtin_popcount(PerReadBits(reader, static_cast<uint32_t>(bits)));

@@ -27,7 +27,7 @@ uint64_t KeepFirstOctets(uint64_t word, uint32_t count) {
 }
 
 // Copies 1 or more octets. Most strings are short, and a call for each costs more than its octets.
-void CopyString(uint8_t* to, const uint8_t* from, uint32_t count) {
+inline void CopyString(uint8_t* to, const uint8_t* from, uint32_t count) {
   if (count > 16) {
     CodecCopy(to, from, count);
   } else if (count >= 8) {
@@ -58,6 +58,14 @@ inline void TakeOctets(PerReader& reader, uint8_t* octets, uint32_t count) {
   }
 }
 
+// The character of kWidth bits with that index in a run that begins at `octets`.
+template <uint32_t kWidth>
+uint32_t CharacterAt(const uint8_t* octets, uint32_t index) {
+  if constexpr (kWidth == 4) return octets[index / 2] >> (index % 2 == 0 ? 4 : 0) & 15;
+  if constexpr (kWidth == 8) return octets[index];
+  if constexpr (kWidth == 16) return PerLoad16(octets + uint64_t{index} * 2);
+}
+
 // `count` characters of kWidth bits, each mapped before it is stored. Characters that the input does
 // not reach stay 0.
 template <class Character, uint32_t kWidth, class Map>
@@ -65,12 +73,17 @@ Character* ReadCharacters(PerReader& reader, uint32_t count, Map map) {
   auto* characters = static_cast<Character*>(PerAllocate(reader, uint64_t{count} * sizeof(Character)));
   if (characters == nullptr) return nullptr;
   PerAlign(reader);
-  uint32_t done = 0;
-  for (; done < count && PerHasWindow(reader); ++done) {
-    characters[done] = static_cast<Character>(map(PerTakeBits(reader, kWidth)));
+  const uint64_t bits = uint64_t{count} * kWidth;
+  if (bits <= uint64_t{PerOctetsInside(reader)} * 8) [[likely]] {
+    for (uint32_t i = 0; i < count; ++i) {
+      characters[i] = static_cast<Character>(map(CharacterAt<kWidth>(reader.position, i)));
+    }
+    reader.position += bits / 8;
+    reader.bitOffset = static_cast<BitOffset>(bits % 8);
+    return characters;
   }
-  for (; done < count && !PerAtEnd(reader); ++done) {
-    characters[done] = static_cast<Character>(map(PerReadBitsAtEdge(reader, kWidth)));
+  for (uint32_t i = 0; i < count && !PerAtEnd(reader); ++i) {
+    characters[i] = static_cast<Character>(map(PerReadBitsAtEdge(reader, kWidth)));
   }
   return characters;
 }
@@ -146,6 +159,7 @@ uint32_t PerReadConstrainedWholeNumberAtEdge(PerReader& reader, uint32_t range) 
   }
   const uint32_t octets = PerReadBits(reader, 2) + 1;
   PerAlign(reader);
+  // A fourth octet cannot occur in a range of three; the number reads as 0 and no octet is consumed.
   if (range <= 1U << 24 && octets == 4) return 0;
   return PerReadBits(reader, octets * 8);
 }

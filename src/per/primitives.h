@@ -34,7 +34,7 @@ inline void* PerAllocate(PerReader& reader, uint64_t size) {
   return block;
 }
 
-// --- Numbers. Each has its window inline; ...AtEdge reads the same wherever the reader stands. ---
+// --- Numbers. ...AtEdge reads the same wherever the reader stands. ---
 
 uint32_t PerReadConstrainedWholeNumberAtEdge(PerReader& reader, uint32_t range);  // of 256 values or more
 uint32_t PerReadLengthAtEdge(PerReader& reader);
@@ -44,32 +44,25 @@ uint32_t PerReadNormallySmallAtEdge(PerReader& reader);
 [[gnu::always_inline]] inline uint32_t PerReadConstrainedWholeNumber(PerReader& reader, uint32_t range) {
   if (range < 2) return 0;
   if (range < 256) return PerReadBits(reader, 32 - static_cast<uint32_t>(__builtin_clz(range - 1)));
-  if (!PerHasWindow(reader)) [[unlikely]]
-    return PerReadConstrainedWholeNumberAtEdge(reader, range);
-  if (range <= 65536) {
-    PerMoveTo(reader, PerBoundary(reader));
-    return PerTakeBits(reader, range == 256 ? 8 : 16);
+  if (range <= 65536 && PerHasOctets(reader, 3)) [[likely]] {
+    const uint8_t* octets = PerBoundary(reader);
+    PerMoveTo(reader, octets + (range == 256 ? 1 : 2));
+    return range == 256 ? octets[0] : PerLoad16(octets);
   }
-  const uint32_t octets = PerTakeBits(reader, 2) + 1;
-  PerMoveTo(reader, PerBoundary(reader));
-  // A fourth octet cannot occur in a range of three; the number reads as 0 and no octet is consumed.
-  if (range <= 1U << 24 && octets == 4) return 0;
-  const uint32_t value = PerLoad32(reader.position) >> (32 - octets * 8);
-  reader.position += octets;
-  return value;
+  return PerReadConstrainedWholeNumberAtEdge(reader, range);
 }
 
 // Unconstrained length determinant (10.9), 0 to 16383. Fragments (10.9.3.8) are refused.
 [[gnu::always_inline]] inline uint32_t PerReadLength(PerReader& reader) {
-  if (PerHasWindow(reader)) [[likely]] {
+  if (PerHasOctets(reader, 3)) [[likely]] {
     const uint8_t* octets = PerBoundary(reader);
-    if (octets[0] < 0x80) {
+    if (octets[0] < 0x80) [[likely]] {
       PerMoveTo(reader, octets + 1);
       return octets[0];
     }
     if (octets[0] < 0xC0) {
       PerMoveTo(reader, octets + 2);
-      return (octets[0] & 0x3FU) << 8 | octets[1];
+      return PerLoad16(octets) & 0x3FFF;
     }
   }
   return PerReadLengthAtEdge(reader);
@@ -77,8 +70,8 @@ uint32_t PerReadNormallySmallAtEdge(PerReader& reader);
 
 // Normally small non-negative whole number (10.6).
 inline uint32_t PerReadNormallySmall(PerReader& reader) {
-  if (PerHasWindow(reader)) [[likely]] {
-    if ((reader.position[0] << reader.bitOffset & 0x80) == 0) return PerTakeBits(reader, 7);
+  if (PerHasOctets(reader, 2) && (reader.position[0] << reader.bitOffset & 0x80) == 0) [[likely]] {
+    return PerTakeBits(reader, 7);
   }
   return PerReadNormallySmallAtEdge(reader);
 }

@@ -24,8 +24,6 @@ uint32_t AllowanceOf(uint32_t octets) {
 void SetEnd(PerReader& reader, const uint8_t* end) {
   reader.end = end;
   reader.octetLimit = end < reader.readable ? end : reader.readable;
-  const auto limit = reinterpret_cast<uintptr_t>(reader.octetLimit);
-  reader.windowLimit = reinterpret_cast<const uint8_t*>(limit < kWindowOctets ? 0 : limit - (kWindowOctets - 1));
 }
 
 }  // namespace

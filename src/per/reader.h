@@ -47,10 +47,8 @@ struct PerReader {
 
   const uint8_t* readable;  // end of the caller's octets; those from here to `end` read as zero
 
-  // Before this address there is an octet, and before the second one a window of octets, that lie
-  // both before `end` and before `readable`.
+  // The nearer of both: octets before it can be read without looking further.
   const uint8_t* octetLimit;
-  const uint8_t* windowLimit;
 
   // State that belongs to the decoding of this one message.
   OpenTypeRing openTypes;
@@ -69,6 +67,8 @@ void PerReaderInit(PerReader& reader, const uint8_t* buffer, uint32_t length, ui
 // `pointer` plus `count`, held at the last address instead of wrapping round.
 inline const uint8_t* PerAdvance(const uint8_t* pointer, uint32_t count) {
   const auto address = reinterpret_cast<uintptr_t>(pointer);
+  // An address behind the buffer is only compared, which the arithmetic of pointers does not allow for.
+  // NOLINTNEXTLINE(performance-no-int-to-ptr)
   return reinterpret_cast<const uint8_t*>(count > UINTPTR_MAX - address ? UINTPTR_MAX : address + count);
 }
 
@@ -81,7 +81,7 @@ inline uint32_t PerOctetsLeft(const PerReader& reader) {
                                                   reinterpret_cast<uintptr_t>(reader.position));
 }
 
-// The same of octets that lie before `octetLimit` too.
+// Octets that can be read from the position on.
 inline uint32_t PerOctetsInside(const PerReader& reader) {
   return reader.position >= reader.octetLimit ? 0 : static_cast<uint32_t>(reader.octetLimit - reader.position);
 }
@@ -108,36 +108,37 @@ void PerSkipBits(PerReader& reader, uint32_t count);
 // PerReadBits wherever the reader stands.
 [[gnu::noinline]] uint32_t PerReadBitsAtEdge(PerReader& reader, uint32_t count);
 
-// --- The window: octets from the position on that can be read without looking further ---
+// --- Where octets can be read without looking further ---
 
-// Enough for 32 bits from any offset, and for the largest constrained whole number with its octet count.
-inline constexpr uint32_t kWindowOctets = 6;
-
-inline bool PerHasWindow(const PerReader& reader) { return reader.position < reader.windowLimit; }
-
-// The big-endian number in the four octets at `octets`.
-inline uint32_t PerLoad32(const uint8_t* octets) {
-  uint32_t value = 0;
-  __builtin_memcpy(&value, octets, sizeof value);
-#if __BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__
-  value = __builtin_bswap32(value);
-#endif
-  return value;
+// Whether there are `count` of them from the position on, which may stand anywhere.
+inline bool PerHasOctets(const PerReader& reader, int32_t count) {
+  return reader.octetLimit - reader.position >= count;
 }
 
-// The next 1 to 32 bits of a window.
+// The big-endian numbers in the octets at `octets`.
+inline uint32_t PerLoad16(const uint8_t* octets) { return uint32_t{octets[0]} << 8 | octets[1]; }
+inline uint32_t PerLoad32(const uint8_t* octets) { return PerLoad16(octets) << 16 | PerLoad16(octets + 2); }
+
+// How many octets PerTakeBits loads for `count` bits: as many as these span from any offset.
+[[gnu::always_inline]] inline int32_t PerOctetsTaken(uint32_t count) {
+  if (!__builtin_constant_p(count)) return 5;
+  return count <= 9 ? 2 : count <= 25 ? 4 : 5;
+}
+
+// The next 1 to 32 bits, which can be read.
 [[gnu::always_inline]] inline uint32_t PerTakeBits(PerReader& reader, uint32_t count) {
   const uint8_t* octets = reader.position;
   const BitOffset offset = reader.bitOffset;
-  uint32_t bits = PerLoad32(octets) << offset;
-  // Up to 25 bits lie within four octets.
-  if (!__builtin_constant_p(count) || count > 25) bits |= uint32_t{octets[4]} >> (8 - offset);
+  const int32_t taken = PerOctetsTaken(count);
+  uint32_t bits = taken == 2 ? PerLoad16(octets) << 16 : PerLoad32(octets);
+  bits <<= offset;
+  if (taken == 5) bits |= uint32_t{octets[4]} >> (8 - offset);
   reader.position = octets + (offset + count) / 8;
   reader.bitOffset = (offset + count) % 8;
   return bits >> (32 - count);
 }
 
-// Where the next octet boundary of a window lies.
+// The next octet boundary, itself where the position is on one.
 inline const uint8_t* PerBoundary(const PerReader& reader) { return reader.position + (reader.bitOffset + 7) / 8; }
 
 inline void PerMoveTo(PerReader& reader, const uint8_t* octet) {
@@ -149,7 +150,7 @@ inline void PerMoveTo(PerReader& reader, const uint8_t* octet) {
 
 // The next `count` bits (0 to 32), or 0 and the reader at its end when there are not as many.
 [[gnu::always_inline]] inline uint32_t PerReadBits(PerReader& reader, uint32_t count) {
-  if (count - 1 < 32 && PerHasWindow(reader)) [[likely]]
+  if (count - 1 < 32 && PerHasOctets(reader, PerOctetsTaken(count))) [[likely]]
     return PerTakeBits(reader, count);
   return PerReadBitsAtEdge(reader, count);
 }
