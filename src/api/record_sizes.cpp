@@ -6,12 +6,10 @@
 namespace kelvra {
 namespace {
 
-constexpr bool kPointersAre32Bits = sizeof(void*) == 4;
-
 // Holds everywhere but where pointers are four octets wide.
 template <class Record>
-constexpr bool Occupies(size_t octets) {
-  return !kPointersAre32Bits || sizeof(Record) == octets;
+constexpr bool Occupies(uint32_t octets) {
+  return sizeof(void*) != 4 || sizeof(Record) == octets;
 }
 
 static_assert(Occupies<h225::RasMessageRecord>(910));

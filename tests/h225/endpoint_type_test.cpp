@@ -94,21 +94,6 @@ TEST(EndpointTypeTest, FlagsWithoutAdditions) {
   EXPECT_EQ(input.Next(), kMarker);
 }
 
-TEST(EndpointTypeTest, OneAdditionIsTheSetAlone) {
-  BitWriter w;
-  w.Bit(true).Bits(0, 6).Bits(0b01, 2);
-  Additions(w, 1, 1).OpenType({0x80, 0x00, 0x00, 0x01});
-  Input input(Marked(w));
-  Owned<EndpointType> type;
-  ASSERT_EQ(DecodeEndpointType(*type, input.reader), kDecoded);
-  EXPECT_EQ(+type->undefinedNode, 1U);
-  EXPECT_EQ(+type->hasSet, 1U);
-  EXPECT_EQ(+type->set.length, 32U) << "in bits";
-  EXPECT_EQ(test::OctetsAt(type->set.data, 4), (Octets{0x80, 0, 0, 1}));
-  EXPECT_EQ(+type->hasSupportedTunnelledProtocols, 0U);
-  EXPECT_EQ(input.Next(), kMarker);
-}
-
 TEST(EndpointTypeTest, TunnelledProtocolsAndUnknownAdditions) {
   BitWriter list;
   list.Length(2);
@@ -128,30 +113,6 @@ TEST(EndpointTypeTest, TunnelledProtocolsAndUnknownAdditions) {
   EXPECT_EQ(+protocols[1].id.choiceTag, 1);
   EXPECT_EQ(TextOf(protocols[1].id.tunnelledProtocolAlternateID.protocolType), "iso");
   EXPECT_EQ(TextOf(protocols[1].id.tunnelledProtocolAlternateID.protocolVariant), "v");
-  EXPECT_EQ(input.Next(), kMarker);
-}
-
-TEST(EndpointTypeTest, EveryRootMember) {
-  BitWriter w;
-  w.Bit(false).Bits(0x3F, 6);
-  w.Bits(0, 2).OpenType({0x2A}).OpenType({1});                 // nonStandardData
-  w.Bits(0, 3).Bit(false).Octets({1, 2, 3, 4});                // vendor
-  w.Bits(0b01, 2).Bits(0, 2).OpenType({0x2A}).OpenType({2});   // gatekeeper
-  w.Bits(0b001, 3).Bits(0, 2).OpenType({0x2A}).OpenType({3});  // gateway
-  w.Bits(0b01, 2).Bits(0, 2).OpenType({0x2A}).OpenType({4});   // mcu
-  w.Bits(0b01, 2).Bits(0, 2).OpenType({0x2A}).OpenType({5});   // terminal
-  w.Bits(0b11, 2);
-  Input input(Marked(w));
-  Owned<EndpointType> type;
-  ASSERT_EQ(DecodeEndpointType(*type, input.reader), kDecoded);
-  EXPECT_EQ(OctetsOf(type->nonStandardData.data), Octets{1});
-  EXPECT_EQ(+type->vendor.vendor.manufacturerCode, 0x0304);
-  EXPECT_EQ(OctetsOf(type->gatekeeper.nonStandardData.data), Octets{2});
-  EXPECT_EQ(OctetsOf(type->gateway.nonStandardData.data), Octets{3});
-  EXPECT_EQ(OctetsOf(type->mcu.nonStandardData.data), Octets{4});
-  EXPECT_EQ(OctetsOf(type->terminal.nonStandardData.data), Octets{5});
-  EXPECT_EQ(+type->mc, 1U);
-  EXPECT_EQ(+type->undefinedNode, 1U);
   EXPECT_EQ(input.Next(), kMarker);
 }
 
@@ -240,17 +201,6 @@ TEST(SupportedProtocolsTest, T38FaxThatCannotBeReadIsRefused) {
     Owned<SupportedProtocols> protocols;
     EXPECT_EQ(DecodeSupportedProtocols(*protocols, input.reader), c.status) << c.count;
   }
-}
-
-TEST(SupportedProtocolsTest, NonStandardProtocolIsDecoded) {
-  BitWriter protocol;
-  protocol.Bits(0, 3).Length(1).Bits(0, 2).Bits(0, 2).Bits(0, 7).Align().Bits(5, 4);
-  Input input(Marked(BitWriter().Bit(true).NormallySmall(0).OpenType(protocol)));
-  Owned<SupportedProtocols> protocols;
-  ASSERT_EQ(DecodeSupportedProtocols(*protocols, input.reader), kDecoded);
-  ASSERT_EQ(+protocols->nonStandardProtocol.supportedPrefixesCount, 1);
-  EXPECT_EQ(OctetsOf(protocols->nonStandardProtocol.supportedPrefixes[0].prefix.dialedDigits), Octets{5});
-  EXPECT_EQ(input.Next(), kMarker);
 }
 
 }  // namespace

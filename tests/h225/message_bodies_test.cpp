@@ -128,17 +128,6 @@ TEST(SetupTest, ConferenceGoalsAndCallTypes) {
   EXPECT_EQ(DecodeSetupUUIE(*m, input.reader), kMalformed);
 }
 
-TEST(ConnectTest, RootAlone) {
-  Input input(Marked(ConnectRoot(false)));
-  Owned<ConnectUUIE> m;
-  ASSERT_EQ(DecodeConnectUUIE(*m, input.reader), kDecoded);
-  EXPECT_EQ(+m->hasH245Address, 0U);
-  EXPECT_EQ(+m->h245Address.ipAddress.ip.length, 0U);
-  EXPECT_EQ(OctetsOf(m->conferenceID), Rising(0x70, 16));
-  EXPECT_EQ(+m->hasFeatureSet, 0U);
-  EXPECT_EQ(input.Next(), kMarker);
-}
-
 TEST(ConnectTest, UnknownAdditionsAreSkipped) {
   BitWriter w = ConnectRoot(true);
   Additions(w, Addition(11, 17) | 0b11, 17).OpenType({0xFF}).OpenType({1, 2}).OpenType({3});

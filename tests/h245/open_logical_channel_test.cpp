@@ -135,24 +135,6 @@ TEST(OpenLogicalChannelTest, ReverseParameters) {
   EXPECT_EQ(input.Next(), kMarker);
 }
 
-TEST(H2250LogicalChannelParametersTest, MediaControlChannelAlone) {
-  BitWriter w = H2250(kMediaControlChannel);
-  w.Align().Bits(1, 8).Bits(0, 2).Bits(0, 5).Octets({10, 0, 0, 7}).Bits(49153, 16);
-  Input input(Marked(w));
-  Owned<H2250LogicalChannelParameters> m;
-  DecodeH2250LogicalChannelParameters(*m, input.reader);
-  EXPECT_EQ(+m->hasMediaChannel, 0U);
-  EXPECT_TRUE(+m->mediaChannel.unicastAddress.iPAddress.network == nullptr);
-  EXPECT_EQ(+m->hasMediaControlChannel, 1U);
-  EXPECT_EQ(+m->mediaControlChannel.choiceTag, 0);
-  EXPECT_EQ(+m->mediaControlChannel.unicastAddress.choiceTag, 0);
-  const UnicastAddress::IPAddress& address = m->mediaControlChannel.unicastAddress.iPAddress;
-  EXPECT_EQ(+address.networkLength, 4U);
-  EXPECT_EQ(OctetsAt(address.network, 4), (Octets{10, 0, 0, 7}));
-  EXPECT_EQ(+address.tsapIdentifier, 49153);
-  EXPECT_EQ(input.Next(), kMarker);
-}
-
 TEST(H2250LogicalChannelParametersTest, NonStandardCountKeepsItsLow8Bits) {
   for (const uint32_t count : {1U, 256U, 257U}) {
     BitWriter w = H2250(kNonStandard | kAssociatedSessionID);
@@ -169,16 +151,6 @@ TEST(H2250LogicalChannelParametersTest, NonStandardCountKeepsItsLow8Bits) {
     }
     EXPECT_EQ(+m->sessionID, 200);
     EXPECT_EQ(+m->associatedSessionID, 255) << "1 to 255";
-    EXPECT_EQ(input.Next(), kMarker);
-  }
-}
-
-TEST(H2250LogicalChannelParametersTest, PayloadTypesStartAt96) {
-  for (const uint32_t coded : {0U, 31U}) {
-    Input input(Marked(H2250(kDynamicPayloadType).Align().Bits(1, 8).Bits(coded, 5)));
-    Owned<H2250LogicalChannelParameters> m;
-    DecodeH2250LogicalChannelParameters(*m, input.reader);
-    EXPECT_EQ(+m->dynamicRTPPayloadType, 96 + coded);
     EXPECT_EQ(input.Next(), kMarker);
   }
 }
