@@ -45,8 +45,7 @@ format:
 
 lint:
 	scripts/setup.sh lint
-	cmake --preset linux-x64 -DKELVRA_BUILD_TESTS=OFF -DKELVRA_BUILD_BENCH=OFF
-	run-clang-tidy -quiet -p $(BUILD) '/(src|tools)/.*\.cpp$$'
+	scripts/lint.sh
 
 # Times the library against its floor; ARGUMENTS go to the program, as --benchmark_filter=setup.
 bench:

@@ -2,9 +2,9 @@
 # Installs what a fresh Debian 12 lacks for `make demo` or `make test`.
 #
 #   scripts/setup.sh demo   build tools and the viewer's libraries (native x64)
+#   scripts/setup.sh lint   the above, clang-format and clang-tidy
 #   scripts/setup.sh test   the above, the cross compilers, GoogleTest and Wine
 #   scripts/setup.sh bench  build tools, Google Benchmark and valgrind
-#   scripts/setup.sh lint   the above for demo, clang-format and clang-tidy
 #
 # It does nothing when nothing is missing. A Wine that cannot be installed is
 # reported here but is no failure: scripts/test.sh then names the Windows
@@ -90,7 +90,7 @@ main() {
   local mode=${1:-test} wanted=() lacking=() wine_lacking=()
   case $mode in
     demo) wanted=("${demo_packages[@]}") ;;
-    test) wanted=("${demo_packages[@]}" "${test_packages[@]}") ;;
+    test) wanted=("${demo_packages[@]}" "${test_packages[@]}" "${lint_packages[@]}") ;;
     bench) wanted=("${bench_packages[@]}") ;;
     lint) wanted=("${demo_packages[@]}" "${lint_packages[@]}") ;;
     *)

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Builds and tests the targets given, or all; goes on after a failure.
+# Builds and tests the targets given, or all; goes on after a failure. `lint` is one of them.
 #
 #   scripts/test.sh [TARGET...]
 #
@@ -9,7 +9,7 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
-all_targets=(windows-x86 linux-x86 linux-x64 windows-x64 linux-x64-asan linux-x86-asan
+all_targets=(lint windows-x86 linux-x86 linux-x64 windows-x64 linux-x64-asan linux-x86-asan
   linux-x64-tsan linux-x64-fuzz)
 targets=("$@")
 [[ $# -gt 0 ]] || targets=("${all_targets[@]}")
@@ -32,6 +32,10 @@ have() {
 }
 
 run_target() {
+  if [[ $1 == lint ]]; then
+    scripts/lint.sh
+    return
+  fi
   cmake --preset "$1" &&
     cmake --build --preset "$1" --parallel "$(nproc)" &&
     ctest --preset "$1"

@@ -12,6 +12,7 @@ struct Endpoint {
   bool v6 = false;
   uint16_t port = 0;
 
+  // NOLINTNEXTLINE(modernize-use-nullptr): taken for a pointer compared with 0
   auto operator<=>(const Endpoint&) const = default;
 };
 

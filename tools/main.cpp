@@ -77,22 +77,26 @@ void Run(const Options& options, Printer& printer) {
   ReadCapture(source, options.ports, printer);
 }
 
-}  // namespace
-
-int main(int count, char** arguments) {
-  PrepareStandardStreams();
+int RunProgram(int count, char** arguments) {
   Options options;
   if (const auto status = ParseOptions(count, arguments, options)) return *status;
   Printer printer(options.format);
-  try {
-    Run(options, printer);
-  } catch (const std::exception& error) {
-    Complain(error.what());
-    return kUnusable;
-  }
+  Run(options, printer);
   if (std::fflush(stdout) != 0) {
     Complain("the output cannot be written");
     return kUnusable;
   }
   return printer.AllDecoded() ? kAllDecoded : kSomeMalformed;
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+  PrepareStandardStreams();
+  try {
+    return RunProgram(count, arguments);
+  } catch (const std::exception& error) {
+    Complain(error.what());
+    return kUnusable;
+  }
 }

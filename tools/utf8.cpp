@@ -32,7 +32,13 @@ void AppendEscape(std::string& text, unsigned unit) {
   for (int shift = 12; shift >= 0; shift -= 4) text += digits[unit >> shift & 15];
 }
 
-// The control character or line separator that starts the text, and its octets; or none.
+// Characters without a shape of their own that break lines or turn the direction of the text around them.
+bool ShapesLines(unsigned unit) {
+  return unit == 0x61C || unit == 0x200E || unit == 0x200F || (unit >= 0x2028 && unit <= 0x202E) ||
+         (unit >= 0x2066 && unit <= 0x2069);
+}
+
+// The character of that kind, or the control character, that starts the text, and its octets; or none.
 struct Control {
   unsigned unit = 0;
   size_t octets = 0;
@@ -42,8 +48,15 @@ Control LeadingControl(std::string_view text) {
   const auto octet = [text](size_t i) { return i < text.size() ? static_cast<unsigned char>(text[i]) : 0U; };
   if (octet(0) < 0x20 || octet(0) == 0x7F) return {octet(0), 1};
   if (octet(0) == 0xC2 && octet(1) >= 0x80 && octet(1) < 0xA0) return {octet(1), 2};
-  const bool separates = octet(0) == 0xE2 && octet(1) == 0x80 && (octet(2) == 0xA8 || octet(2) == 0xA9);
-  return separates ? Control{0x2000 + (octet(2) & 0x3F), 3} : Control{};
+  if (octet(0) >> 5 == 6) {
+    const unsigned unit = (octet(0) & 0x1F) << 6 | (octet(1) & 0x3F);
+    if (ShapesLines(unit)) return {unit, 2};
+  }
+  if (octet(0) >> 4 == 14) {
+    const unsigned unit = (octet(0) & 0x0F) << 12 | (octet(1) & 0x3F) << 6 | (octet(2) & 0x3F);
+    if (ShapesLines(unit)) return {unit, 3};
+  }
+  return {};
 }
 
 bool MayBeginControl(char character) {

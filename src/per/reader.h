@@ -17,7 +17,7 @@ inline constexpr uint32_t kMaximumDepth = 32;
 // megabyte, up to the maximum. A block past that is refused as if the heap had refused it. The maximum is
 // what can be obtained, cleared and given back in a few milliseconds; what calls exchange stays far below
 // it, though lawful messages could be made that do not.
-inline constexpr uint32_t kMaximumMessageMemory = 6U << 20;
+inline constexpr uint32_t kMaximumMessageMemory = 8U << 20;
 inline constexpr uint32_t kLeastMessageMemory = 1U << 20;
 inline constexpr uint32_t kMessageMemoryForEachOctet = 2048;
 
@@ -67,6 +67,8 @@ void PerReaderInit(PerReader& reader, const uint8_t* buffer, uint32_t length, ui
 // `pointer` plus `count`, held at the last address instead of wrapping round.
 inline const uint8_t* PerAdvance(const uint8_t* pointer, uint32_t count) {
   const auto address = reinterpret_cast<uintptr_t>(pointer);
+  // An address behind the buffer is only compared, which the arithmetic of pointers does not allow for.
+  // NOLINTNEXTLINE(performance-no-int-to-ptr)
   return reinterpret_cast<const uint8_t*>(count > UINTPTR_MAX - address ? UINTPTR_MAX : address + count);
 }
 

@@ -57,8 +57,8 @@ void WalkOctets(Visitor& visitor, const char* name, const OctetStringValue& valu
   visitor.Octets(name, Slot<uint8_t>(&value.data), value.length, notation);
 }
 
-template <class T, uint32_t kCount>
-constexpr uint32_t CountOf(const T (&)[kCount]) {
+template <uint32_t kCount>
+constexpr uint32_t CountOf(const char* const (&)[kCount]) {
   return kCount;
 }
 

@@ -127,6 +127,10 @@ class ExhaustiveFaults : public testing::Test {
   uint64_t cases_ = 0;
 };
 
+// The few messages that are whole tables of alike elements are tried at every ninth place only, which is
+// another bit of each octet.
+size_t StepOf(const std::vector<uint8_t>& octets) { return octets.size() < 1000 ? 1 : 9; }
+
 using Families = testing::Types<Ras, Q931, H245>;
 class FamilyName {
  public:
@@ -140,7 +144,10 @@ TYPED_TEST_SUITE(ExhaustiveFaults, Families, FamilyName);
 TYPED_TEST(ExhaustiveFaults, CutAtEveryOctet) {
   this->ForEachMessage([this](const std::vector<uint8_t>& octets) {
     std::vector<uint8_t> cut = octets;
-    for (; !cut.empty() && !this->HasFailure(); cut.pop_back()) this->Try(cut);
+    for (size_t size = octets.size(); size != 0 && !this->HasFailure(); --size) {
+      cut.resize(size);
+      if (size % StepOf(octets) == 0) this->Try(cut);
+    }
   });
   this->Leave("cut");
 }
@@ -148,7 +155,7 @@ TYPED_TEST(ExhaustiveFaults, CutAtEveryOctet) {
 TYPED_TEST(ExhaustiveFaults, EveryBitFlipped) {
   this->ForEachMessage([this](const std::vector<uint8_t>& octets) {
     std::vector<uint8_t> flipped = octets;
-    for (size_t bit = 0; bit < octets.size() * 8 && !this->HasFailure(); ++bit) {
+    for (size_t bit = 0; bit < octets.size() * 8 && !this->HasFailure(); bit += StepOf(octets)) {
       const auto mask = static_cast<uint8_t>(0x80 >> bit % 8);
       flipped[bit / 8] ^= mask;
       this->Try(flipped);
@@ -163,7 +170,7 @@ TYPED_TEST(ExhaustiveFaults, AnOctetAddedAtEveryPlace) {
     std::vector<uint8_t> longer = octets;
     longer.push_back(0x81);
     for (size_t place = octets.size(); !this->HasFailure(); --place) {
-      this->Try(longer);
+      if (place % StepOf(octets) == 0) this->Try(longer);
       if (place == 0) break;
       std::swap(longer[place], longer[place - 1]);
     }
@@ -175,7 +182,7 @@ TYPED_TEST(ExhaustiveFaults, EveryAllocationRefused) {
   this->ForEachMessage([this](const std::vector<uint8_t>& octets) {
     this->Try(octets);
     const size_t allocations = this->heap_.Requests();
-    for (size_t nth = 1; nth <= allocations && !this->HasFailure(); ++nth) {
+    for (size_t nth = 1; nth <= allocations && !this->HasFailure(); nth += StepOf(octets)) {
       this->Try(octets, [this, nth] { this->heap_.RefuseOnly(nth); });
       this->Try(octets, [this, nth] { this->heap_.RefuseFrom(nth); });
     }

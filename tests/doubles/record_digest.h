@@ -3,9 +3,8 @@
 // records have the same layout.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
-#include <cstring>
-#include <utility>
 #include <vector>
 
 #include "api/kelvra.h"
@@ -15,21 +14,8 @@ namespace kelvra::test {
 
 class Digest {
  public:
-  void Add(const void* octets, size_t count) {
-    const auto* next = static_cast<const uint8_t*>(octets);
-    for (; count >= sizeof(uint64_t); count -= sizeof(uint64_t), next += sizeof(uint64_t)) {
-      uint64_t word = 0;
-      std::memcpy(&word, next, sizeof word);
-      AddWord(word);
-    }
-    uint64_t rest = count;
-    std::memcpy(reinterpret_cast<uint8_t*>(&rest) + 1, next, count);
-    AddWord(rest);
-  }
-  void AddWord(uint64_t word) {
-    value_ = (value_ ^ word) * 0x9E3779B97F4A7C15;
-    value_ ^= value_ >> 29;
-  }
+  void Add(const void* octets, size_t count);
+  void AddWord(uint64_t word);
   uint64_t Value() const { return value_; }
 
  private:
@@ -101,12 +87,7 @@ class BlockCollector {
   const std::vector<Block>& Blocks() const { return blocks_; }
 
   // Adds the record and all blocks, each with null in the place of its pointers.
-  void AddTo(Digest& digest, const void* record, size_t size) const {
-    for (void* slot : slots_) std::memset(slot, 0, sizeof(void*));
-    digest.Add(record, size);
-    for (const Block& block : blocks_) digest.Add(block.address, block.size);
-    for (size_t i = 0; i < slots_.size(); ++i) std::memcpy(slots_[i], &blocks_[i].address, sizeof(void*));
-  }
+  void AddTo(Digest& digest, const void* record, size_t size) const;
 
  private:
   template <class T>

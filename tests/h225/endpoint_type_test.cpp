@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include "h225/common/endpoint_type_decode.h"
 #include "h225/common/non_standard_decode.h"
 #include "h225/decoding.h"
@@ -220,6 +222,23 @@ TEST(SupportedProtocolsTest, LaterExtensionsAreSkipped) {
     EXPECT_EQ(+protocols->isExtension, 1U);
     EXPECT_EQ(+protocols->nonStandardProtocol.hasNonStandardData, 0U) << index;
     EXPECT_EQ(input.Next(), kMarker) << index;
+  }
+}
+
+// What the H.245 decoders within cannot report.
+TEST(SupportedProtocolsTest, T38FaxThatCannotBeReadIsRefused) {
+  constexpr struct {
+    std::array<uint8_t, 11> octets;
+    size_t count;
+    Status status;
+  } kCases[] = {
+      {{0x81, 0x03, 0x00, 0x00, 0x70, 0x00}, 6, kMalformed},               // t38FaxProtocol has no root index 7
+      {{0x81, 0x07, 0x48, 0xB5, 0x00, 0x00, 0x12, 0x7F}, 11, kExhausted},  // t38FaxProfile begins at the end
+  };
+  for (const auto& c : kCases) {
+    Input input(Octets(c.octets.begin(), c.octets.begin() + c.count));
+    Owned<SupportedProtocols> protocols;
+    EXPECT_EQ(DecodeSupportedProtocols(*protocols, input.reader), c.status) << c.count;
   }
 }
 

@@ -61,6 +61,20 @@ TEST(SetupTest, FastStartElementsAreOpenTypes) {
   EXPECT_EQ(input.reader.openTypes.index, 0U);
 }
 
+TEST(SetupTest, FastStartElementsThatAreNotReachedStayZero) {
+  BitWriter list;
+  list.Length(3).OpenType(NullChannel(11));
+  BitWriter w = SetupRoot(true);
+  Additions(w, Addition(6, 7), 7).OpenType(list);
+  Input input(w.Done());
+  Owned<SetupUUIE> m;
+  EXPECT_EQ(DecodeSetupUUIE(*m, input.reader), kDecoded) << "that the reader stands at its end is for others to see";
+  ASSERT_EQ(+m->fastStartCount, 3);
+  EXPECT_EQ(+m->fastStart[0].forwardLogicalChannelNumber, 11);
+  const auto* unread = reinterpret_cast<const uint8_t*>(&m->fastStart[1]);
+  EXPECT_EQ(test::OctetsAt(unread, 2 * sizeof m->fastStart[1]), Octets(2 * sizeof m->fastStart[1], 0));
+}
+
 TEST(SetupTest, MaintainConnectionFollowsItsOwnFlag) {
   BitWriter w = SetupRoot(true);
   Additions(w, Addition(11, 12), 12).OpenType({0x80});

@@ -59,6 +59,15 @@ TEST(Q931FrameTest, OnlyTheLow16BitsOfTheLengthCount) {
   const auto length = static_cast<int32_t>(octets.size());
   octets.resize(octets.size() + 65536);
   EXPECT_EQ(Frame(octets, length + 65536).result, kQ931Decoded);
+  EXPECT_EQ(Frame(octets, length + 0x40000000).result, kQ931Decoded) << "where a pointer plus that many would wrap too";
+}
+
+TEST(Q931FrameTest, ANegativeLengthIsThatOfABufferOfNoOctets) {
+  const Octets octets = Q931Builder().UserUser().Done();
+  Frame frame(octets, static_cast<int32_t>(octets.size()) - 65536);
+  EXPECT_EQ(frame.result, kQ931Rejected);
+  EXPECT_EQ(+frame.m.protocolDiscriminator, 0);
+  EXPECT_EQ(+frame.m.presenceMask, 0U);
 }
 
 TEST(Q931FrameTest, NullArgumentsAreRefused) {
@@ -213,6 +222,9 @@ TEST(Q931FrameTest, FailedUserInformationIsReleased) {
   Frame frame(Q931Builder().UserUser(cut).Done());
   EXPECT_EQ(frame.result, kQ931Rejected);
   EXPECT_TRUE(+frame.m.userInformation.h323UuPdu.h323MessageBody.setup.protocolIdentifier.arcs == nullptr);
+  // A Connect that ends before its conferenceID, which no status tells.
+  const Octets connect = {0x02, 0x00, 0x06, 0x00, 0x08, 0x91, 0x4A, 0x00, 0x04, 0x80, 0x02, 0x20, 0x7F};
+  EXPECT_EQ(Frame(Q931Builder().UserUser(connect).Done()).result, kQ931Rejected);
 }
 
 }  // namespace

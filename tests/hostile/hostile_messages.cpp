@@ -79,7 +79,8 @@ Octets ObjectIdentifiersPastTheEnd(size_t size) {
   return Filled(octets, {0x80, 0x05, 0x00, 0x00, 0xBF, 0xFF, 0x81}, size);
 }
 
-// Lawful: capabilities that each are an object identifier of as many octets as fit.
+// Capabilities that each are an object identifier of as many octets as fit. The open type around them ends
+// with the longest length there is.
 Octets LongObjectIdentifiers(size_t size) {
   const uint32_t each = static_cast<uint32_t>((size - 64) / 255);
   BitWriter message;
@@ -110,17 +111,6 @@ Octets NestedParameters(size_t size) {
   BitWriter parameter;
   parameter.Bits(0b00, 2).Bits(0b000, 3).Bits(1, 7).Bits(0b0111, 4).Length(255);
   return Filled(octets, parameter, size);
-}
-
-// Additions that are passed over: open types of no octet, of as many as a length can say, and bitmaps that
-// claim more than there is.
-Octets SkippedAdditions(size_t size, const Octets& pattern) {
-  BitWriter message;
-  message.Bits(0b000, 3).Bits(0b00011, 5).Bits(0b10, 2).Align().Bits(0, 16).Bits(0b00, 2);
-  WriteNullDataType(message);
-  message.Bit(true).NormallySmall(1).OpenType(Octets{});
-  message.NormallySmall(0x7FFFFFFE);
-  return Filled(message, pattern, size);
 }
 
 // --- RAS ---
@@ -168,24 +158,46 @@ Octets RewoundEndpoints(size_t size) {
   return octets;
 }
 
-// Up to the additions of a gatekeeperRequest, of which the one at `index` is there.
-BitWriter GatekeeperRequestWith(uint32_t index) {
+// A gatekeeperRequest up to its additions.
+BitWriter GatekeeperRequestHead() {
   BitWriter message;
   message.Bits(0b000000, 6).Bits(0b10000, 5).Align().Bits(1, 16).OpenType(ProtocolIdentifier(4));
   IpAddress(message, 1, 1719);
   EmptyEndpointType(message);
+  return message;
+}
+
+// The same with the bitmap of its additions, of which the one at `index` is there.
+BitWriter GatekeeperRequestWith(uint32_t index) {
+  BitWriter message = GatekeeperRequestHead();
   return Additions(message, Addition(index, 10), 10);
 }
 
-// Generic data whose parameters are lists of parameters, 512 wide at each level.
-Octets WideGenericData(size_t size) {
-  BitWriter message = GatekeeperRequestWith(9);
+// Additions that are passed over, as many as the message has room for: half of it is their bitmap, and the
+// rest their open types, each starting with an octet of `length`.
+Octets SkippedAdditions(size_t size, uint8_t length) {
+  BitWriter message = GatekeeperRequestHead();
+  message.NormallySmall(static_cast<uint32_t>(size * 4));
+  Octets octets = message;
+  octets.resize(size / 2, 0xFF);
+  octets.resize(size, length);
+  return octets;
+}
+
+// Behind the length of a list's open type: generic data whose parameters are lists of parameters, 512 wide
+// at each level.
+Octets WideGenericData(BitWriter& message, size_t size) {
   message.Length(kLongestLength).Length(255);
   message.Bit(false).Bit(true).Bits(0b0000, 4).Align().Bits(7, 16).Align().Bits(511, 16);  // 512 parameters
   BitWriter parameter;
   parameter.Bits(0b01, 2).Bits(0b0000, 4).Align().Bits(7, 16);
   parameter.Bits(0b01010, 5).Align().Bits(511, 16);  // compound, of 512
   return Filled(message, parameter, size);
+}
+
+Octets WideGenericDataOfARequest(size_t size) {
+  BitWriter message = GatekeeperRequestWith(9);
+  return WideGenericData(message, size);
 }
 
 // Cryptographic tokens in open types of no octet.
@@ -253,7 +265,7 @@ Octets RewoundFastStart(size_t size) {
   return Packet(Filled(information, {0x80, 0x02, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF}, size - 16), size);
 }
 
-// Lawful: as many smallest channels as one list holds, in each of as many lists as there are.
+// Lawful: as many smallest channels as one list holds.
 Octets SmallestChannels(size_t size) {
   BitWriter information = SetupWith(kFastStart);
   BitWriter channels;
@@ -262,13 +274,9 @@ Octets SmallestChannels(size_t size) {
   return Packet(information.OpenType(channels), size);
 }
 
-Octets WideFeatures(size_t size) {
+Octets WideFeaturesOfASetup(size_t size) {
   BitWriter information = SetupWith(kDesiredFeatures);
-  information.Length(kLongestLength).Length(255);
-  BitWriter feature;
-  feature.Bit(false).Bit(true).Bits(0b0000, 4).Align().Bits(7, 16).Align().Bits(0, 16);
-  feature.Bits(0b01, 2).Bits(0b0000, 4).Align().Bits(7, 16).Bits(0b01011, 5).Bits(15, 4);  // 16 nested in each
-  return Packet(Filled(information, feature, size - 16), size);
+  return Packet(WideGenericData(information, size - 16), size);
 }
 
 Octets RewoundSetupTokens(size_t size) {
@@ -297,16 +305,16 @@ std::vector<Message> HostileMessages(size_t size) {
       {Family::kH245, "object identifiers past the end", ObjectIdentifiersPastTheEnd(size)},
       {Family::kH245, "long object identifiers", LongObjectIdentifiers(size)},
       {Family::kH245, "nested parameters", NestedParameters(size)},
-      {Family::kH245, "additions of no octet", SkippedAdditions(size, {0x00})},
-      {Family::kH245, "additions of 16383 octets", SkippedAdditions(size, {0xBF, 0xFF})},
       {Family::kRas, "rewound endpoints", RewoundEndpoints(size)},
-      {Family::kRas, "wide generic data", WideGenericData(size)},
+      {Family::kRas, "additions of no octet", SkippedAdditions(size, 0x00)},
+      {Family::kRas, "additions of 100 octets", SkippedAdditions(size, 100)},
+      {Family::kRas, "wide generic data", WideGenericDataOfARequest(size)},
       {Family::kRas, "rewound tokens", RewoundTokens(size, 0x80)},
       {Family::kRas, "rewound tokens of zeros", RewoundTokens(size, 0x00)},
       {Family::kRas, "empty PDUs", EmptyPdus(size)},
       {Family::kQ931, "rewound fast start", RewoundFastStart(size)},
       {Family::kQ931, "smallest channels", SmallestChannels(size)},
-      {Family::kQ931, "wide features", WideFeatures(size)},
+      {Family::kQ931, "wide features", WideFeaturesOfASetup(size)},
       {Family::kQ931, "rewound tokens of a Setup", RewoundSetupTokens(size)},
       {Family::kQ931, "elements in circles", CircularElements(size)},
       {Family::kQ931, "elements without contents", ElementsWithoutContents(size)},

@@ -432,6 +432,9 @@ TEST(PerReadSubidentifier, ReadsSevenBitsAnOctetAndKeepsTheLow32) {
                  {{0x8F, 0xFF, 0xFF, 0xFF, 0x7F}, 0xFFFFFFFF, 40},
                  {{0x90, 0x80, 0x80, 0x80, 0x05}, 5, 40},
                  {{0x81, 0x81, 0x81, 0x81, 0x81, 0x81, 0x01, 0xFF}, 0x10204081, 56},
+                 // Without a last octet: the end reads as one of zero.
+                 {{0x81}, 128, 8},
+                 {{0x81, 0x82}, (128 + 2) << 7, 16},
                  {{}, 0, 0}},
                 PerReadSubidentifier);
 }
@@ -458,6 +461,7 @@ TEST(PerReadObjectIdentifier, ReadsItsArcs) {
       // No final octet in the contents: one arc, read on to the octet that ends it.
       {{0x02, 0x81, 0x82, 0x03, 0xFF}, 1, {16643 / 40}, 32},
       {{0x02, 0x81, 0x82}, 1, {(130 << 7) / 40}, 24},
+      {{0x01, 0x81}, 1, {3}, 16},
       // The last subidentifier lacks its final octet: it is not counted.
       {{0x02, 0x2B, 0x86}, 2, {1, 3}, 16},
   };

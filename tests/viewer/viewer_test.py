@@ -92,6 +92,11 @@ class SingleMessages(unittest.TestCase):
                 "requestSeqNum": 1, "protocolIdentifier": "0.0.8.2250.0.4", "gatekeeperIdentifier": "GK-1",
                 "rasAddress": {"ipAddress": {"ip": "C0000201", "port": 1719}}}}})
 
+    def test_source_route_that_lost_its_tag(self):
+        (printed,) = objects(decode_hex("ras", "00000001060008914a000410c000020106b7010a00000182010000000000"))
+        self.assertEqual(printed["message"]["gatekeeperRequest"]["rasAddress"], {"ipSourceRoute": {
+            "ip": "C0000201", "port": 1719, "route": ["0A000001"], "routing": {"extension-2": None}}})
+
     def test_q931_and_h245(self):
         for family, text, expected in (("q931", RELEASE_COMPLETE, ("releaseComplete", 0, True)),
                                        ("h245", CHANNEL_ACK, ("openLogicalChannelAck", 1, True))):
@@ -164,7 +169,13 @@ class Captures(unittest.TestCase):
         self.assertEqual([printed[6][k] for k in ("frame", "time", "source", "destination", "name")],
                          [10, "2023-11-14T22:13:20.130000Z", "192.0.2.10:50001", "192.0.2.20:1720", "setup"])
         self.assertEqual(sum(o["family"] == "h245" for o in printed), 15)
-        summary = run(data=SAMPLE).stdout.decode()
+        result = run(data=SAMPLE)
+        self.assertEqual(result.returncode, 0)
+        summary = result.stdout.decode()
+        for details in ("receive g711Ulaw64k, g711Alaw64k, g7231, dtmf, h261VideoCapability\n",
+                        "channel 101  forward g729AnnexA  media 192.0.2.10:5006/192.0.2.10:5007\n",
+                        'input "5"  for 200 ms\n', "decision slave\n", "channel 101  by user\n", "end disconnect\n"):
+            self.assertIn(details, summary)
         self.assertIn('from "4001"  to "4002"  media 192.0.2.10:5004/192.0.2.10:5005', summary)
         self.assertEqual(summary.count("+ H.245"), 2)
 

@@ -42,7 +42,7 @@ class ElementWalk {
   // are passed over. False when there is no more.
   bool Next(uint8_t& identifier, Q931Element& element) {
     // The position wraps at 16 bits; a walk that has taken a step for each position goes round in circles.
-    while (steps_ <= UINT16_MAX && position_ < frame_.length) {
+    while (steps_ < frame_.length && position_ < frame_.length) {
       ++steps_;
       const uint16_t position = position_;
       identifier = frame_.At(position);

@@ -1,0 +1,78 @@
+// How deep the stack of a decode and of a release goes at most. The stack below is painted first, and looked
+// at afterwards.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "doubles/fault_test.h"
+#include "doubles/message_family.h"
+#include "hostile/hostile_messages.h"
+
+// A sanitizer's frames are larger, and not all on the stack.
+#if !defined(__SANITIZE_ADDRESS__)
+
+namespace kelvra::test {
+namespace {
+
+constexpr size_t kPainted = 128 << 10;
+constexpr size_t kDeepest = 64 << 10;
+constexpr uint8_t kPaint = 0xA7;
+
+// The area of the stack below a caller, the same for all functions that ask.
+[[gnu::always_inline]] inline volatile uint8_t* AreaBelow() {
+  auto* area = static_cast<volatile uint8_t*>(__builtin_alloca(kPainted));
+  __asm__ volatile("" : "+r"(area) : : "memory");
+  return area;
+}
+
+[[gnu::noinline]] void Paint() {
+  volatile uint8_t* area = AreaBelow();
+  for (size_t i = 0; i < kPainted; ++i) area[i] = kPaint;
+}
+
+[[gnu::noinline]] size_t Depth() {
+  const volatile uint8_t* area = AreaBelow();
+  size_t unused = 0;
+  while (unused < kPainted && area[unused] == kPaint) ++unused;
+  return kPainted - unused;
+}
+
+// The records stay off the stack that is measured.
+template <class MessageFamily>
+size_t DepthOf(const std::vector<uint8_t>& octets) {
+  static typename MessageFamily::Record record;
+  Paint();
+  MessageFamily::Decode(&record, octets.data(), octets.size());
+  MessageFamily::Release(&record);
+  return Depth();
+}
+
+size_t DepthOf(const Message& message) {
+  switch (message.family) {
+    case Family::kRas: return DepthOf<Ras>(message.octets);
+    case Family::kQ931: return DepthOf<Q931>(message.octets);
+    default: return DepthOf<H245>(message.octets);
+  }
+}
+
+using Stack = FaultTest;
+
+TEST_F(Stack, StaysWithinItsBoundAtTheDepthLimit) {
+  size_t deepest[3] = {};
+  const auto measure = [&](const Message& message) {
+    size_t& depth = deepest[static_cast<size_t>(message.family)];
+    depth = std::max(depth, DepthOf(message));
+  };
+  for (const Message& message : HostileMessages(65535)) measure(message);
+  for (const Message& message : Corpus()) measure(message);
+  printf("stack: RAS %zu, call signalling %zu, H.245 %zu octets\n", deepest[0], deepest[1], deepest[2]);
+  for (const size_t depth : deepest) {
+    EXPECT_LE(depth, kDeepest);
+    EXPECT_GT(depth, 500U) << "nothing was painted";
+  }
+}
+
+}  // namespace
+}  // namespace kelvra::test
+
+#endif

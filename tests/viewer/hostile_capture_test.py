@@ -1,0 +1,163 @@
+#!/usr/bin/env python3
+"""kelvra-dump on captures made to harm it: it ends in time, within bounded memory, and says what it lost.
+
+Usage: hostile_capture_test.py KELVRA_DUMP [EMULATOR...]
+"""
+import json
+import os
+import random
+import struct
+import subprocess
+import sys
+import tempfile
+import time
+import unittest
+
+from viewer_test import (COMMAND, DATA, GATEKEEPER_CONFIRM, READS_CAPTURES, RELEASE_COMPLETE, SAMPLE, SYN, capture,
+                         ethernet, ipv4, run, segments, tcp, udp)
+
+RAS = bytes.fromhex(GATEKEEPER_CONFIRM)
+CALL = bytes.fromhex(RELEASE_COMPLETE)
+ENDED = (0, 1, 2)  # all decoded, some not, input that cannot be read on: anything else is a crash
+MOST_SECONDS = 60
+MOST_KILOBYTES = 300_000
+PCAP_HEADER, RECORD_HEADER = 24, 16
+
+
+def run_measured(data):
+    """The status, what was written to standard error, and the most memory used, in kilobytes."""
+    options = ":".join(filter(None, (os.environ.get("ASAN_OPTIONS"), "quarantine_size_mb=8")))
+    with tempfile.TemporaryFile() as source, tempfile.TemporaryFile() as errors:
+        source.write(data)
+        source.seek(0)
+        started = time.monotonic()
+        child = subprocess.Popen([*COMMAND, "-"], stdin=source, stdout=subprocess.DEVNULL, stderr=errors,
+                                 env={**os.environ, "ASAN_OPTIONS": options})
+        _, status, usage = os.wait4(child.pid, 0)
+        child.returncode = os.waitstatus_to_exitcode(status)
+        seconds = time.monotonic() - started
+        errors.seek(0)
+        return child.returncode, errors.read(), usage.ru_maxrss, seconds
+
+
+def names(result):
+    return [json.loads(line)["name"] for line in result.stdout.splitlines()]
+
+
+@unittest.skipUnless(READS_CAPTURES, "reads no captures")
+class HostileCaptures(unittest.TestCase):
+    def assert_ends(self, data, note=None):
+        result = run("--format", "json", "-", data=data)
+        self.assertIn(result.returncode, ENDED, (note, result.stderr[-2000:]))
+        return result
+
+    def assert_bounded(self, data):
+        status, errors, kilobytes, seconds = run_measured(data)
+        self.assertIn(status, ENDED, errors[-2000:])
+        self.assertLess(kilobytes, MOST_KILOBYTES)
+        self.assertLess(seconds, MOST_SECONDS)
+        return errors
+
+    def test_file_cut_short(self):
+        whole = names(self.assert_ends(SAMPLE))
+        for size in range(1, len(SAMPLE), 97):
+            printed = names(self.assert_ends(SAMPLE[:size], size))
+            self.assertEqual(printed, whole[:len(printed)], size)
+
+    def test_file_with_octets_changed(self):
+        chance = random.Random(1)
+        for _ in range(40):
+            data = bytearray(SAMPLE)
+            for _ in range(20):
+                data[chance.randrange(PCAP_HEADER, len(data))] = chance.choice((0, 1, 0x7F, 0x80, 0xFF))
+            self.assert_ends(bytes(data))
+
+    def test_wrong_lengths(self):
+        frame = ethernet(ipv4(17, udp(RAS)))
+        segment = ethernet(ipv4(6, tcp(1, CALL)))
+        record = PCAP_HEADER + 8  # the captured and the original length of the first record
+        ip_length = PCAP_HEADER + RECORD_HEADER + 14 + 2
+        for what, at, form, values in (("captured", record, "<I", (0, 1, 13, 14, 33, 0xFFFF, 0xFFFFFFFF)),
+                                       ("original", record + 4, "<I", (0, 1, 0xFFFFFFFF)),
+                                       ("IP header", ip_length - 2, ">B", (0x40, 0x41, 0x4F, 0x00, 0x6F)),
+                                       ("IP", ip_length, ">H", (0, 1, 19, 20, 27, 0xFFFF)),
+                                       ("UDP", ip_length + 18 + 4, ">H", (0, 1, 7, 8, 0xFFFF)),
+                                       ("TCP", ip_length + 18 + 12, ">B", (0x00, 0x10, 0x40, 0xF0))):
+            for value in values:
+                data = bytearray(capture([segment if what == "TCP" else frame, frame]))
+                data[at:at + struct.calcsize(form)] = struct.pack(form, value)
+                self.assert_ends(bytes(data), (what, value))
+
+    def test_packet_lengths_that_hold_no_packet(self):
+        for length in range(4):
+            wrong = struct.pack(">BBH", 3, 0, length)
+            for stream in (wrong, wrong * 1000, CALL + wrong * 1000 + CALL):
+                data = segments((0, b"", SYN), (1, stream), (1 + len(stream), CALL))
+                result = self.assert_ends(data, length)
+                self.assertEqual(result.returncode, 1)
+                self.assertIn(b"out of step", result.stderr)
+                self.assertEqual(names(result), ["releaseComplete"] * stream.startswith(CALL))
+
+    def test_message_that_never_ends(self):
+        data = segments((0, b"", SYN), (1, b"\x03\0\xff\xff" + bytes(1000)))
+        result = self.assert_ends(data)
+        self.assertEqual(result.returncode, 1)
+        self.assertIn(b"ends within a message", result.stderr)
+
+    def test_overlaps_that_disagree(self):
+        other = bytes(len(CALL))
+        for pieces in (((1, CALL), (1, other)), ((1, CALL[:30]), (11, other[:20]), (31, CALL[30:])),
+                       ((21, other[20:]), (1, CALL)), ((0xFFFFFFF0, CALL), (1, CALL))):
+            self.assert_ends(segments((0, b"", SYN), *pieces), pieces)
+
+    def test_endless_stream_of_single_octets(self):
+        stream = b"\x03\0\xff\xff" + bytes(65531)
+        frames = [ethernet(ipv4(6, tcp(1 + i, stream[i % 65535:i % 65535 + 1]))) for i in range(150_000)]
+        self.assert_bounded(capture(frames))
+
+    def test_endless_gap(self):
+        # Each segment lies behind the one before with an octet missing between.
+        piece = b"\x03\0\xff\xff" + bytes(996)
+        frames = [ethernet(ipv4(6, tcp(1 + i * 1001, piece))) for i in range(20_000)]
+        self.assertIn(b"missing", self.assert_bounded(capture([ethernet(ipv4(6, tcp(0, b"", SYN))), *frames])))
+
+    def test_many_connections(self):
+        def opening(number):
+            ports = struct.pack(">HH", 1024 + number % 60000, 1720)
+            packet = ports + tcp(1, b"\x03\0\xff\xff" + bytes(500), SYN)[4:]
+            return ethernet(ipv4(6, packet)[:15] + bytes([number // 60000]) + ipv4(6, packet)[16:])
+        self.assert_bounded(capture(opening(i) for i in range(100_000)))
+
+    def test_fragments_that_never_make_a_packet(self):
+        frames = [ethernet(ipv4(17, bytes(1000), i & 0xFFFF, 0x2000)) for i in range(60_000)]
+        self.assert_bounded(capture(frames))
+
+    def test_endless_fine_messages(self):
+        frames = [ethernet(ipv4(17, udp(RAS)))] * 50_000
+        self.assert_bounded(capture(frames))
+
+
+class HostileText(unittest.TestCase):
+    IDENTIFIER = "0047004b002d0031"  # GK-1
+
+    def printed(self, characters, form):
+        text = GATEKEEPER_CONFIRM.replace(self.IDENTIFIER, "".join(f"{ord(c):04x}" for c in characters))
+        result = run("--as", "ras", "--input", "hex", "--format", form, "-", data=text.encode())
+        self.assertEqual(result.returncode, 0)
+        return result.stdout.decode("utf-8")
+
+    def test_characters_that_would_act_on_a_terminal(self):
+        for characters in ("\x1b[2J", "\x9b1A ", "\r\n\x07\x08", "a\u202eb\u2069", "\u2028\u2029\x7f\x00x", "\u200e\u200f\u061cx"):
+            for form in ("summary", "tree", "json"):
+                with self.subTest(characters=characters, form=form):
+                    text = self.printed(characters[:4], form)
+                    acting = [c for c in text if c in characters and not c.isprintable() and c != "\n"]
+                    self.assertEqual(acting, [])
+
+    def test_json_keeps_them(self):
+        (line,) = self.printed("\x1b[2J", "json").splitlines()
+        self.assertEqual(json.loads(line)["message"]["gatekeeperConfirm"]["gatekeeperIdentifier"], "\x1b[2J")
+
+
+if __name__ == "__main__":
+    unittest.main(argv=sys.argv[:1])
