@@ -80,11 +80,12 @@ def compare(workloads, baseline):
             continue
         risen = True
         print(f"{name}: {before['total']} -> {counts['total']} instructions ({rise:+.1%}); what rose most:")
-        rises = {function: cost - before["functions"].get(function, 0)
+        unnamed = SMALLEST_SHARE * before["total"]
+        rises = {function: cost - before["functions"].get(function, unnamed)
                  for function, cost in counts["functions"].items()}
         for function in sorted(rises, key=rises.get, reverse=True)[:5]:
             if rises[function] > 0:
-                print(f"  {rises[function]:+9}  {function}")
+                print(f"  {rises[function]:+9.0f}  {function}")
     return risen
 
 
