@@ -1,5 +1,4 @@
 // The sizes that a caller of the 32-bit library allocates. docs/records.md tells the layout of all records.
-#include <stddef.h>
 
 #include "api/kelvra.h"
 
