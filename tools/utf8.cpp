@@ -61,7 +61,7 @@ Control LeadingControl(std::string_view text) {
 
 bool MayBeginControl(char character) {
   const auto octet = static_cast<unsigned char>(character);
-  return octet < 0x20 || octet == 0x7F || octet == 0xC2 || octet == 0xE2;
+  return octet < 0x20 || octet == 0x7F || octet == 0xC2 || octet == 0xD8 || octet == 0xE2;
 }
 
 }  // namespace
