@@ -14,27 +14,29 @@
 namespace kelvra::test {
 namespace {
 
-constexpr size_t kPainted = 128 << 10;
+constexpr size_t kWatched = 128 << 10;
+constexpr size_t kPaintedBelow = 4 << 10;  // more than the frames of those who paint and look differ by
 constexpr size_t kDeepest = 64 << 10;
 constexpr uint8_t kPaint = 0xA7;
 
-// The area of the stack below a caller, the same for all functions that ask.
-[[gnu::always_inline]] inline volatile uint8_t* AreaBelow() {
-  auto* area = static_cast<volatile uint8_t*>(__builtin_alloca(kPainted));
+// The area of the stack below a caller.
+[[gnu::always_inline]] inline volatile uint8_t* AreaBelow(size_t octets) {
+  auto* area = static_cast<volatile uint8_t*>(__builtin_alloca(octets));
   __asm__ volatile("" : "+r"(area) : : "memory");
   return area;
 }
 
 [[gnu::noinline]] void Paint() {
-  volatile uint8_t* area = AreaBelow();
-  for (size_t i = 0; i < kPainted; ++i) area[i] = kPaint;
+  constexpr size_t kOctets = kWatched + kPaintedBelow;
+  volatile uint8_t* area = AreaBelow(kOctets);
+  for (size_t i = 0; i < kOctets; ++i) area[i] = kPaint;
 }
 
 [[gnu::noinline]] size_t Depth() {
-  const volatile uint8_t* area = AreaBelow();
+  const volatile uint8_t* area = AreaBelow(kWatched);
   size_t unused = 0;
-  while (unused < kPainted && area[unused] == kPaint) ++unused;
-  return kPainted - unused;
+  while (unused < kWatched && area[unused] == kPaint) ++unused;
+  return kWatched - unused;
 }
 
 // The records stay off the stack that is measured.
