@@ -1,0 +1,84 @@
+#!/usr/bin/env python3
+"""Holds the decoders against the records: each reads what its record holds, all of it, in its order.
+
+  scripts/check-order.py
+
+Records have their members in the order of the ASN.1, which is that of the encoding. So a decoder of a SEQUENCE
+must read the presence bits of all its optional members in the order of the record, and then the members
+likewise. No message need tell two presence bits apart for a swap of them to be seen here.
+"""
+import pathlib
+import re
+import sys
+
+TOP = pathlib.Path(__file__).resolve().parent.parent
+SOURCES = sorted((TOP / "src").glob("h2*/**/*.cpp"))
+TABLE = TOP / "docs" / "records.md"
+FUNCTION = re.compile(r"^(?:Status|void) Decode\w*\(([\w:]+)& m, PerReader& r[^)]*\) \{\n(.*?)^\}", re.M | re.S)
+# What tells the decoder of a whole SEQUENCE from one of a part of it.
+WHOLE = re.compile(r"\bm\.isExtended = PerReadBit\(")
+PRESENCE = re.compile(r"\bm\.((?:has\w+|\w+Present)) = Per(?:ReadBit|ReadAdditionBit)\(")
+CONDITION = re.compile(r"^\s*if \(m\.[\w.]+\) ?")
+BOOKKEEPING = {"isExtended", "isExtension", "choiceTag", "userDataExtension"}
+
+
+def is_flag(name):
+    return re.fullmatch(r"has[A-Z]\w*|\w+Present", name) is not None
+
+
+def records():
+    """The members of each record, in order, by its qualified name."""
+    found, name = {}, None
+    for line in TABLE.read_text().splitlines():
+        if title := re.match(r"### `([\w:]+)`", line):
+            name = title[1]
+            found[name] = []
+        elif name and (row := re.match(r"\| \d+ \| \d+ \| `(\w+)`", line)):
+            found[name].append(row[1])
+    return found
+
+
+def decoded(body):
+    """The members that the lines of a decoder read, each where it comes first."""
+    order = []
+    for line in body.splitlines():
+        line = CONDITION.sub("", line)
+        if PRESENCE.search(line) or line.lstrip().startswith(("if ", "return ", "//", "switch", "case")):
+            continue
+        if member := re.search(r"\bm\.(\w+)", line):
+            name = member[1]
+            if name not in BOOKKEEPING and not is_flag(name) and name not in order:
+                order.append(name)
+    return order
+
+
+def in_order(names, members):
+    places = [members.index(name) for name in names]
+    return places == sorted(places)
+
+
+def complaints(path, table):
+    text = path.read_text()
+    family = re.search(r"namespace kelvra::(\w+)", text)[1]
+    for record, body in FUNCTION.findall(text):
+        members = table.get(f"{family}::{record}") or table.get(record)
+        flags = PRESENCE.findall(body)
+        if not members or "choiceTag" in members or not (flags or WHOLE.search(body)):
+            continue
+        wanted = [name for name in members if is_flag(name)]
+        if flags != wanted:
+            yield f"{record}: presence bits {flags}, of the record {wanted}"
+        values = [name for name in decoded(body) if name in members]
+        if not in_order(values, members):
+            yield f"{record}: members {values}, of the record {[name for name in members if name in values]}"
+
+
+def main():
+    table = records()
+    found = [f"{path.relative_to(TOP)}: {what}" for path in SOURCES for what in complaints(path, table)]
+    print("\n".join(found) if found else f"order: {len(SOURCES)} files of decoders read as their records stand")
+    return 1 if found else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
