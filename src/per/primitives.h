@@ -71,7 +71,7 @@ uint32_t PerReadNormallySmallAtEdge(PerReader& reader);
 // Normally small non-negative whole number (10.6).
 inline uint32_t PerReadNormallySmall(PerReader& reader) {
   if (PerHasOctets(reader, 2) && (reader.position[0] << reader.bitOffset & 0x80) == 0) [[likely]] {
-    return PerTakeBits(reader, 7);
+    return PerTakeBits(reader, 7, 2);
   }
   return PerReadNormallySmallAtEdge(reader);
 }

@@ -125,11 +125,11 @@ inline uint32_t PerLoad32(const uint8_t* octets) { return PerLoad16(octets) << 1
   return count <= 9 ? 2 : count <= 25 ? 4 : 5;
 }
 
-// The next 1 to 32 bits, which can be read.
-[[gnu::always_inline]] inline uint32_t PerTakeBits(PerReader& reader, uint32_t count) {
+// The next 1 to 32 bits, for which `taken` octets can be read: what PerOctetsTaken said when that was asked.
+// It may answer otherwise the next time, as far as the compiler knows the count.
+[[gnu::always_inline]] inline uint32_t PerTakeBits(PerReader& reader, uint32_t count, int32_t taken) {
   const uint8_t* octets = reader.position;
   const BitOffset offset = reader.bitOffset;
-  const int32_t taken = PerOctetsTaken(count);
   uint32_t bits = taken == 2 ? PerLoad16(octets) << 16 : PerLoad32(octets);
   bits <<= offset;
   if (taken == 5) bits |= uint32_t{octets[4]} >> (8 - offset);
@@ -150,8 +150,9 @@ inline void PerMoveTo(PerReader& reader, const uint8_t* octet) {
 
 // The next `count` bits (0 to 32), or 0 and the reader at its end when there are not as many.
 [[gnu::always_inline]] inline uint32_t PerReadBits(PerReader& reader, uint32_t count) {
-  if (count - 1 < 32 && PerHasOctets(reader, PerOctetsTaken(count))) [[likely]]
-    return PerTakeBits(reader, count);
+  const int32_t taken = PerOctetsTaken(count);
+  if (count - 1 < 32 && PerHasOctets(reader, taken)) [[likely]]
+    return PerTakeBits(reader, count, taken);
   return PerReadBitsAtEdge(reader, count);
 }
 
