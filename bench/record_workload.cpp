@@ -53,23 +53,29 @@ namespace {
 
 constexpr uint32_t kVariants = 64;
 
-Message Recorded(Family family, std::vector<uint8_t> octets) {
+struct Recording {
+  Message message;
+  int64_t result;
+};
+
+Recording Recorded(Family family, std::vector<uint8_t> octets) {
   static AnyRecord record;
-  Message message{family, std::move(octets), {}};
-  steps = &message.heapSteps;
+  Recording recording{{family, std::move(octets), {}}, 0};
+  steps = &recording.message.heapSteps;
   obtained = 0;
-  Decode(record, message);
-  Release(record, message);
+  recording.result = Decode(record, recording.message);
+  Release(record, recording.message);
   if (!blocks.empty()) throw std::runtime_error("a message leaks blocks");
-  return message;
+  return recording;
 }
 
-// What a variant must have in common with its message.
-bool IsAlike(const Message& message, const std::vector<uint8_t>& octets) {
-  return Recorded(message.family, octets).heapSteps == message.heapSteps;
+bool IsAlike(const Recording& recording, const std::vector<uint8_t>& octets) {
+  const Recording other = Recorded(recording.message.family, octets);
+  return other.result == recording.result && other.message.heapSteps == recording.message.heapSteps;
 }
 
-std::vector<Message> Variants(const Message& message) {
+std::vector<Message> Variants(const Recording& recording) {
+  const Message& message = recording.message;
   std::mt19937 random(1);
   const auto octet = [&random] { return static_cast<uint8_t>(random()); };
   std::vector<size_t> free;
@@ -78,7 +84,7 @@ std::vector<Message> Variants(const Message& message) {
     for (int attempt = 0; attempt < 16 && isFree; ++attempt) {
       std::vector<uint8_t> octets = message.octets;
       octets[i] = octet();
-      isFree = IsAlike(message, octets);
+      isFree = IsAlike(recording, octets);
     }
     if (isFree) free.push_back(i);
   }
@@ -88,9 +94,9 @@ std::vector<Message> Variants(const Message& message) {
     for (const size_t i : free) {
       const uint8_t kept = octets[i];
       octets[i] = octet();
-      if (!IsAlike(message, octets)) octets[i] = kept;
+      if (!IsAlike(recording, octets)) octets[i] = kept;
     }
-    variants.push_back(Recorded(message.family, octets));
+    variants.push_back(Recorded(message.family, octets).message);
   }
   return variants;
 }
@@ -116,7 +122,7 @@ void RecordFamily(const std::filesystem::path& file) {
   for (std::string line; std::getline(stream, line);) {
     if (line.empty()) continue;
     const Family family = FamilyOf(name);
-    SaveMessage(std::cout, name, Recorded(family, AsHanded(family, OctetsOf(StringMember(line, "hex")))));
+    SaveMessage(std::cout, name, Recorded(family, AsHanded(family, OctetsOf(StringMember(line, "hex")))).message);
   }
 }
 
@@ -127,11 +133,11 @@ void RecordSingles(const std::string& file) {
     std::istringstream words(line);
     std::string name, family, hex;
     words >> name >> family >> hex;
-    const Message message = Recorded(FamilyOf(family), AsHanded(FamilyOf(family), OctetsOf(hex)));
+    const Recording recording = Recorded(FamilyOf(family), AsHanded(FamilyOf(family), OctetsOf(hex)));
     if (name.starts_with("stream-")) {
-      for (const Message& variant : Variants(message)) SaveMessage(std::cout, name, variant);
+      for (const Message& variant : Variants(recording)) SaveMessage(std::cout, name, variant);
     } else {
-      SaveMessage(std::cout, name, message);
+      SaveMessage(std::cout, name, recording.message);
     }
   }
 }

@@ -26,6 +26,13 @@ struct Decoding {
   Record record{};
 };
 
+template <class Record>
+void Keep(Record& record, Decoded& decoded) {
+  RecordText text = RecordToText(record);
+  decoded.json = std::move(text.json);
+  decoded.name = std::move(text.name);
+}
+
 void DecodeRas(std::span<const uint8_t> message, size_t octets, Decoded& decoded) {
   Decoding<RasMessageRecord, KelvraFreeRASMessage> decoding;
   const auto length = static_cast<uint32_t>(octets + 1);
@@ -33,8 +40,7 @@ void DecodeRas(std::span<const uint8_t> message, size_t octets, Decoded& decoded
   decoded.ok = end != 0;
   const auto start = reinterpret_cast<uintptr_t>(message.data());
   decoded.result = decoded.ok ? static_cast<int64_t>(static_cast<uintptr_t>(end) - start) : 0;
-  decoded.message = RecordToJson(decoding.record);
-  decoded.name = Alternative(decoded.message);
+  Keep(decoding.record, decoded);
 }
 
 void DecodeQ931(std::span<const uint8_t> message, size_t octets, Decoded& decoded) {
@@ -42,8 +48,7 @@ void DecodeQ931(std::span<const uint8_t> message, size_t octets, Decoded& decode
   const auto length = static_cast<int32_t>(octets);
   decoded.result = KelvraDecodeQ931Message(&decoding.record, message.data(), length);
   decoded.ok = decoded.result == 0;
-  decoded.message = RecordToJson(decoding.record);
-  decoded.name = Alternative(UserInformationBody(decoded.message));
+  Keep(decoding.record, decoded);
 }
 
 void DecodeH245(std::span<const uint8_t> message, size_t octets, Decoded& decoded) {
@@ -51,14 +56,12 @@ void DecodeH245(std::span<const uint8_t> message, size_t octets, Decoded& decode
   const auto length = static_cast<uint32_t>(octets);
   decoded.result = KelvraDecodeH245Message(&decoding.record, message.data(), length);
   decoded.ok = decoded.result == 1;
-  decoded.message = RecordToJson(decoding.record);
-  decoded.name = Alternative(Chosen(decoded.message));
-  if (decoded.name.empty()) decoded.name = Alternative(decoded.message);
+  Keep(decoding.record, decoded);
 }
 
 }  // namespace
 
-Decoded Decode(Family family, std::span<const uint8_t> octets) {
+Decoded Decode(Family family, std::span<const uint8_t> octets, Form form) {
   Decoded decoded;
   const size_t spare = family == Family::kRas ? 1 : 0;
   if (octets.size() + spare > kMostOctets) return decoded;
@@ -70,6 +73,7 @@ Decoded Decode(Family family, std::span<const uint8_t> octets) {
     case Family::kQ931: DecodeQ931(padded, octets.size(), decoded); break;
     case Family::kH245: DecodeH245(padded, octets.size(), decoded); break;
   }
+  if (form == Form::kTree) decoded.message = Json::parse(decoded.json);
   return decoded;
 }
 

@@ -20,11 +20,10 @@ class JsonFormatter : public Formatter {
     line["result"] = decoded.result ? Json(*decoded.result) : Json();
     line["ok"] = decoded.ok;
     line["octets"] = message.octets.size();
-    // The message is printed where it is: a copy of it would cost more than the rest of the line.
     std::string text = line.dump();
     text.back() = ',';  // instead of the closing brace
     text += "\"message\":";
-    text += decoded.message.dump();
+    text += decoded.json;
     text += '}';
     return Printable(text) + "\n";
   }

@@ -18,14 +18,20 @@ bool IsSeparator(char character) {
 }  // namespace
 
 std::string ToHex(std::span<const uint8_t> octets) {
+  std::string text;
+  AppendHex(text, octets);
+  return text;
+}
+
+void AppendHex(std::string& text, std::span<const uint8_t> octets) {
   static const char digits[] = "0123456789ABCDEF";
-  std::string text(2 * octets.size(), '\0');
-  char* next = text.data();
+  const size_t before = text.size();
+  text.resize(before + 2 * octets.size());
+  char* next = text.data() + before;
   for (const uint8_t octet : octets) {
     *next++ = digits[octet >> 4];
     *next++ = digits[octet & 15];
   }
-  return text;
 }
 
 std::vector<uint8_t> FromHex(std::string_view text) {

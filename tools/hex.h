@@ -9,6 +9,7 @@
 
 // Upper-case, nothing between the octets.
 std::string ToHex(std::span<const uint8_t> octets);
+void AppendHex(std::string& text, std::span<const uint8_t> octets);
 
 // Accepts blanks and colons between the octets. Throws std::invalid_argument, whose what() says
 // what is wrong.

@@ -1,7 +1,7 @@
 #include "json_visitor.h"
 
+#include <charconv>
 #include <span>
-#include <string>
 
 #include "hex.h"
 #include "utf8.h"
@@ -10,76 +10,129 @@ namespace {
 
 using kelvra::OctetNotation;
 
-std::string Digits(std::span<const uint8_t> codes) {
+void AppendNumber(std::string& text, int64_t value) {
+  char digits[24];
+  text.append(digits, std::to_chars(std::begin(digits), std::end(digits), value).ptr);
+}
+
+void AppendDigits(std::string& text, std::span<const uint8_t> codes) {
   static const char digits[] = "#*,0123456789???";
-  std::string text;
   for (const uint8_t code : codes) text += digits[code & 15];
-  return text;
-}
-
-std::string BitsToHex(const uint8_t* octets, uint32_t bits) {
-  return ToHex({octets, bits / 8 + (bits % 8 != 0 ? 1U : 0U)});
-}
-
-Json OctetsToJson(const uint8_t* octets, uint32_t count, OctetNotation notation) {
-  switch (notation) {
-    case OctetNotation::kCharacters: return FromLatin1({octets, count});
-    case OctetNotation::kDigits: return Digits({octets, count});
-    case OctetNotation::kBits: return {{"value", BitsToHex(octets, count)}, {"length", count}};
-    case OctetNotation::kFixedBits: return BitsToHex(octets, count);
-    case OctetNotation::kOctets: break;
-  }
-  return ToHex({octets, count});
 }
 
 }  // namespace
 
-JsonVisitor::JsonVisitor(Json& json) : open_{&json} { json = Json::object(); }
-
-void JsonVisitor::Number(const char* name, int64_t value) { At(name) = value; }
-void JsonVisitor::Boolean(const char* name, uint32_t value) { At(name) = value != 0; }
-void JsonVisitor::EnumeratedValue(uint32_t value, const char* identifier) {
-  *open_.back() = identifier != nullptr ? Json(identifier) : Json(value);
+void JsonVisitor::Number(const char* name, int64_t value) {
+  Begin(name);
+  AppendNumber(text_, value);
 }
-void JsonVisitor::Null(const char* name) { At(name) = nullptr; }
+
+void JsonVisitor::Boolean(const char* name, uint32_t value) {
+  Begin(name);
+  text_ += value != 0 ? "true" : "false";
+}
+
+void JsonVisitor::EnumeratedValue(uint32_t value, const char* identifier) {
+  Begin(kelvra::kUnnamed);
+  if (identifier != nullptr) {
+    AppendString(identifier);
+  } else {
+    AppendNumber(text_, value);
+  }
+}
+
+void JsonVisitor::Null(const char* name) {
+  Begin(name);
+  text_ += "null";
+}
+
 void JsonVisitor::UnknownExtension(uint32_t index) { Null(("extension-" + std::to_string(index)).c_str()); }
+
 void JsonVisitor::UnknownRoot(uint32_t index) { Null(("unknown-" + std::to_string(index)).c_str()); }
 
 void JsonVisitor::ObjectIdentifier(const char* name, const kelvra::ObjectIdentifierValue& value) {
-  std::string text;
+  Begin(name);
+  text_ += '"';
   const uint32_t* arcs = value.arcs;
   for (uint32_t i = 0; arcs != nullptr && i < value.count; ++i) {
-    if (i > 0) text += '.';
-    text += std::to_string(arcs[i]);
+    if (i > 0) text_ += '.';
+    AppendNumber(text_, arcs[i]);
   }
-  At(name) = text;
+  text_ += '"';
 }
 
 void JsonVisitor::Characters16(const char* name, const kelvra::BMPStringValue& value) {
   const uint16_t* units = value.data;
-  At(name) = FromUtf16({units, units != nullptr ? value.length : 0});
+  Begin(name);
+  AppendString(FromUtf16({units, units != nullptr ? value.length : 0}));
 }
 
 void JsonVisitor::Embedded(const char* name, const uint8_t* octets, uint32_t count, OctetNotation notation) {
-  At(name) = OctetsToJson(octets, octets != nullptr ? count : 0, notation);
+  Begin(name);
+  if (octets == nullptr) count = 0;
+  switch (notation) {
+    case OctetNotation::kCharacters: AppendString(FromLatin1({octets, count})); return;
+    case OctetNotation::kDigits:
+      text_ += '"';
+      AppendDigits(text_, {octets, count});
+      text_ += '"';
+      return;
+    case OctetNotation::kBits:
+      text_ += "{\"value\":";
+      AppendHex(octets, count / 8 + (count % 8 != 0 ? 1U : 0U));
+      text_ += ",\"length\":";
+      AppendNumber(text_, count);
+      text_ += '}';
+      return;
+    case OctetNotation::kFixedBits: AppendHex(octets, count / 8 + (count % 8 != 0 ? 1U : 0U)); return;
+    case OctetNotation::kOctets: AppendHex(octets, count); return;
+  }
 }
 
-Json& JsonVisitor::At(const char* name) {
-  Json& open = *open_.back();
-  if (name == kElement) return open.emplace_back();
-  return *name == '\0' ? open : open[name];
+void JsonVisitor::Begin(const char* name) {
+  Level& level = levels_.back();
+  if (name != kElement && *name == '\0') {
+    text_.resize(level.start);
+    level.isReplaced = true;
+    return;
+  }
+  if (!level.isEmpty) text_ += ',';
+  level.isEmpty = false;
+  if (name == kElement) return;
+  text_ += '"';
+  text_ += name;
+  text_ += "\":";
+}
+
+void JsonVisitor::Open(char bracket) {
+  levels_.push_back({text_.size(), true, false});
+  text_ += bracket;
 }
 
 void JsonVisitor::OpenObject(const char* name) {
-  Json& object = At(name);
-  object = Json::object();
-  open_.push_back(&object);
+  Begin(name);
+  Open('{');
 }
 
 void JsonVisitor::OpenArray(const char* name) {
-  Json& array = At(name);
-  array = Json::array();
-  open_.push_back(&array);
+  Begin(name);
+  Open('[');
 }
 
-void JsonVisitor::Close() { open_.pop_back(); }
+void JsonVisitor::Close() {
+  const Level& level = levels_.back();
+  if (!level.isReplaced) text_ += text_[level.start] == '{' ? '}' : ']';
+  levels_.pop_back();
+}
+
+void JsonVisitor::AppendHex(const uint8_t* octets, uint32_t count) {
+  text_ += '"';
+  ::AppendHex(text_, {octets, count});
+  text_ += '"';
+}
+
+void JsonVisitor::AppendString(std::string_view utf8) {
+  text_ += '"';
+  AppendEscaped(text_, utf8);
+  text_ += '"';
+}

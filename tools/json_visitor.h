@@ -1,18 +1,19 @@
-// Records as JSON, by the rules of ITU-T X.697: SEQUENCE and CHOICE are objects. The walk is a template
-// over every record; all that it does to JSON is in functions, so that it stays small.
+// Records as the text of JSON, by the rules of ITU-T X.697: SEQUENCE and CHOICE are objects. The walk is a
+// template over every record; all that it does to the text is in functions, so that it stays small.
 #pragma once
 
 #include <cstdint>
+#include <string>
+#include <string_view>
 #include <vector>
 
-#include "json.h"
 #include "record/values.h"
 #include "record/walk.h"
 
 class JsonVisitor {
  public:
-  // Writes the members of one record into `json`.
-  explicit JsonVisitor(Json& json);
+  // Appends the object of one record to `text`; it is whole once Close has been called.
+  explicit JsonVisitor(std::string& text) : text_(text) { Open('{'); }
 
   void Number(const char* name, int64_t value);
   void Boolean(const char* name, uint32_t value);
@@ -73,15 +74,27 @@ class JsonVisitor {
     Close();
   }
 
+  void Close();
+
  private:
   // The name of what stands in an array.
   static constexpr const char* kElement = nullptr;
 
-  // The place of a value in the object or array that is open. An empty name is that of the object itself.
-  Json& At(const char* name);
+  // An object or array that is open.
+  struct Level {
+    size_t start;  // where its first character stands
+    bool isEmpty;
+    bool isReplaced;  // by a value that is all there is of the record
+  };
+
+  // Leads up to a value: the comma and the name.
+  void Begin(const char* name);
+  void Open(char bracket);
   void OpenObject(const char* name);
   void OpenArray(const char* name);
-  void Close();
+  void AppendHex(const uint8_t* octets, uint32_t count);
+  void AppendString(std::string_view utf8);
 
-  std::vector<Json*> open_;  // innermost last
+  std::string& text_;
+  std::vector<Level> levels_;  // innermost last
 };

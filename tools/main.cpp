@@ -26,17 +26,18 @@ std::unique_ptr<Formatter> MakeFormatter(Format format) {
 
 class Printer : public MessageSink {
  public:
-  explicit Printer(Format format) : formatter_(MakeFormatter(format)) {}
+  explicit Printer(Format format)
+      : formatter_(MakeFormatter(format)), form_(format == Format::kJson ? Form::kText : Form::kTree) {}
 
   std::vector<Endpoint> OnMessage(const Message& message) override {
-    const Decoded decoded = Decode(message.family, message.octets);
+    const Decoded decoded = Decode(message.family, message.octets, form_);
     all_decoded_ = all_decoded_ && decoded.ok;
     const std::string text = formatter_->Print(message, decoded);
     const size_t written = std::fwrite(text.data(), 1, text.size(), stdout);
     if (written < text.size() || (flush_ && std::fflush(stdout) != 0)) {
       throw std::runtime_error("the output cannot be written");
     }
-    return message.family == Family::kQ931 ? AnnouncedH245(decoded.message) : std::vector<Endpoint>();
+    return AnnouncedH245(message, decoded);
   }
 
   void OnLoss(const std::string& what) override {
@@ -47,12 +48,17 @@ class Printer : public MessageSink {
   bool AllDecoded() const { return all_decoded_; }
 
  private:
-  static std::vector<Endpoint> AnnouncedH245(const Json& message) {
-    const auto address = ToEndpoint(Find(Chosen(UserInformationBody(message)), {"h245Address"}));
+  // Only a capture has connections to be found, and few of its messages announce one.
+  static std::vector<Endpoint> AnnouncedH245(const Message& message, const Decoded& decoded) {
+    if (message.family != Family::kQ931 || !message.origin) return {};
+    if (decoded.json.find("\"h245Address\":") == std::string::npos) return {};
+    const Json tree = Json::parse(decoded.json);
+    const auto address = ToEndpoint(Find(Chosen(UserInformationBody(tree)), {"h245Address"}));
     return address ? std::vector{*address} : std::vector<Endpoint>();
   }
 
   std::unique_ptr<Formatter> formatter_;
+  Form form_;
   bool flush_ = OutputIsTerminal();
   bool all_decoded_ = true;
 };

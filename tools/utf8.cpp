@@ -85,6 +85,22 @@ std::string FromUtf16(std::span<const uint16_t> units) {
   return text;
 }
 
+void AppendEscaped(std::string& json, std::string_view text) {
+  static constexpr std::string_view kShort = "\"\\\b\f\n\r\t";
+  static constexpr std::string_view kLetters = "\"\\bfnrt";
+  for (const char character : text) {
+    const auto octet = static_cast<unsigned char>(character);
+    if (octet >= 0x20 && character != '"' && character != '\\') {
+      json += character;
+    } else if (const size_t at = kShort.find(character); at != std::string_view::npos) {
+      json += '\\';
+      json += kLetters[at];
+    } else {
+      AppendEscape(json, octet);
+    }
+  }
+}
+
 std::string Printable(std::string_view text) {
   std::string printable;
   printable.reserve(text.size());
