@@ -6,7 +6,10 @@
 Records have their members in the order of the ASN.1, which is that of the encoding. So a decoder of a SEQUENCE
 must read the presence bits of all its optional members in the order of the record, and then the members
 likewise. No message need tell two presence bits apart for a swap of them to be seen here.
+
+Flags that follow one another are read at once, as many as there are lines that take one.
 """
+import itertools
 import pathlib
 import re
 import sys
@@ -16,8 +19,12 @@ SOURCES = sorted((TOP / "src").glob("h2*/**/*.cpp"))
 TABLE = TOP / "docs" / "records.md"
 FUNCTION = re.compile(r"^(?:Status|void) Decode\w*\(([\w:]+)& m, PerReader& r[^)]*\) \{\n(.*?)^\}", re.M | re.S)
 # What tells the decoder of a whole SEQUENCE from one of a part of it.
-WHOLE = re.compile(r"\bm\.isExtended = PerReadBit\(")
-PRESENCE = re.compile(r"\bm\.((?:has\w+|\w+Present)) = Per(?:ReadBit|ReadAdditionBit)\(")
+WHOLE = re.compile(r"\bm\.isExtended = (?:PerReadBit\(|flags\.Next\()")
+PRESENCE = re.compile(r"\bm\.((?:has\w+|\w+Present)) = (?:PerReadBit\(|PerReadAdditionBit\(|\w+\.Next\()")
+# A run of flags and the lines that take them, or a flag alone.
+RUN = re.compile(r"\b(\w+) = PerRead(?:Flags|KnownAdditions)\(.*?(\d+)\);$")
+TAKEN = re.compile(r"^ +(\w+)\.\w[\w.]* = (\w+)\.Next\(\);$")
+ALONE = re.compile(r"^ +\w+\.\w[\w.]* = PerRead(?:Bit|AdditionBit)\(")
 CONDITION = re.compile(r"^\s*if \(m\.[\w.]+\) ?")
 BOOKKEEPING = {"isExtended", "isExtension", "choiceTag", "userDataExtension"}
 
@@ -52,6 +59,17 @@ def decoded(body):
     return order
 
 
+def miscounted(lines):
+    """The lines that read flags otherwise than all that follow one another at once."""
+    for at, line in enumerate(lines):
+        if run := RUN.search(line):
+            takers = itertools.takewhile(lambda taker: taker and taker[2] == run[1], map(TAKEN.match, lines[at + 1:]))
+            if sum(1 for _ in takers) != int(run[2]):
+                yield at, line
+        elif ALONE.match(line) and ALONE.match(lines[at + 1]) or TAKEN.match(line) and ALONE.match(lines[at + 1]):
+            yield at + 1, lines[at + 1]
+
+
 def in_order(names, members):
     places = [members.index(name) for name in names]
     return places == sorted(places)
@@ -59,6 +77,8 @@ def in_order(names, members):
 
 def complaints(path, table):
     text = path.read_text()
+    for at, line in miscounted(text.splitlines()):
+        yield f"line {at + 1}: flags miscounted: {line.strip()}"
     family = re.search(r"namespace kelvra::(\w+)", text)[1]
     for record, body in FUNCTION.findall(text):
         members = table.get(f"{family}::{record}") or table.get(record)

@@ -6,9 +6,10 @@ namespace {
 
 Status DecodeECpoint(ECpoint& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasX = PerReadBit(r);
-  m.hasY = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 3);
+  m.isExtended = flags.Next();
+  m.hasX = flags.Next();
+  m.hasY = flags.Next();
   if (m.hasX) PerReadSizedBitString(m.x, r, 0, 511);
   if (m.hasY) PerReadSizedBitString(m.y, r, 0, 511);
   if (m.isExtended) PerSkipExtensionAdditions(r);
@@ -84,9 +85,10 @@ Status DecodeTypedCertificate(TypedCertificate& m, PerReader& r) {
 
 Status DecodeParams(Params& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasRanInt = PerReadBit(r);
-  m.hasIv8 = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 3);
+  m.isExtended = flags.Next();
+  m.hasRanInt = flags.Next();
+  m.hasIv8 = flags.Next();
   if (m.hasRanInt) m.ranInt = PerReadInteger(r);
   if (m.hasIv8) PerReadOctets(m.iv8, r, 8);
   if (!m.isExtended) return kDecoded;
@@ -125,15 +127,16 @@ Status DecodeAuthenticationMechanism(AuthenticationMechanism& m, PerReader& r) {
 
 Status DecodeClearToken(ClearToken& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasTimeStamp = PerReadBit(r);
-  m.hasPassword = PerReadBit(r);
-  m.hasDhkey = PerReadBit(r);
-  m.hasChallenge = PerReadBit(r);
-  m.hasRandom = PerReadBit(r);
-  m.hasCertificate = PerReadBit(r);
-  m.hasGeneralID = PerReadBit(r);
-  m.hasNonStandard = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 9);
+  m.isExtended = flags.Next();
+  m.hasTimeStamp = flags.Next();
+  m.hasPassword = flags.Next();
+  m.hasDhkey = flags.Next();
+  m.hasChallenge = flags.Next();
+  m.hasRandom = flags.Next();
+  m.hasCertificate = flags.Next();
+  m.hasGeneralID = flags.Next();
+  m.hasNonStandard = flags.Next();
   PerReadObjectIdentifier(m.tokenOID, r);
   if (m.hasTimeStamp) m.timeStamp = PerReadNumber<uint32_t>(r, 1, kUnsigned32Maximum);
   if (m.hasPassword) PerReadSizedBMPString(m.password, r, 1, 128);
@@ -146,8 +149,9 @@ Status DecodeClearToken(ClearToken& m, PerReader& r) {
   if (!m.isExtended) return kDecoded;
 
   int32_t additions = PerReadBitmapLength(r);
-  m.hasEckasdhkey = PerReadAdditionBit(r, additions);
-  m.hasSendersID = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 2);
+  m.hasEckasdhkey = known.Next();
+  m.hasSendersID = known.Next();
   PerNoteUnknownAdditions(r, additions);
   if (m.hasEckasdhkey) KELVRA_TRY(DecodeOpen(m.eckasdhkey, r, DecodeECKASDH));
   if (m.hasSendersID) DecodeOpen(m.sendersID, r, PerReadSizedBMPStringElement<1, 128>);

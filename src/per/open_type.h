@@ -43,16 +43,26 @@ inline uint32_t PerReadOpenBoolean(PerReader& reader) {
 // The additions of a SEQUENCE, of which a decoder knows the first few:
 //
 //   int32_t additions = PerReadBitmapLength(r);
-//   m.hasLanguage = PerReadAdditionBit(r, additions);     a line for each known addition, in order
+//   PerFlags known = PerReadKnownAdditions(r, additions, 2);
+//   m.hasLanguage = known.Next();                  a line for each known addition, in order
+//   m.hasNonStandard = known.Next();
 //   PerNoteUnknownAdditions(r, additions);
-//   if (m.hasLanguage) ...                                likewise, each in its open type
+//   if (m.hasLanguage) ...                         likewise, each in its open type
 //   PerSkipUnknownAdditions(r);
 
 // How many presence bits the bitmap holds, 1 or more in a lawful message.
 inline int32_t PerReadBitmapLength(PerReader& reader) { return static_cast<int32_t>(PerReadNormallySmall(reader) + 1); }
 
-// The presence bit of the next known addition, absent where the bitmap holds no more. `additions` counts
-// down the bits that are left: what is left behind the known ones is by construction unknown.
+// The presence bits of the next `known` additions, 1 to 32, absent where the bitmap holds no more. `additions`
+// counts down the bits that are left: what is left behind the known ones is by construction unknown.
+[[gnu::always_inline]] inline PerFlags PerReadKnownAdditions(PerReader& reader, int32_t& additions, int32_t known) {
+  const int32_t count = additions < known ? additions : known;
+  if (count <= 0) return PerFlags(0);
+  additions -= count;
+  return PerReadFlags(reader, static_cast<uint32_t>(count), static_cast<uint32_t>(known));
+}
+
+// The same of one.
 inline uint32_t PerReadAdditionBit(PerReader& reader, int32_t& additions) {
   if (additions <= 0) return 0;
   --additions;

@@ -40,12 +40,18 @@ uint32_t PerReadConstrainedWholeNumberAtEdge(PerReader& reader, uint32_t range);
 uint32_t PerReadLengthAtEdge(PerReader& reader);
 uint32_t PerReadNormallySmallAtEdge(PerReader& reader);
 
+// The bits of a constrained whole number of `range` values, fewer than 256.
+constexpr uint32_t PerBitsOfRange(uint32_t range) {
+  return range < 2 ? 0 : 32 - static_cast<uint32_t>(__builtin_clz(range - 1));
+}
+
 // Constrained whole number of `range` values (10.5), less its lower bound.
 [[gnu::always_inline]] inline uint32_t PerReadConstrainedWholeNumber(PerReader& reader, uint32_t range) {
   if (range < 2) return 0;
-  if (range < 256) return PerReadBits(reader, 32 - static_cast<uint32_t>(__builtin_clz(range - 1)));
+  if (range < 256) return PerReadBits(reader, PerBitsOfRange(range));
+  const BitOffset offset = reader.bitOffset;
   if (range <= 65536 && PerHasOctets(reader, 3)) [[likely]] {
-    const uint8_t* octets = PerBoundary(reader);
+    const uint8_t* octets = PerBoundary(reader, offset);
     PerMoveTo(reader, octets + (range == 256 ? 1 : 2));
     return range == 256 ? octets[0] : PerLoad16(octets);
   }
@@ -54,8 +60,9 @@ uint32_t PerReadNormallySmallAtEdge(PerReader& reader);
 
 // Unconstrained length determinant (10.9), 0 to 16383. Fragments (10.9.3.8) are refused.
 [[gnu::always_inline]] inline uint32_t PerReadLength(PerReader& reader) {
+  const BitOffset offset = reader.bitOffset;
   if (PerHasOctets(reader, 3)) [[likely]] {
-    const uint8_t* octets = PerBoundary(reader);
+    const uint8_t* octets = PerBoundary(reader, offset);
     if (octets[0] < 0x80) [[likely]] {
       PerMoveTo(reader, octets + 1);
       return octets[0];
@@ -70,9 +77,9 @@ uint32_t PerReadNormallySmallAtEdge(PerReader& reader);
 
 // Normally small non-negative whole number (10.6).
 inline uint32_t PerReadNormallySmall(PerReader& reader) {
-  if (PerHasOctets(reader, 2) && (reader.position[0] << reader.bitOffset & 0x80) == 0) [[likely]] {
-    return PerTakeBits(reader, 7, 2);
-  }
+  const BitOffset offset = reader.bitOffset;
+  if (PerHasOctets(reader, 2) && !PerPeekBit(reader, offset)) [[likely]]
+    return PerTakeBits(reader, offset, 7, 2);
   return PerReadNormallySmallAtEdge(reader);
 }
 

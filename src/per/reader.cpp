@@ -95,6 +95,12 @@ uint32_t PerReadBitsAtEdge(PerReader& reader, uint32_t count) {
   return value & (UINT32_MAX >> (32 - count));
 }
 
+PerFlags PerReadFlagsAtEdge(PerReader& reader, uint32_t count) {
+  uint32_t bits = 0;
+  for (uint32_t i = 0; i < count; ++i) bits |= PerReadBit(reader) << (31 - i);
+  return PerFlags(bits);
+}
+
 void PerSkipBits(PerReader& reader, uint32_t count) {
   if (PerAtEnd(reader)) {
     TraceRefusal(kSkipAtEnd);

@@ -125,11 +125,11 @@ inline uint32_t PerLoad32(const uint8_t* octets) { return PerLoad16(octets) << 1
   return count <= 9 ? 2 : count <= 25 ? 4 : 5;
 }
 
-// The next 1 to 32 bits, for which `taken` octets can be read: what PerOctetsTaken said when that was asked.
-// It may answer otherwise the next time, as far as the compiler knows the count.
-[[gnu::always_inline]] inline uint32_t PerTakeBits(PerReader& reader, uint32_t count, int32_t taken) {
+// The next 1 to 32 bits from `offset` on, the reader's own, for which `taken` octets can be read: what
+// PerOctetsTaken said when that was asked. It may answer otherwise the next time, as far as the compiler
+// knows the count.
+[[gnu::always_inline]] inline uint32_t PerTakeBits(PerReader& reader, BitOffset offset, uint32_t count, int32_t taken) {
   const uint8_t* octets = reader.position;
-  const BitOffset offset = reader.bitOffset;
   uint32_t bits = taken == 2 ? PerLoad16(octets) << 16 : PerLoad32(octets);
   bits <<= offset;
   if (taken == 5) bits |= uint32_t{octets[4]} >> (8 - offset);
@@ -138,8 +138,16 @@ inline uint32_t PerLoad32(const uint8_t* octets) { return PerLoad16(octets) << 1
   return bits >> (32 - count);
 }
 
-// The next octet boundary, itself where the position is on one.
-inline const uint8_t* PerBoundary(const PerReader& reader) { return reader.position + (reader.bitOffset + 7) / 8; }
+// The next octet boundary behind the position and `offset`, the reader's own; the position itself where it is one.
+inline const uint8_t* PerBoundary(const PerReader& reader, BitOffset offset) {
+  return reader.position + (offset + 7) / 8;
+}
+inline const uint8_t* PerBoundary(const PerReader& reader) { return PerBoundary(reader, reader.bitOffset); }
+
+// The next bit, at `offset`, the reader's own.
+inline bool PerPeekBit(const PerReader& reader, BitOffset offset) {
+  return (uint32_t{*reader.position} << offset & 0x80) != 0;
+}
 
 inline void PerMoveTo(PerReader& reader, const uint8_t* octet) {
   reader.position = octet;
@@ -147,23 +155,61 @@ inline void PerMoveTo(PerReader& reader, const uint8_t* octet) {
 }
 
 // --- Reading ---
+//
+// The offset is loaded before it is looked whether the octets are there: then the compiler keeps it in a register
+// from one read to the next, where each would wait for what the one before it stored.
 
 // The next `count` bits (0 to 32), or 0 and the reader at its end when there are not as many.
 [[gnu::always_inline]] inline uint32_t PerReadBits(PerReader& reader, uint32_t count) {
   const int32_t taken = PerOctetsTaken(count);
+  const BitOffset offset = reader.bitOffset;
   if (count - 1 < 32 && PerHasOctets(reader, taken)) [[likely]]
-    return PerTakeBits(reader, count, taken);
+    return PerTakeBits(reader, offset, count, taken);
   return PerReadBitsAtEdge(reader, count);
 }
 
 [[gnu::always_inline]] inline uint32_t PerReadBit(PerReader& reader) {
-  if (reader.position >= reader.octetLimit) [[unlikely]]
-    return PerReadBitsAtEdge(reader, 1);
   const uint8_t* octet = reader.position;
   const BitOffset offset = reader.bitOffset;
+  if (octet >= reader.octetLimit) [[unlikely]]
+    return PerReadBitsAtEdge(reader, 1);
   reader.position = octet + (offset + 1) / 8;
   reader.bitOffset = (offset + 1) % 8;
   return uint32_t{*octet} << offset >> 7 & 1;
+}
+
+// Flags that follow one another in the encoding (an extension bit, presence bits, BOOLEANs), read at once and
+// handed out in their order.
+class PerFlags {
+ public:
+  // The first flag is the uppermost bit.
+  explicit PerFlags(uint32_t bits) : bits_(bits) {}
+
+  uint32_t Next() {
+    const uint32_t flag = bits_ >> 31;
+    bits_ <<= 1;
+    return flag;
+  }
+
+ private:
+  uint32_t bits_;
+};
+
+// PerReadFlags wherever the reader stands.
+[[gnu::noinline]] PerFlags PerReadFlagsAtEdge(PerReader& reader, uint32_t count);
+
+// The next `count` flags, 1 to 32 and at most `most`. Those that the message does not reach are 0, as if read
+// one by one.
+[[gnu::always_inline]] inline PerFlags PerReadFlags(PerReader& reader, uint32_t count, uint32_t most) {
+  const int32_t taken = PerOctetsTaken(most);
+  const BitOffset offset = reader.bitOffset;
+  if (PerHasOctets(reader, taken)) [[likely]]
+    return PerFlags(PerTakeBits(reader, offset, count, taken) << (32 - count));
+  return PerReadFlagsAtEdge(reader, count);
+}
+
+[[gnu::always_inline]] inline PerFlags PerReadFlags(PerReader& reader, uint32_t count) {
+  return PerReadFlags(reader, count, count);
 }
 
 // Bounds the reader to the next `length` octets while it lives. Afterwards the reader stands behind them,
@@ -183,7 +229,7 @@ class PerBounds {
 
 // Advances to the next octet boundary.
 inline void PerAlign(PerReader& reader) {
-  if (!PerAtEnd(reader) && reader.bitOffset != 0) PerMoveTo(reader, reader.position + 1);
+  if (!PerAtEnd(reader)) PerMoveTo(reader, PerBoundary(reader));
 }
 
 }  // namespace kelvra

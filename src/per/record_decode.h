@@ -158,9 +158,16 @@ template <class Choice>
   return index;
 }
 
-// The header of an extensible CHOICE: extension bit and index.
+// The header of an extensible CHOICE: extension bit and index, those of a root alternative at once.
 template <class Choice>
 [[gnu::always_inline]] inline uint32_t ReadChoice(Choice& m, PerReader& r, uint32_t roots) {
+  const BitOffset offset = r.bitOffset;
+  if (PerHasOctets(r, 2) && !PerPeekBit(r, offset)) [[likely]] {
+    const uint32_t index = PerTakeBits(r, offset, 1 + PerBitsOfRange(roots), 2);
+    m.isExtension = 0;
+    m.choiceTag = static_cast<uint8_t>(index);
+    return index;
+  }
   m.isExtension = PerReadBit(r);
   return ReadChoiceIndex(m, r, roots);
 }

@@ -187,6 +187,25 @@ TEST(ExtensionAdditions, ThatTheBitmapDoesNotCoverAreAbsentAndTakeNoBit) {
   EXPECT_EQ(input.Bit(), 2u);
 }
 
+TEST(ExtensionAdditions, ThatAreKnownAreThoseThatAreReadOneByOne) {
+  const Octets octets = {0x9C, 0x3A, 0x5F, 0x17, 0xE2};
+  for (size_t size = 1; size <= octets.size(); ++size) {
+    for (const int32_t length : {INT32_MIN, -1, 0, 1, 2, 8, 9, 25, 32, 40}) {
+      for (int32_t known = 1; known <= 32; ++known) {
+        SCOPED_TRACE(testing::Message() << known << " known of " << length << " in " << size << " octets");
+        Input together({octets.begin(), octets.begin() + static_cast<ptrdiff_t>(size)});
+        Input alone({octets.begin(), octets.begin() + static_cast<ptrdiff_t>(size)});
+        int32_t left = length;
+        int32_t leftAlone = length;
+        PerFlags flags = PerReadKnownAdditions(together.reader, left, known);
+        for (int32_t i = 0; i < known; ++i) ASSERT_EQ(flags.Next(), PerReadAdditionBit(alone.reader, leftAlone)) << i;
+        ASSERT_EQ(left, leftAlone);
+        ASSERT_EQ(together.Bit(), alone.Bit());
+      }
+    }
+  }
+}
+
 // Bitmaps of many words, from every place inside an octet, against a count of their bits one by one.
 TEST(ExtensionAdditions, AreCountedAcrossWordsFromAnyOffset) {
   Octets octets(24);

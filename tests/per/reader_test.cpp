@@ -119,6 +119,26 @@ TEST(PerReadBit, ReadsBitByBit) {
   EXPECT_EQ(PerReadBit(input.reader), 0u);
 }
 
+// Every count, from every offset, in messages that hold all of the flags, some or none.
+TEST(PerReadFlags, AreThoseThatAreReadOneByOne) {
+  const std::vector<uint8_t> octets = {0x9C, 0x3A, 0x5F, 0x17, 0xE2, 0xB4};
+  for (size_t size = 1; size <= octets.size(); ++size) {
+    for (uint32_t offset = 0; offset < 8; ++offset) {
+      for (uint32_t count = 1; count <= 32; ++count) {
+        SCOPED_TRACE(testing::Message() << count << " flags from " << offset << " in " << size << " octets");
+        Input together({octets.begin(), octets.begin() + static_cast<ptrdiff_t>(size)});
+        Input alone({octets.begin(), octets.begin() + static_cast<ptrdiff_t>(size)});
+        PerSkipBits(together.reader, offset);
+        PerSkipBits(alone.reader, offset);
+        PerFlags flags = PerReadFlags(together.reader, count);
+        for (uint32_t i = 0; i < count; ++i) ASSERT_EQ(flags.Next(), PerReadBit(alone.reader)) << i;
+        ASSERT_EQ(flags.Next(), 0u);
+        ASSERT_EQ(together.Bit(), alone.Bit());
+      }
+    }
+  }
+}
+
 TEST(PerReader, OverNothingIsExhausted) {
   Input input({});
   EXPECT_TRUE(PerAtEnd(input.reader));

@@ -15,23 +15,25 @@ namespace kelvra::h225 {
 
 Status DecodeCallProceedingUUIE(CallProceedingUUIE& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasH245Address = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasH245Address = flags.Next();
   ReadProtocolIdentifier(m.protocolIdentifier, r);
   KELVRA_TRY(DecodeEndpointType(m.destinationInfo, r));
   if (m.hasH245Address) KELVRA_TRY(DecodeTransportAddress(m.h245Address, r));
   if (!m.isExtended) return kDecoded;
 
   int32_t additions = PerReadBitmapLength(r);
-  m.hasCallIdentifier = PerReadAdditionBit(r, additions);
-  m.hasH245SecurityMode = PerReadAdditionBit(r, additions);
-  m.hasTokens = PerReadAdditionBit(r, additions);
-  m.hasCryptoTokens = PerReadAdditionBit(r, additions);
-  m.hasFastStart = PerReadAdditionBit(r, additions);
-  m.hasMultipleCalls = PerReadAdditionBit(r, additions);
-  m.hasMaintainConnection = PerReadAdditionBit(r, additions);
-  m.hasFastConnectRefused = PerReadAdditionBit(r, additions);
-  m.hasFeatureSet = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 9);
+  m.hasCallIdentifier = known.Next();
+  m.hasH245SecurityMode = known.Next();
+  m.hasTokens = known.Next();
+  m.hasCryptoTokens = known.Next();
+  m.hasFastStart = known.Next();
+  m.hasMultipleCalls = known.Next();
+  m.hasMaintainConnection = known.Next();
+  m.hasFastConnectRefused = known.Next();
+  m.hasFeatureSet = known.Next();
   PerNoteUnknownAdditions(r, additions);
   if (m.hasCallIdentifier) KELVRA_TRY(DecodeOpen(m.callIdentifier, r, DecodeCallIdentifier));
   if (m.hasH245SecurityMode) KELVRA_TRY(DecodeOpen(m.h245SecurityMode, r, DecodeH245Security));
@@ -48,12 +50,13 @@ Status DecodeCallProceedingUUIE(CallProceedingUUIE& m, PerReader& r) {
 
 Status DecodeProgressUUIE(ProgressUUIE& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasH245Address = PerReadBit(r);
-  m.hasH245SecurityMode = PerReadBit(r);
-  m.hasTokens = PerReadBit(r);
-  m.hasCryptoTokens = PerReadBit(r);
-  m.hasFastStart = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 6);
+  m.isExtended = flags.Next();
+  m.hasH245Address = flags.Next();
+  m.hasH245SecurityMode = flags.Next();
+  m.hasTokens = flags.Next();
+  m.hasCryptoTokens = flags.Next();
+  m.hasFastStart = flags.Next();
   ReadProtocolIdentifier(m.protocolIdentifier, r);
   KELVRA_TRY(DecodeEndpointType(m.destinationInfo, r));
   if (m.hasH245Address) KELVRA_TRY(DecodeTransportAddress(m.h245Address, r));
@@ -65,9 +68,10 @@ Status DecodeProgressUUIE(ProgressUUIE& m, PerReader& r) {
   if (!m.isExtended) return kDecoded;
 
   int32_t additions = PerReadBitmapLength(r);
-  m.hasMultipleCalls = PerReadAdditionBit(r, additions);
-  m.hasMaintainConnection = PerReadAdditionBit(r, additions);
-  m.hasFastConnectRefused = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 3);
+  m.hasMultipleCalls = known.Next();
+  m.hasMaintainConnection = known.Next();
+  m.hasFastConnectRefused = known.Next();
   PerNoteUnknownAdditions(r, additions);
   if (m.hasMultipleCalls) m.multipleCalls = PerReadOpenBoolean(r);
   if (m.hasMaintainConnection) m.maintainConnection = PerReadOpenBoolean(r);
@@ -78,28 +82,30 @@ Status DecodeProgressUUIE(ProgressUUIE& m, PerReader& r) {
 
 Status DecodeAlertingUUIE(AlertingUUIE& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasH245Address = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasH245Address = flags.Next();
   ReadProtocolIdentifier(m.protocolIdentifier, r);
   KELVRA_TRY(DecodeEndpointType(m.destinationInfo, r));
   if (m.hasH245Address) KELVRA_TRY(DecodeTransportAddress(m.h245Address, r));
   if (!m.isExtended) return kDecoded;
 
   int32_t additions = PerReadBitmapLength(r);
-  m.hasCallIdentifier = PerReadAdditionBit(r, additions);
-  m.hasH245SecurityMode = PerReadAdditionBit(r, additions);
-  m.hasTokens = PerReadAdditionBit(r, additions);
-  m.hasCryptoTokens = PerReadAdditionBit(r, additions);
-  m.hasFastStart = PerReadAdditionBit(r, additions);
-  m.hasMultipleCalls = PerReadAdditionBit(r, additions);
-  m.hasMaintainConnection = PerReadAdditionBit(r, additions);
-  m.hasAlertingAddress = PerReadAdditionBit(r, additions);
-  m.hasPresentationIndicator = PerReadAdditionBit(r, additions);
-  m.hasScreeningIndicator = PerReadAdditionBit(r, additions);
-  m.hasFastConnectRefused = PerReadAdditionBit(r, additions);
-  m.hasServiceControl = PerReadAdditionBit(r, additions);
-  m.hasCapacity = PerReadAdditionBit(r, additions);
-  m.hasFeatureSet = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 14);
+  m.hasCallIdentifier = known.Next();
+  m.hasH245SecurityMode = known.Next();
+  m.hasTokens = known.Next();
+  m.hasCryptoTokens = known.Next();
+  m.hasFastStart = known.Next();
+  m.hasMultipleCalls = known.Next();
+  m.hasMaintainConnection = known.Next();
+  m.hasAlertingAddress = known.Next();
+  m.hasPresentationIndicator = known.Next();
+  m.hasScreeningIndicator = known.Next();
+  m.hasFastConnectRefused = known.Next();
+  m.hasServiceControl = known.Next();
+  m.hasCapacity = known.Next();
+  m.hasFeatureSet = known.Next();
   PerNoteUnknownAdditions(r, additions);
   if (m.hasCallIdentifier) KELVRA_TRY(DecodeOpen(m.callIdentifier, r, DecodeCallIdentifier));
   if (m.hasH245SecurityMode) KELVRA_TRY(DecodeOpen(m.h245SecurityMode, r, DecodeH245Security));
@@ -122,8 +128,9 @@ Status DecodeAlertingUUIE(AlertingUUIE& m, PerReader& r) {
 
 Status DecodeConnectUUIE(ConnectUUIE& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasH245Address = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasH245Address = flags.Next();
   ReadProtocolIdentifier(m.protocolIdentifier, r);
   if (m.hasH245Address) KELVRA_TRY(DecodeTransportAddress(m.h245Address, r));
   KELVRA_TRY(DecodeEndpointType(m.destinationInfo, r));
@@ -131,21 +138,22 @@ Status DecodeConnectUUIE(ConnectUUIE& m, PerReader& r) {
   if (!m.isExtended) return kDecoded;
 
   int32_t additions = PerReadBitmapLength(r);
-  m.hasCallIdentifier = PerReadAdditionBit(r, additions);
-  m.hasH245SecurityMode = PerReadAdditionBit(r, additions);
-  m.hasTokens = PerReadAdditionBit(r, additions);
-  m.hasCryptoTokens = PerReadAdditionBit(r, additions);
-  m.hasFastStart = PerReadAdditionBit(r, additions);
-  m.hasMultipleCalls = PerReadAdditionBit(r, additions);
-  m.hasMaintainConnection = PerReadAdditionBit(r, additions);
-  m.hasLanguage = PerReadAdditionBit(r, additions);
-  m.hasConnectedAddress = PerReadAdditionBit(r, additions);
-  m.hasPresentationIndicator = PerReadAdditionBit(r, additions);
-  m.hasScreeningIndicator = PerReadAdditionBit(r, additions);
-  m.hasFastConnectRefused = PerReadAdditionBit(r, additions);
-  m.hasServiceControl = PerReadAdditionBit(r, additions);
-  m.hasCapacity = PerReadAdditionBit(r, additions);
-  m.hasFeatureSet = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 15);
+  m.hasCallIdentifier = known.Next();
+  m.hasH245SecurityMode = known.Next();
+  m.hasTokens = known.Next();
+  m.hasCryptoTokens = known.Next();
+  m.hasFastStart = known.Next();
+  m.hasMultipleCalls = known.Next();
+  m.hasMaintainConnection = known.Next();
+  m.hasLanguage = known.Next();
+  m.hasConnectedAddress = known.Next();
+  m.hasPresentationIndicator = known.Next();
+  m.hasScreeningIndicator = known.Next();
+  m.hasFastConnectRefused = known.Next();
+  m.hasServiceControl = known.Next();
+  m.hasCapacity = known.Next();
+  m.hasFeatureSet = known.Next();
   PerNoteUnknownAdditions(r, additions);
   if (m.hasCallIdentifier) KELVRA_TRY(DecodeOpen(m.callIdentifier, r, DecodeCallIdentifier));
   if (m.hasH245SecurityMode) KELVRA_TRY(DecodeOpen(m.h245SecurityMode, r, DecodeH245Security));

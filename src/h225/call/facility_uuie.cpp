@@ -17,10 +17,11 @@ namespace {
 
 Status DecodeConferenceList(ConferenceList& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasConferenceID = PerReadBit(r);
-  m.hasConferenceAlias = PerReadBit(r);
-  m.hasNonStandardData = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 4);
+  m.isExtended = flags.Next();
+  m.hasConferenceID = flags.Next();
+  m.hasConferenceAlias = flags.Next();
+  m.hasNonStandardData = flags.Next();
   if (m.hasConferenceID) KELVRA_TRY(DecodeGloballyUniqueID(m.conferenceID, r));
   if (m.hasConferenceAlias) KELVRA_TRY(DecodeAliasAddress(m.conferenceAlias, r));
   if (m.hasNonStandardData) KELVRA_TRY(DecodeNonStandardParameter(m.nonStandardData, r));
@@ -32,10 +33,11 @@ Status DecodeConferenceList(ConferenceList& m, PerReader& r) {
 
 Status DecodeFacilityUUIE(FacilityUUIE& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasAlternativeAddress = PerReadBit(r);
-  m.hasAlternativeAliasAddress = PerReadBit(r);
-  m.hasConferenceID = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 4);
+  m.isExtended = flags.Next();
+  m.hasAlternativeAddress = flags.Next();
+  m.hasAlternativeAliasAddress = flags.Next();
+  m.hasConferenceID = flags.Next();
   ReadProtocolIdentifier(m.protocolIdentifier, r);
   if (m.hasAlternativeAddress) KELVRA_TRY(DecodeTransportAddress(m.alternativeAddress, r));
   if (m.hasAlternativeAliasAddress)
@@ -45,22 +47,23 @@ Status DecodeFacilityUUIE(FacilityUUIE& m, PerReader& r) {
   if (!m.isExtended) return kDecoded;
 
   int32_t additions = PerReadBitmapLength(r);
-  m.hasCallIdentifier = PerReadAdditionBit(r, additions);
-  m.hasDestExtraCallInfo = PerReadAdditionBit(r, additions);
-  m.hasRemoteExtensionAddress = PerReadAdditionBit(r, additions);
-  m.hasTokens = PerReadAdditionBit(r, additions);
-  m.hasCryptoTokens = PerReadAdditionBit(r, additions);
-  m.hasConferences = PerReadAdditionBit(r, additions);
-  m.hasH245Address = PerReadAdditionBit(r, additions);
-  m.hasFastStart = PerReadAdditionBit(r, additions);
-  m.hasMultipleCalls = PerReadAdditionBit(r, additions);
-  m.hasMaintainConnection = PerReadAdditionBit(r, additions);
-  m.hasFastConnectRefused = PerReadAdditionBit(r, additions);
-  m.hasServiceControl = PerReadAdditionBit(r, additions);
-  m.hasCircuitInfo = PerReadAdditionBit(r, additions);
-  m.hasFeatureSet = PerReadAdditionBit(r, additions);
-  m.hasDestinationInfo = PerReadAdditionBit(r, additions);
-  m.hasH245SecurityMode = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 16);
+  m.hasCallIdentifier = known.Next();
+  m.hasDestExtraCallInfo = known.Next();
+  m.hasRemoteExtensionAddress = known.Next();
+  m.hasTokens = known.Next();
+  m.hasCryptoTokens = known.Next();
+  m.hasConferences = known.Next();
+  m.hasH245Address = known.Next();
+  m.hasFastStart = known.Next();
+  m.hasMultipleCalls = known.Next();
+  m.hasMaintainConnection = known.Next();
+  m.hasFastConnectRefused = known.Next();
+  m.hasServiceControl = known.Next();
+  m.hasCircuitInfo = known.Next();
+  m.hasFeatureSet = known.Next();
+  m.hasDestinationInfo = known.Next();
+  m.hasH245SecurityMode = known.Next();
   PerNoteUnknownAdditions(r, additions);
   if (m.hasCallIdentifier) KELVRA_TRY(DecodeOpen(m.callIdentifier, r, DecodeCallIdentifier));
   if (m.hasDestExtraCallInfo) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.destExtraCallInfo), r, DecodeAliasAddress));

@@ -38,9 +38,10 @@ Status DecodeH323MessageBody(H323UUPDU::H323MessageBody& m, PerReader& r) {
 }
 
 Status DecodeTunnelledSignallingMessage(H323UUPDU::TunnelledSignallingMessage& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasTunnellingRequired = PerReadBit(r);
-  m.hasNonStandardData = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 3);
+  m.isExtended = flags.Next();
+  m.hasTunnellingRequired = flags.Next();
+  m.hasNonStandardData = flags.Next();
   KELVRA_TRY(DecodeTunnelledProtocol(m.tunnelledProtocolID, r));
   KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.messageContent), r, PerReadOctetStringRecord));
   if (m.hasNonStandardData) KELVRA_TRY(DecodeNonStandardParameter(m.nonStandardData, r));
@@ -57,10 +58,11 @@ void DecodeUserData(H323UserInformation& m, PerReader& r) {
 
 Status DecodeStimulusControl(StimulusControl& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasNonStandard = PerReadBit(r);
-  m.hasIsText = PerReadBit(r);
-  m.hasH248Message = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 4);
+  m.isExtended = flags.Next();
+  m.hasNonStandard = flags.Next();
+  m.hasIsText = flags.Next();
+  m.hasH248Message = flags.Next();
   if (m.hasNonStandard) KELVRA_TRY(DecodeNonStandardParameter(m.nonStandard, r));
   if (m.hasH248Message) PerReadAnnouncedOctetString(m.h248Message, r);
   if (m.isExtended) PerSkipExtensionAdditions(r);
@@ -71,22 +73,24 @@ Status DecodeStimulusControl(StimulusControl& m, PerReader& r) {
 
 Status DecodeH323UUPDU(H323UUPDU& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.nonStandardDataPresent = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.nonStandardDataPresent = flags.Next();
   KELVRA_TRY(DecodeH323MessageBody(m.h323MessageBody, r));
   if (m.nonStandardDataPresent) KELVRA_TRY(DecodeNonStandardParameter(m.nonStandardData, r));
   if (!m.isExtended) return kDecoded;
 
   int32_t additions = PerReadBitmapLength(r);
-  m.h4501SupplementaryServicePresent = PerReadAdditionBit(r, additions);
-  m.h245TunnellingPresent = PerReadAdditionBit(r, additions);
-  m.h245ControlPresent = PerReadAdditionBit(r, additions);
-  m.nonStandardControlPresent = PerReadAdditionBit(r, additions);
-  m.callLinkagePresent = PerReadAdditionBit(r, additions);
-  m.tunnelledSignallingMessagePresent = PerReadAdditionBit(r, additions);
-  m.provisionalRespToH245TunnellingPresent = PerReadAdditionBit(r, additions);
-  m.stimulusControlPresent = PerReadAdditionBit(r, additions);
-  m.genericDataPresent = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 9);
+  m.h4501SupplementaryServicePresent = known.Next();
+  m.h245TunnellingPresent = known.Next();
+  m.h245ControlPresent = known.Next();
+  m.nonStandardControlPresent = known.Next();
+  m.callLinkagePresent = known.Next();
+  m.tunnelledSignallingMessagePresent = known.Next();
+  m.provisionalRespToH245TunnellingPresent = known.Next();
+  m.stimulusControlPresent = known.Next();
+  m.genericDataPresent = known.Next();
   PerNoteUnknownAdditions(r, additions);
   if (m.h4501SupplementaryServicePresent)
     KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.h4501SupplementaryService), r, PerReadOctetStringRecord));
@@ -106,8 +110,9 @@ Status DecodeH323UUPDU(H323UUPDU& m, PerReader& r) {
 
 Status DecodeH323UserInformation(H323UserInformation& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.userDataPresent = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.userDataPresent = flags.Next();
   KELVRA_TRY(DecodeH323UUPDU(m.h323UuPdu, r));
   if (m.userDataPresent) DecodeUserData(m, r);
   if (m.isExtended) PerSkipExtensionAdditions(r);

@@ -16,12 +16,13 @@ Status DecodeInformationUUIE(InformationUUIE& m, PerReader& r) {
   if (!m.isExtended) return kDecoded;
 
   int32_t additions = PerReadBitmapLength(r);
-  m.hasCallIdentifier = PerReadAdditionBit(r, additions);
-  m.hasTokens = PerReadAdditionBit(r, additions);
-  m.hasCryptoTokens = PerReadAdditionBit(r, additions);
-  m.hasFastStart = PerReadAdditionBit(r, additions);
-  m.hasFastConnectRefused = PerReadAdditionBit(r, additions);
-  m.hasCircuitInfo = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 6);
+  m.hasCallIdentifier = known.Next();
+  m.hasTokens = known.Next();
+  m.hasCryptoTokens = known.Next();
+  m.hasFastStart = known.Next();
+  m.hasFastConnectRefused = known.Next();
+  m.hasCircuitInfo = known.Next();
   PerNoteUnknownAdditions(r, additions);
   if (m.hasCallIdentifier) KELVRA_TRY(DecodeOpen(m.callIdentifier, r, DecodeCallIdentifier));
   if (m.hasTokens) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.tokens), r, h235::DecodeClearToken));
@@ -35,9 +36,10 @@ Status DecodeInformationUUIE(InformationUUIE& m, PerReader& r) {
 
 Status DecodeCallStatusUUIE(CallStatusUUIE& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasTokens = PerReadBit(r);
-  m.hasCryptoTokens = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 3);
+  m.isExtended = flags.Next();
+  m.hasTokens = flags.Next();
+  m.hasCryptoTokens = flags.Next();
   ReadProtocolIdentifier(m.protocolIdentifier, r);
   KELVRA_TRY(DecodeCallIdentifier(m.callIdentifier, r));
   if (m.hasTokens) KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.tokens), r, h235::DecodeClearToken));

@@ -38,22 +38,24 @@ Status DecodeCallTerminationCause(CallTerminationCause& m, PerReader& r) {
 
 Status DecodeReleaseCompleteUUIE(ReleaseCompleteUUIE& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasReason = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasReason = flags.Next();
   ReadProtocolIdentifier(m.protocolIdentifier, r);
   if (m.hasReason) KELVRA_TRY(DecodeReleaseCompleteReason(m.reason, r));
   if (!m.isExtended) return kDecoded;
 
   int32_t additions = PerReadBitmapLength(r);
-  m.hasCallIdentifier = PerReadAdditionBit(r, additions);
-  m.hasTokens = PerReadAdditionBit(r, additions);
-  m.hasCryptoTokens = PerReadAdditionBit(r, additions);
-  m.hasBusyAddress = PerReadAdditionBit(r, additions);
-  m.hasPresentationIndicator = PerReadAdditionBit(r, additions);
-  m.hasScreeningIndicator = PerReadAdditionBit(r, additions);
-  m.hasCapacity = PerReadAdditionBit(r, additions);
-  m.hasServiceControl = PerReadAdditionBit(r, additions);
-  m.hasFeatureSet = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 9);
+  m.hasCallIdentifier = known.Next();
+  m.hasTokens = known.Next();
+  m.hasCryptoTokens = known.Next();
+  m.hasBusyAddress = known.Next();
+  m.hasPresentationIndicator = known.Next();
+  m.hasScreeningIndicator = known.Next();
+  m.hasCapacity = known.Next();
+  m.hasServiceControl = known.Next();
+  m.hasFeatureSet = known.Next();
   PerNoteUnknownAdditions(r, additions);
   if (m.hasCallIdentifier) KELVRA_TRY(DecodeOpen(m.callIdentifier, r, DecodeCallIdentifier));
   if (m.hasTokens) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.tokens), r, h235::DecodeClearToken));

@@ -126,18 +126,19 @@ Status DecodePartyNumber(PartyNumber& m, PerReader& r) {
 
 Status DecodeANSI41UIM(ANSI41UIM& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasImsi = PerReadBit(r);
-  m.hasMin = PerReadBit(r);
-  m.hasMdn = PerReadBit(r);
-  m.hasMsisdn = PerReadBit(r);
-  m.hasEsn = PerReadBit(r);
-  m.hasMscid = PerReadBit(r);
-  m.hasSystemMyTypeCode = PerReadBit(r);
-  m.hasSystemAccessType = PerReadBit(r);
-  m.hasQualificationInformationCode = PerReadBit(r);
-  m.hasSesn = PerReadBit(r);
-  m.hasSoc = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 12);
+  m.isExtended = flags.Next();
+  m.hasImsi = flags.Next();
+  m.hasMin = flags.Next();
+  m.hasMdn = flags.Next();
+  m.hasMsisdn = flags.Next();
+  m.hasEsn = flags.Next();
+  m.hasMscid = flags.Next();
+  m.hasSystemMyTypeCode = flags.Next();
+  m.hasSystemAccessType = flags.Next();
+  m.hasQualificationInformationCode = flags.Next();
+  m.hasSesn = flags.Next();
+  m.hasSoc = flags.Next();
   if (m.hasImsi) PerReadSizedTBCDString(m.imsi, r, 3, 16);
   if (m.hasMin) PerReadSizedTBCDString(m.min, r, 3, 16);
   if (m.hasMdn) PerReadSizedTBCDString(m.mdn, r, 3, 16);
@@ -156,13 +157,14 @@ Status DecodeANSI41UIM(ANSI41UIM& m, PerReader& r) {
 
 Status DecodeGSMUIM(GSMUIM& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasImsi = PerReadBit(r);
-  m.hasTmsi = PerReadBit(r);
-  m.hasMsisdn = PerReadBit(r);
-  m.hasImei = PerReadBit(r);
-  m.hasHplmn = PerReadBit(r);
-  m.hasVplmn = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 7);
+  m.isExtended = flags.Next();
+  m.hasImsi = flags.Next();
+  m.hasTmsi = flags.Next();
+  m.hasMsisdn = flags.Next();
+  m.hasImei = flags.Next();
+  m.hasHplmn = flags.Next();
+  m.hasVplmn = flags.Next();
   if (m.hasImsi) PerReadSizedTBCDString(m.imsi, r, 3, 16);
   if (m.hasTmsi) PerReadSizedTBCDString(m.tmsi, r, 1, 4);
   if (m.hasMsisdn) PerReadSizedTBCDString(m.msisdn, r, 3, 16);
@@ -209,9 +211,10 @@ Status DecodeAliasAddress(AliasAddress& m, PerReader& r) {
 
 Status DecodeExtendedAliasAddress(ExtendedAliasAddress& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasPresentationIndicator = PerReadBit(r);
-  m.hasScreeningIndicator = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 3);
+  m.isExtended = flags.Next();
+  m.hasPresentationIndicator = flags.Next();
+  m.hasScreeningIndicator = flags.Next();
   KELVRA_TRY(DecodeAliasAddress(m.address, r));
   if (m.hasPresentationIndicator) KELVRA_TRY(DecodePresentationIndicator(m.presentationIndicator, r));
   if (m.hasScreeningIndicator) KELVRA_TRY(DecodeScreeningIndicator(m.screeningIndicator, r));

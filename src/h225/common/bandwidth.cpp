@@ -6,9 +6,10 @@ namespace kelvra::h225 {
 
 Status DecodeTransportChannelInfo(TransportChannelInfo& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasSendAddress = PerReadBit(r);
-  m.hasRecvAddress = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 3);
+  m.isExtended = flags.Next();
+  m.hasSendAddress = flags.Next();
+  m.hasRecvAddress = flags.Next();
   if (m.hasSendAddress) KELVRA_TRY(DecodeTransportAddress(m.sendAddress, r));
   if (m.hasRecvAddress) KELVRA_TRY(DecodeTransportAddress(m.recvAddress, r));
   if (m.isExtended) PerSkipExtensionAdditions(r);
@@ -17,9 +18,10 @@ Status DecodeTransportChannelInfo(TransportChannelInfo& m, PerReader& r) {
 
 Status DecodeBandwidthDetails(BandwidthDetails& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.sender = PerReadBit(r);
-  m.multicast = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 3);
+  m.isExtended = flags.Next();
+  m.sender = flags.Next();
+  m.multicast = flags.Next();
   m.bandwidth = PerReadNumber<uint32_t>(r, 0, kUnsigned32Maximum);
   KELVRA_TRY(DecodeTransportChannelInfo(m.rtcpAddresses, r));
   if (m.isExtended) PerSkipExtensionAdditions(r);
@@ -38,8 +40,9 @@ Status DecodeRTPSession(RTPSession& m, PerReader& r) {
   if (!m.isExtended) return kDecoded;
 
   int32_t additions = PerReadBitmapLength(r);
-  m.hasMulticast = PerReadAdditionBit(r, additions);
-  m.hasBandwidth = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 2);
+  m.hasMulticast = known.Next();
+  m.hasBandwidth = known.Next();
   PerNoteUnknownAdditions(r, additions);
   if (m.hasMulticast) PerSkipOpenTypes(r, 1);
   if (m.hasBandwidth) m.bandwidth = PerReadOpenNumber<uint32_t>(r, 0, kUnsigned32Maximum);

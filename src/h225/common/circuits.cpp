@@ -6,9 +6,10 @@ namespace kelvra::h225 {
 namespace {
 
 void DecodeWhen(CapacityReportingSpecification::When& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasCallStart = PerReadBit(r);
-  m.hasCallEnd = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 3);
+  m.isExtended = flags.Next();
+  m.hasCallStart = flags.Next();
+  m.hasCallEnd = flags.Next();
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
@@ -23,8 +24,9 @@ Status DecodeCicInfo(CicInfo& m, PerReader& r) {
 
 Status DecodeGroupID(GroupID& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasMember = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasMember = flags.Next();
   if (m.hasMember) KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.member), r, PerReadElement<uint16_t, 0, 65535>));
   PerReadSizedOctets(m.group, r, 1, 128);
   if (m.isExtended) PerSkipExtensionAdditions(r);
@@ -33,9 +35,10 @@ Status DecodeGroupID(GroupID& m, PerReader& r) {
 
 Status DecodeCircuitIdentifier(CircuitIdentifier& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasCic = PerReadBit(r);
-  m.hasGroup = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 3);
+  m.isExtended = flags.Next();
+  m.hasCic = flags.Next();
+  m.hasGroup = flags.Next();
   if (m.hasCic) KELVRA_TRY(DecodeCicInfo(m.cic, r));
   if (m.hasGroup) KELVRA_TRY(DecodeGroupID(m.group, r));
   if (m.isExtended) PerSkipExtensionAdditions(r);
@@ -44,8 +47,9 @@ Status DecodeCircuitIdentifier(CircuitIdentifier& m, PerReader& r) {
 
 Status DecodeCallsAvailable(CallsAvailable& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasGroup = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasGroup = flags.Next();
   m.calls = PerReadNumber<uint32_t>(r, 0, kUnsigned32Maximum);
   if (m.hasGroup) PerReadSizedOctets(m.group, r, 1, 128);
   if (m.isExtended) PerSkipExtensionAdditions(r);
@@ -54,18 +58,19 @@ Status DecodeCallsAvailable(CallsAvailable& m, PerReader& r) {
 
 Status DecodeCallCapacityInfo(CallCapacityInfo& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasVoiceGwCallsAvailable = PerReadBit(r);
-  m.hasH310GwCallsAvailable = PerReadBit(r);
-  m.hasH320GwCallsAvailable = PerReadBit(r);
-  m.hasH321GwCallsAvailable = PerReadBit(r);
-  m.hasH322GwCallsAvailable = PerReadBit(r);
-  m.hasH323GwCallsAvailable = PerReadBit(r);
-  m.hasH324GwCallsAvailable = PerReadBit(r);
-  m.hasT120OnlyGwCallsAvailable = PerReadBit(r);
-  m.hasT38FaxAnnexbOnlyGwCallsAvailable = PerReadBit(r);
-  m.hasTerminalCallsAvailable = PerReadBit(r);
-  m.hasMcuCallsAvailable = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 12);
+  m.isExtended = flags.Next();
+  m.hasVoiceGwCallsAvailable = flags.Next();
+  m.hasH310GwCallsAvailable = flags.Next();
+  m.hasH320GwCallsAvailable = flags.Next();
+  m.hasH321GwCallsAvailable = flags.Next();
+  m.hasH322GwCallsAvailable = flags.Next();
+  m.hasH323GwCallsAvailable = flags.Next();
+  m.hasH324GwCallsAvailable = flags.Next();
+  m.hasT120OnlyGwCallsAvailable = flags.Next();
+  m.hasT38FaxAnnexbOnlyGwCallsAvailable = flags.Next();
+  m.hasTerminalCallsAvailable = flags.Next();
+  m.hasMcuCallsAvailable = flags.Next();
   if (m.hasVoiceGwCallsAvailable)
     KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.voiceGwCallsAvailable), r, DecodeCallsAvailable));
   if (m.hasH310GwCallsAvailable)
@@ -95,10 +100,11 @@ Status DecodeCallCapacityInfo(CallCapacityInfo& m, PerReader& r) {
 
 Status DecodeCircuitInfo(CircuitInfo& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasSourceCircuitID = PerReadBit(r);
-  m.hasDestinationCircuitID = PerReadBit(r);
-  m.hasGenericData = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 4);
+  m.isExtended = flags.Next();
+  m.hasSourceCircuitID = flags.Next();
+  m.hasDestinationCircuitID = flags.Next();
+  m.hasGenericData = flags.Next();
   if (m.hasSourceCircuitID) KELVRA_TRY(DecodeCircuitIdentifier(m.sourceCircuitID, r));
   if (m.hasDestinationCircuitID) KELVRA_TRY(DecodeCircuitIdentifier(m.destinationCircuitID, r));
   if (m.hasGenericData) KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.genericData), r, DecodeGenericData));
@@ -108,9 +114,10 @@ Status DecodeCircuitInfo(CircuitInfo& m, PerReader& r) {
 
 Status DecodeCallCapacity(CallCapacity& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasMaximumCallCapacity = PerReadBit(r);
-  m.hasCurrentCallCapacity = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 3);
+  m.isExtended = flags.Next();
+  m.hasMaximumCallCapacity = flags.Next();
+  m.hasCurrentCallCapacity = flags.Next();
   if (m.hasMaximumCallCapacity) KELVRA_TRY(DecodeCallCapacityInfo(m.maximumCallCapacity, r));
   if (m.hasCurrentCallCapacity) KELVRA_TRY(DecodeCallCapacityInfo(m.currentCallCapacity, r));
   if (m.isExtended) PerSkipExtensionAdditions(r);
@@ -119,8 +126,9 @@ Status DecodeCallCapacity(CallCapacity& m, PerReader& r) {
 
 Status DecodeCapacityReportingCapability(CapacityReportingCapability& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.canReportCallCapacity = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.canReportCallCapacity = flags.Next();
   if (m.isExtended) PerSkipExtensionAdditions(r);
   return kDecoded;
 }

@@ -57,8 +57,9 @@ Status DecodeSecurityServiceMode(SecurityServiceMode& m, PerReader& r) {
 
 Status DecodeSecurityCapabilities(SecurityCapabilities& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasNonStandard = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasNonStandard = flags.Next();
   if (m.hasNonStandard) KELVRA_TRY(DecodeNonStandardParameter(m.nonStandard, r));
   KELVRA_TRY(DecodeSecurityServiceMode(m.encryption, r));
   KELVRA_TRY(DecodeSecurityServiceMode(m.authenticaton, r));

@@ -9,8 +9,9 @@ namespace {
 
 Status DecodeTunnelledProtocolAlternateIdentifier(TunnelledProtocolAlternateIdentifier& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasProtocolVariant = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasProtocolVariant = flags.Next();
   PerReadSizedOctets(m.protocolType, r, 1, 64);
   if (m.hasProtocolVariant) PerReadSizedOctets(m.protocolVariant, r, 1, 64);
   if (m.isExtended) PerSkipExtensionAdditions(r);
@@ -31,8 +32,9 @@ void DecodeSet(OctetStringValue& m, PerReader& r) { PerReadBitString(m, r, 32); 
 
 Status DecodeGatekeeperInfo(GatekeeperInfo& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasNonStandardData = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasNonStandardData = flags.Next();
   if (m.hasNonStandardData) KELVRA_TRY(DecodeNonStandardParameter(m.nonStandardData, r));
   if (m.isExtended) PerSkipExtensionAdditions(r);
   return kDecoded;
@@ -40,14 +42,16 @@ Status DecodeGatekeeperInfo(GatekeeperInfo& m, PerReader& r) {
 
 Status DecodeProtocolCaps(ProtocolCaps& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasNonStandardData = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasNonStandardData = flags.Next();
   if (m.hasNonStandardData) KELVRA_TRY(DecodeNonStandardParameter(m.nonStandardData, r));
   if (!m.isExtended) return kDecoded;
 
   int32_t additions = PerReadBitmapLength(r);
-  m.hasDataRatesSupported = PerReadAdditionBit(r, additions);
-  m.hasSupportedPrefixes = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 2);
+  m.hasDataRatesSupported = known.Next();
+  m.hasSupportedPrefixes = known.Next();
   PerNoteUnknownAdditions(r, additions);
   if (m.hasDataRatesSupported) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.dataRatesSupported), r, DecodeDataRate));
   if (m.hasSupportedPrefixes)
@@ -58,9 +62,10 @@ Status DecodeProtocolCaps(ProtocolCaps& m, PerReader& r) {
 
 Status DecodeNonStandardProtocol(NonStandardProtocol& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasNonStandardData = PerReadBit(r);
-  m.hasDataRatesSupported = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 3);
+  m.isExtended = flags.Next();
+  m.hasNonStandardData = flags.Next();
+  m.hasDataRatesSupported = flags.Next();
   if (m.hasNonStandardData) KELVRA_TRY(DecodeNonStandardParameter(m.nonStandardData, r));
   if (m.hasDataRatesSupported) KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.dataRatesSupported), r, DecodeDataRate));
   KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.supportedPrefixes), r, DecodeSupportedPrefix));
@@ -70,9 +75,10 @@ Status DecodeNonStandardProtocol(NonStandardProtocol& m, PerReader& r) {
 
 Status DecodeT38FaxAnnexbOnlyCaps(T38FaxAnnexbOnlyCaps& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasNonStandardData = PerReadBit(r);
-  m.hasDataRatesSupported = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 3);
+  m.isExtended = flags.Next();
+  m.hasNonStandardData = flags.Next();
+  m.hasDataRatesSupported = flags.Next();
   if (m.hasNonStandardData) KELVRA_TRY(DecodeNonStandardParameter(m.nonStandardData, r));
   if (m.hasDataRatesSupported) KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.dataRatesSupported), r, DecodeDataRate));
   KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.supportedPrefixes), r, DecodeSupportedPrefix));
@@ -90,9 +96,10 @@ Status DecodeT38FaxAnnexbOnlyCaps(T38FaxAnnexbOnlyCaps& m, PerReader& r) {
 
 Status DecodeVendorIdentifier(VendorIdentifier& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasProductId = PerReadBit(r);
-  m.hasVersionId = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 3);
+  m.isExtended = flags.Next();
+  m.hasProductId = flags.Next();
+  m.hasVersionId = flags.Next();
   KELVRA_TRY(DecodeH221NonStandard(m.vendor, r));
   if (m.hasProductId) PerReadSizedOctets(m.productId, r, 1, 256);
   if (m.hasVersionId) PerReadSizedOctets(m.versionId, r, 1, 256);
@@ -102,9 +109,10 @@ Status DecodeVendorIdentifier(VendorIdentifier& m, PerReader& r) {
 
 Status DecodeDataRate(DataRate& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasNonStandardData = PerReadBit(r);
-  m.hasChannelMultiplier = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 3);
+  m.isExtended = flags.Next();
+  m.hasNonStandardData = flags.Next();
+  m.hasChannelMultiplier = flags.Next();
   if (m.hasNonStandardData) KELVRA_TRY(DecodeNonStandardParameter(m.nonStandardData, r));
   m.channelRate = PerReadNumber<uint32_t>(r, 0, kUnsigned32Maximum);
   if (m.hasChannelMultiplier) m.channelMultiplier = PerReadNumber<uint16_t>(r, 1, 256);
@@ -114,8 +122,9 @@ Status DecodeDataRate(DataRate& m, PerReader& r) {
 
 Status DecodeSupportedPrefix(SupportedPrefix& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasNonStandardData = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasNonStandardData = flags.Next();
   if (m.hasNonStandardData) KELVRA_TRY(DecodeNonStandardParameter(m.nonStandardData, r));
   KELVRA_TRY(DecodeAliasAddress(m.prefix, r));
   if (m.isExtended) PerSkipExtensionAdditions(r);
@@ -148,9 +157,10 @@ Status DecodeSupportedProtocols(SupportedProtocols& m, PerReader& r) {
 
 Status DecodeGatewayInfo(GatewayInfo& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasProtocol = PerReadBit(r);
-  m.hasNonStandardData = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 3);
+  m.isExtended = flags.Next();
+  m.hasProtocol = flags.Next();
+  m.hasNonStandardData = flags.Next();
   if (m.hasProtocol) KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.protocol), r, DecodeSupportedProtocols));
   if (m.hasNonStandardData) KELVRA_TRY(DecodeNonStandardParameter(m.nonStandardData, r));
   if (m.isExtended) PerSkipExtensionAdditions(r);
@@ -159,8 +169,9 @@ Status DecodeGatewayInfo(GatewayInfo& m, PerReader& r) {
 
 Status DecodeMcuInfo(McuInfo& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasNonStandardData = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasNonStandardData = flags.Next();
   if (m.hasNonStandardData) KELVRA_TRY(DecodeNonStandardParameter(m.nonStandardData, r));
   if (!m.isExtended) return kDecoded;
 
@@ -174,8 +185,9 @@ Status DecodeMcuInfo(McuInfo& m, PerReader& r) {
 
 Status DecodeTunnelledProtocol(TunnelledProtocol& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasSubIdentifier = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasSubIdentifier = flags.Next();
   KELVRA_TRY(DecodeId(m.id, r));
   if (m.hasSubIdentifier) PerReadSizedOctets(m.subIdentifier, r, 1, 64);
   if (m.isExtended) PerSkipExtensionAdditions(r);
@@ -184,26 +196,29 @@ Status DecodeTunnelledProtocol(TunnelledProtocol& m, PerReader& r) {
 
 Status DecodeEndpointType(EndpointType& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasNonStandardData = PerReadBit(r);
-  m.hasVendor = PerReadBit(r);
-  m.hasGatekeeper = PerReadBit(r);
-  m.hasGateway = PerReadBit(r);
-  m.hasMcu = PerReadBit(r);
-  m.hasTerminal = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 7);
+  m.isExtended = flags.Next();
+  m.hasNonStandardData = flags.Next();
+  m.hasVendor = flags.Next();
+  m.hasGatekeeper = flags.Next();
+  m.hasGateway = flags.Next();
+  m.hasMcu = flags.Next();
+  m.hasTerminal = flags.Next();
   if (m.hasNonStandardData) KELVRA_TRY(DecodeNonStandardParameter(m.nonStandardData, r));
   if (m.hasVendor) KELVRA_TRY(DecodeVendorIdentifier(m.vendor, r));
   if (m.hasGatekeeper) KELVRA_TRY(DecodeGatekeeperInfo(m.gatekeeper, r));
   if (m.hasGateway) KELVRA_TRY(DecodeGatewayInfo(m.gateway, r));
   if (m.hasMcu) KELVRA_TRY(DecodeMcuInfo(m.mcu, r));
   if (m.hasTerminal) KELVRA_TRY(DecodeGatekeeperInfo(m.terminal, r));
-  m.mc = PerReadBit(r);
-  m.undefinedNode = PerReadBit(r);
+  flags = PerReadFlags(r, 2);
+  m.mc = flags.Next();
+  m.undefinedNode = flags.Next();
   if (!m.isExtended) return kDecoded;
 
   int32_t additions = PerReadBitmapLength(r);
-  m.hasSet = PerReadAdditionBit(r, additions);
-  m.hasSupportedTunnelledProtocols = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 2);
+  m.hasSet = known.Next();
+  m.hasSupportedTunnelledProtocols = known.Next();
   PerNoteUnknownAdditions(r, additions);
   if (m.hasSet) DecodeOpen(m.set, r, DecodeSet);
   if (m.hasSupportedTunnelledProtocols)

@@ -13,8 +13,9 @@ namespace kelvra::h225 {
 
 Status DecodeAlternateTransportAddresses(AlternateTransportAddresses& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasAnnexE = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasAnnexE = flags.Next();
   if (m.hasAnnexE) KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.annexE), r, DecodeTransportAddress));
   if (m.isExtended) PerSkipExtensionAdditions(r);
   return kDecoded;
@@ -22,17 +23,18 @@ Status DecodeAlternateTransportAddresses(AlternateTransportAddresses& m, PerRead
 
 Status DecodeEndpoint(Endpoint& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasNonStandardData = PerReadBit(r);
-  m.hasAliasAddress = PerReadBit(r);
-  m.hasCallSignalAddress = PerReadBit(r);
-  m.hasRasAddress = PerReadBit(r);
-  m.hasEndpointType = PerReadBit(r);
-  m.hasTokens = PerReadBit(r);
-  m.hasCryptoTokens = PerReadBit(r);
-  m.hasPriority = PerReadBit(r);
-  m.hasRemoteExtensionAddress = PerReadBit(r);
-  m.hasDestExtraCallInfo = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 11);
+  m.isExtended = flags.Next();
+  m.hasNonStandardData = flags.Next();
+  m.hasAliasAddress = flags.Next();
+  m.hasCallSignalAddress = flags.Next();
+  m.hasRasAddress = flags.Next();
+  m.hasEndpointType = flags.Next();
+  m.hasTokens = flags.Next();
+  m.hasCryptoTokens = flags.Next();
+  m.hasPriority = flags.Next();
+  m.hasRemoteExtensionAddress = flags.Next();
+  m.hasDestExtraCallInfo = flags.Next();
   if (m.hasNonStandardData) KELVRA_TRY(DecodeNonStandardParameter(m.nonStandardData, r));
   if (m.hasAliasAddress) KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.aliasAddress), r, DecodeAliasAddress));
   if (m.hasCallSignalAddress) KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.callSignalAddress), r, DecodeTransportAddress));
@@ -47,9 +49,10 @@ Status DecodeEndpoint(Endpoint& m, PerReader& r) {
   if (!m.isExtended) return kDecoded;
 
   int32_t additions = PerReadBitmapLength(r);
-  m.hasAlternateTransportAddresses = PerReadAdditionBit(r, additions);
-  m.hasCircuitInfo = PerReadAdditionBit(r, additions);
-  m.hasFeatureSet = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 3);
+  m.hasAlternateTransportAddresses = known.Next();
+  m.hasCircuitInfo = known.Next();
+  m.hasFeatureSet = known.Next();
   PerNoteUnknownAdditions(r, additions);
   if (m.hasAlternateTransportAddresses)
     KELVRA_TRY(DecodeOpen(m.alternateTransportAddresses, r, DecodeAlternateTransportAddresses));
@@ -61,8 +64,9 @@ Status DecodeEndpoint(Endpoint& m, PerReader& r) {
 
 Status DecodeAlternateGK(AlternateGK& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasGatekeeperIdentifier = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasGatekeeperIdentifier = flags.Next();
   KELVRA_TRY(DecodeTransportAddress(m.rasAddress, r));
   if (m.hasGatekeeperIdentifier) KELVRA_TRY(DecodeIdentifierString(m.gatekeeperIdentifier, r));
   m.needToRegister = PerReadBit(r);

@@ -42,8 +42,9 @@ Status DecodeEnumeratedParameter(EnumeratedParameter& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
   const RecursionLevel level(r);
   if (level.TooDeep()) return kMalformed;
-  m.isExtended = PerReadBit(r);
-  m.hasContent = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasContent = flags.Next();
   KELVRA_TRY(DecodeGenericIdentifier(m.id, r));
   if (m.hasContent) KELVRA_TRY(DecodeContent(m.content, r));
   if (m.isExtended) PerSkipExtensionAdditions(r);
@@ -52,8 +53,9 @@ Status DecodeEnumeratedParameter(EnumeratedParameter& m, PerReader& r) {
 
 Status DecodeGenericData(GenericData& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasParameters = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasParameters = flags.Next();
   KELVRA_TRY(DecodeGenericIdentifier(m.id, r));
   if (m.hasParameters) {
     KELVRA_TRY(DecodeSizedSequenceOf(KELVRA_LIST(m.parameters), r, 1, 512, DecodeEnumeratedParameter));
@@ -64,11 +66,12 @@ Status DecodeGenericData(GenericData& m, PerReader& r) {
 
 Status DecodeFeatureSet(FeatureSet& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasNeededFeatures = PerReadBit(r);
-  m.hasDesiredFeatures = PerReadBit(r);
-  m.hasSupportedFeatures = PerReadBit(r);
-  m.replacementFeatureSet = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 5);
+  m.isExtended = flags.Next();
+  m.hasNeededFeatures = flags.Next();
+  m.hasDesiredFeatures = flags.Next();
+  m.hasSupportedFeatures = flags.Next();
+  m.replacementFeatureSet = flags.Next();
   if (m.hasNeededFeatures) KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.neededFeatures), r, DecodeGenericData));
   if (m.hasDesiredFeatures) KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.desiredFeatures), r, DecodeGenericData));
   if (m.hasSupportedFeatures) KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.supportedFeatures), r, DecodeGenericData));

@@ -8,21 +8,23 @@ namespace {
 
 Status DecodeQ954Details(Q954Details& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.conferenceCalling = PerReadBit(r);
-  m.threePartyService = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 3);
+  m.isExtended = flags.Next();
+  m.conferenceCalling = flags.Next();
+  m.threePartyService = flags.Next();
   if (m.isExtended) PerSkipExtensionAdditions(r);
   return kDecoded;
 }
 
 Status DecodeCallCreditServiceControl(CallCreditServiceControl& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasAmountString = PerReadBit(r);
-  m.hasBillingMode = PerReadBit(r);
-  m.hasCallDurationLimit = PerReadBit(r);
-  m.hasEnforceCallDurationLimit = PerReadBit(r);
-  m.hasCallStartingPoint = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 6);
+  m.isExtended = flags.Next();
+  m.hasAmountString = flags.Next();
+  m.hasBillingMode = flags.Next();
+  m.hasCallDurationLimit = flags.Next();
+  m.hasEnforceCallDurationLimit = flags.Next();
+  m.hasCallStartingPoint = flags.Next();
   if (m.hasAmountString) PerReadSizedBMPString(m.amountString, r, 1, 512);
   if (m.hasBillingMode) KELVRA_TRY(DecodeNullChoice(m.billingMode, r));
   if (m.hasCallDurationLimit) m.callDurationLimit = PerReadNumber<uint32_t>(r, 1, kUnsigned32Maximum);
@@ -49,14 +51,15 @@ Status DecodeServiceControlDescriptor(ServiceControlDescriptor& m, PerReader& r)
 
 Status DecodeQseriesOptions(QseriesOptions& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.q932Full = PerReadBit(r);
-  m.q951Full = PerReadBit(r);
-  m.q952Full = PerReadBit(r);
-  m.q953Full = PerReadBit(r);
-  m.q955Full = PerReadBit(r);
-  m.q956Full = PerReadBit(r);
-  m.q957Full = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 8);
+  m.isExtended = flags.Next();
+  m.q932Full = flags.Next();
+  m.q951Full = flags.Next();
+  m.q952Full = flags.Next();
+  m.q953Full = flags.Next();
+  m.q955Full = flags.Next();
+  m.q956Full = flags.Next();
+  m.q957Full = flags.Next();
   KELVRA_TRY(DecodeQ954Details(m.q954Info, r));
   if (m.isExtended) PerSkipExtensionAdditions(r);
   return kDecoded;
@@ -64,9 +67,10 @@ Status DecodeQseriesOptions(QseriesOptions& m, PerReader& r) {
 
 Status DecodeCallLinkage(CallLinkage& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasGlobalCallId = PerReadBit(r);
-  m.hasThreadId = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 3);
+  m.isExtended = flags.Next();
+  m.hasGlobalCallId = flags.Next();
+  m.hasThreadId = flags.Next();
   if (m.hasGlobalCallId) KELVRA_TRY(DecodeGloballyUniqueID(m.globalCallId, r));
   if (m.hasThreadId) KELVRA_TRY(DecodeGloballyUniqueID(m.threadId, r));
   if (m.isExtended) PerSkipExtensionAdditions(r);
@@ -75,9 +79,10 @@ Status DecodeCallLinkage(CallLinkage& m, PerReader& r) {
 
 Status DecodeCallCreditCapability(CallCreditCapability& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasCanDisplayAmountString = PerReadBit(r);
-  m.hasCanEnforceDurationLimit = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 3);
+  m.isExtended = flags.Next();
+  m.hasCanDisplayAmountString = flags.Next();
+  m.hasCanEnforceDurationLimit = flags.Next();
   if (m.hasCanDisplayAmountString) m.canDisplayAmountString = PerReadBit(r);
   if (m.hasCanEnforceDurationLimit) m.canEnforceDurationLimit = PerReadBit(r);
   if (m.isExtended) PerSkipExtensionAdditions(r);
@@ -86,8 +91,9 @@ Status DecodeCallCreditCapability(CallCreditCapability& m, PerReader& r) {
 
 Status DecodeServiceControlSession(ServiceControlSession& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasContents = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasContents = flags.Next();
   m.sessionId = PerReadNumber<uint8_t>(r, 0, 255);
   if (m.hasContents) KELVRA_TRY(DecodeServiceControlDescriptor(m.contents, r));
   KELVRA_TRY(DecodeNullChoice(m.reason, r));

@@ -6,17 +6,19 @@ namespace kelvra::h225 {
 namespace {
 
 void DecodeWhen(RasUsageSpecification::When& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasStart = PerReadBit(r);
-  m.hasEnd = PerReadBit(r);
-  m.hasInIrr = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 4);
+  m.isExtended = flags.Next();
+  m.hasStart = flags.Next();
+  m.hasEnd = flags.Next();
+  m.hasInIrr = flags.Next();
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
 void DecodeCallStartingPoint(RasUsageSpecification::CallStartingPoint& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasAlerting = PerReadBit(r);
-  m.hasConnect = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 3);
+  m.isExtended = flags.Next();
+  m.hasAlerting = flags.Next();
+  m.hasConnect = flags.Next();
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
@@ -24,10 +26,11 @@ void DecodeCallStartingPoint(RasUsageSpecification::CallStartingPoint& m, PerRea
 
 Status DecodeRasUsageInfoTypes(RasUsageInfoTypes& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasStartTime = PerReadBit(r);
-  m.hasEndTime = PerReadBit(r);
-  m.hasTerminationCause = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 4);
+  m.isExtended = flags.Next();
+  m.hasStartTime = flags.Next();
+  m.hasEndTime = flags.Next();
+  m.hasTerminationCause = flags.Next();
   KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.nonStandardUsageTypes), r, DecodeNonStandardParameter));
   if (m.isExtended) PerSkipExtensionAdditions(r);
   return kDecoded;
@@ -35,8 +38,9 @@ Status DecodeRasUsageInfoTypes(RasUsageInfoTypes& m, PerReader& r) {
 
 Status DecodeRasUsageSpecification(RasUsageSpecification& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasCallStartingPoint = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasCallStartingPoint = flags.Next();
   DecodeWhen(m.when, r);
   if (m.hasCallStartingPoint) DecodeCallStartingPoint(m.callStartingPoint, r);
   KELVRA_TRY(DecodeRasUsageInfoTypes(m.required, r));
@@ -46,10 +50,11 @@ Status DecodeRasUsageSpecification(RasUsageSpecification& m, PerReader& r) {
 
 Status DecodeRasUsageInformation(RasUsageInformation& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasAlertingTime = PerReadBit(r);
-  m.hasConnectTime = PerReadBit(r);
-  m.hasEndTime = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 4);
+  m.isExtended = flags.Next();
+  m.hasAlertingTime = flags.Next();
+  m.hasConnectTime = flags.Next();
+  m.hasEndTime = flags.Next();
   KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.nonStandardUsageFields), r, DecodeNonStandardParameter));
   if (m.hasAlertingTime) m.alertingTime = PerReadNumber<uint32_t>(r, 1, kUnsigned32Maximum);
   if (m.hasConnectTime) m.connectTime = PerReadNumber<uint32_t>(r, 1, kUnsigned32Maximum);

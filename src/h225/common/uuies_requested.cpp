@@ -5,23 +5,25 @@ namespace kelvra::h225 {
 
 Status DecodeUUIEsRequested(UUIEsRequested& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.setup = PerReadBit(r);
-  m.callProceeding = PerReadBit(r);
-  m.connect = PerReadBit(r);
-  m.alerting = PerReadBit(r);
-  m.information = PerReadBit(r);
-  m.releaseComplete = PerReadBit(r);
-  m.facility = PerReadBit(r);
-  m.progress = PerReadBit(r);
-  m.empty = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 10);
+  m.isExtended = flags.Next();
+  m.setup = flags.Next();
+  m.callProceeding = flags.Next();
+  m.connect = flags.Next();
+  m.alerting = flags.Next();
+  m.information = flags.Next();
+  m.releaseComplete = flags.Next();
+  m.facility = flags.Next();
+  m.progress = flags.Next();
+  m.empty = flags.Next();
   if (!m.isExtended) return kDecoded;
 
   int32_t additions = PerReadBitmapLength(r);
-  m.hasStatus = PerReadAdditionBit(r, additions);
-  m.hasStatusInquiry = PerReadAdditionBit(r, additions);
-  m.hasSetupAcknowledge = PerReadAdditionBit(r, additions);
-  m.hasNotify = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 4);
+  m.hasStatus = known.Next();
+  m.hasStatusInquiry = known.Next();
+  m.hasSetupAcknowledge = known.Next();
+  m.hasNotify = known.Next();
   PerNoteUnknownAdditions(r, additions);
   if (m.hasStatus) m.status = PerReadOpenBoolean(r);
   if (m.hasStatusInquiry) m.statusInquiry = PerReadOpenBoolean(r);

@@ -15,9 +15,10 @@ namespace kelvra::h225 {
 
 Status DecodeBandwidthRequest(BandwidthRequest& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasCallType = PerReadBit(r);
-  m.hasNonStandardData = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 3);
+  m.isExtended = flags.Next();
+  m.hasCallType = flags.Next();
+  m.hasNonStandardData = flags.Next();
   m.requestSeqNum = PerReadNumber<uint16_t>(r, 1, 65535);
   KELVRA_TRY(DecodeIdentifierString(m.endpointIdentifier, r));
   KELVRA_TRY(DecodeGloballyUniqueID(m.conferenceID, r));
@@ -28,17 +29,18 @@ Status DecodeBandwidthRequest(BandwidthRequest& m, PerReader& r) {
   if (!m.isExtended) return kDecoded;
 
   int32_t additions = PerReadBitmapLength(r);
-  m.hasCallIdentifier = PerReadAdditionBit(r, additions);
-  m.hasGatekeeperIdentifier = PerReadAdditionBit(r, additions);
-  m.hasTokens = PerReadAdditionBit(r, additions);
-  m.hasCryptoTokens = PerReadAdditionBit(r, additions);
-  m.hasIntegrityCheckValue = PerReadAdditionBit(r, additions);
-  m.hasAnsweredCall = PerReadAdditionBit(r, additions);
-  m.hasCallLinkage = PerReadAdditionBit(r, additions);
-  m.hasCapacity = PerReadAdditionBit(r, additions);
-  m.hasUsageInformation = PerReadAdditionBit(r, additions);
-  m.hasBandwidthDetails = PerReadAdditionBit(r, additions);
-  m.hasGenericData = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 11);
+  m.hasCallIdentifier = known.Next();
+  m.hasGatekeeperIdentifier = known.Next();
+  m.hasTokens = known.Next();
+  m.hasCryptoTokens = known.Next();
+  m.hasIntegrityCheckValue = known.Next();
+  m.hasAnsweredCall = known.Next();
+  m.hasCallLinkage = known.Next();
+  m.hasCapacity = known.Next();
+  m.hasUsageInformation = known.Next();
+  m.hasBandwidthDetails = known.Next();
+  m.hasGenericData = known.Next();
   PerNoteUnknownAdditions(r, additions);
   if (m.hasCallIdentifier) KELVRA_TRY(DecodeOpen(m.callIdentifier, r, DecodeCallIdentifier));
   if (m.hasGatekeeperIdentifier) KELVRA_TRY(DecodeOpen(m.gatekeeperIdentifier, r, DecodeIdentifierString));
@@ -58,19 +60,21 @@ Status DecodeBandwidthRequest(BandwidthRequest& m, PerReader& r) {
 
 Status DecodeBandwidthConfirm(BandwidthConfirm& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasNonStandardData = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasNonStandardData = flags.Next();
   m.requestSeqNum = PerReadNumber<uint16_t>(r, 1, 65535);
   m.bandWidth = PerReadNumber<uint32_t>(r, 0, kUnsigned32Maximum);
   if (m.hasNonStandardData) KELVRA_TRY(DecodeNonStandardParameter(m.nonStandardData, r));
   if (!m.isExtended) return kDecoded;
 
   int32_t additions = PerReadBitmapLength(r);
-  m.hasTokens = PerReadAdditionBit(r, additions);
-  m.hasCryptoTokens = PerReadAdditionBit(r, additions);
-  m.hasIntegrityCheckValue = PerReadAdditionBit(r, additions);
-  m.hasCapacity = PerReadAdditionBit(r, additions);
-  m.hasGenericData = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 5);
+  m.hasTokens = known.Next();
+  m.hasCryptoTokens = known.Next();
+  m.hasIntegrityCheckValue = known.Next();
+  m.hasCapacity = known.Next();
+  m.hasGenericData = known.Next();
   PerNoteUnknownAdditions(r, additions);
   if (m.hasTokens) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.tokens), r, h235::DecodeClearToken));
   if (m.hasCryptoTokens) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.cryptoTokens), r, DecodeCryptoH323Token));
@@ -83,8 +87,9 @@ Status DecodeBandwidthConfirm(BandwidthConfirm& m, PerReader& r) {
 
 Status DecodeBandwidthReject(BandwidthReject& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasNonStandardData = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasNonStandardData = flags.Next();
   m.requestSeqNum = PerReadNumber<uint16_t>(r, 1, 65535);
   KELVRA_TRY(DecodeNullChoice(m.rejectReason, r));
   m.allowedBandWidth = PerReadNumber<uint32_t>(r, 0, kUnsigned32Maximum);
@@ -92,11 +97,12 @@ Status DecodeBandwidthReject(BandwidthReject& m, PerReader& r) {
   if (!m.isExtended) return kDecoded;
 
   int32_t additions = PerReadBitmapLength(r);
-  m.hasAltGKInfo = PerReadAdditionBit(r, additions);
-  m.hasTokens = PerReadAdditionBit(r, additions);
-  m.hasCryptoTokens = PerReadAdditionBit(r, additions);
-  m.hasIntegrityCheckValue = PerReadAdditionBit(r, additions);
-  m.hasGenericData = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 5);
+  m.hasAltGKInfo = known.Next();
+  m.hasTokens = known.Next();
+  m.hasCryptoTokens = known.Next();
+  m.hasIntegrityCheckValue = known.Next();
+  m.hasGenericData = known.Next();
   PerNoteUnknownAdditions(r, additions);
   if (m.hasAltGKInfo) KELVRA_TRY(DecodeOpen(m.altGKInfo, r, DecodeAltGKInfo));
   if (m.hasTokens) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.tokens), r, h235::DecodeClearToken));

@@ -31,8 +31,9 @@ Status DecodeDisengageRejectReason(DisengageRejectReason& m, PerReader& r) { ret
 
 Status DecodeDisengageRequest(DisengageRequest& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasNonStandardData = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasNonStandardData = flags.Next();
   m.requestSeqNum = PerReadNumber<uint16_t>(r, 1, 65535);
   KELVRA_TRY(DecodeIdentifierString(m.endpointIdentifier, r));
   KELVRA_TRY(DecodeGloballyUniqueID(m.conferenceID, r));
@@ -42,19 +43,20 @@ Status DecodeDisengageRequest(DisengageRequest& m, PerReader& r) {
   if (!m.isExtended) return kDecoded;
 
   int32_t additions = PerReadBitmapLength(r);
-  m.hasCallIdentifier = PerReadAdditionBit(r, additions);
-  m.hasGatekeeperIdentifier = PerReadAdditionBit(r, additions);
-  m.hasTokens = PerReadAdditionBit(r, additions);
-  m.hasCryptoTokens = PerReadAdditionBit(r, additions);
-  m.hasIntegrityCheckValue = PerReadAdditionBit(r, additions);
-  m.hasAnsweredCall = PerReadAdditionBit(r, additions);
-  m.hasCallLinkage = PerReadAdditionBit(r, additions);
-  m.hasCapacity = PerReadAdditionBit(r, additions);
-  m.hasCircuitInfo = PerReadAdditionBit(r, additions);
-  m.hasUsageInformation = PerReadAdditionBit(r, additions);
-  m.hasTerminationCause = PerReadAdditionBit(r, additions);
-  m.hasServiceControl = PerReadAdditionBit(r, additions);
-  m.hasGenericData = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 13);
+  m.hasCallIdentifier = known.Next();
+  m.hasGatekeeperIdentifier = known.Next();
+  m.hasTokens = known.Next();
+  m.hasCryptoTokens = known.Next();
+  m.hasIntegrityCheckValue = known.Next();
+  m.hasAnsweredCall = known.Next();
+  m.hasCallLinkage = known.Next();
+  m.hasCapacity = known.Next();
+  m.hasCircuitInfo = known.Next();
+  m.hasUsageInformation = known.Next();
+  m.hasTerminationCause = known.Next();
+  m.hasServiceControl = known.Next();
+  m.hasGenericData = known.Next();
   PerNoteUnknownAdditions(r, additions);
   if (m.hasCallIdentifier) KELVRA_TRY(DecodeOpen(m.callIdentifier, r, DecodeCallIdentifier));
   if (m.hasGatekeeperIdentifier) KELVRA_TRY(DecodeOpen(m.gatekeeperIdentifier, r, DecodeIdentifierString));
@@ -76,20 +78,22 @@ Status DecodeDisengageRequest(DisengageRequest& m, PerReader& r) {
 
 Status DecodeDisengageConfirm(DisengageConfirm& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasNonStandardData = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasNonStandardData = flags.Next();
   m.requestSeqNum = PerReadNumber<uint16_t>(r, 1, 65535);
   if (m.hasNonStandardData) KELVRA_TRY(DecodeNonStandardParameter(m.nonStandardData, r));
   if (!m.isExtended) return kDecoded;
 
   int32_t additions = PerReadBitmapLength(r);
-  m.hasTokens = PerReadAdditionBit(r, additions);
-  m.hasCryptoTokens = PerReadAdditionBit(r, additions);
-  m.hasIntegrityCheckValue = PerReadAdditionBit(r, additions);
-  m.hasCapacity = PerReadAdditionBit(r, additions);
-  m.hasCircuitInfo = PerReadAdditionBit(r, additions);
-  m.hasUsageInformation = PerReadAdditionBit(r, additions);
-  m.hasGenericData = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 7);
+  m.hasTokens = known.Next();
+  m.hasCryptoTokens = known.Next();
+  m.hasIntegrityCheckValue = known.Next();
+  m.hasCapacity = known.Next();
+  m.hasCircuitInfo = known.Next();
+  m.hasUsageInformation = known.Next();
+  m.hasGenericData = known.Next();
   PerNoteUnknownAdditions(r, additions);
   if (m.hasTokens) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.tokens), r, h235::DecodeClearToken));
   if (m.hasCryptoTokens) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.cryptoTokens), r, DecodeCryptoH323Token));
@@ -104,19 +108,21 @@ Status DecodeDisengageConfirm(DisengageConfirm& m, PerReader& r) {
 
 Status DecodeDisengageReject(DisengageReject& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasNonStandardData = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasNonStandardData = flags.Next();
   m.requestSeqNum = PerReadNumber<uint16_t>(r, 1, 65535);
   KELVRA_TRY(DecodeDisengageRejectReason(m.rejectReason, r));
   if (m.hasNonStandardData) KELVRA_TRY(DecodeNonStandardParameter(m.nonStandardData, r));
   if (!m.isExtended) return kDecoded;
 
   int32_t additions = PerReadBitmapLength(r);
-  m.hasAltGKInfo = PerReadAdditionBit(r, additions);
-  m.hasTokens = PerReadAdditionBit(r, additions);
-  m.hasCryptoTokens = PerReadAdditionBit(r, additions);
-  m.hasIntegrityCheckValue = PerReadAdditionBit(r, additions);
-  m.hasGenericData = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 5);
+  m.hasAltGKInfo = known.Next();
+  m.hasTokens = known.Next();
+  m.hasCryptoTokens = known.Next();
+  m.hasIntegrityCheckValue = known.Next();
+  m.hasGenericData = known.Next();
   PerNoteUnknownAdditions(r, additions);
   if (m.hasAltGKInfo) KELVRA_TRY(DecodeOpen(m.altGKInfo, r, DecodeAltGKInfo));
   if (m.hasTokens) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.tokens), r, h235::DecodeClearToken));

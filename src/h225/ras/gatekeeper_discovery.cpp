@@ -14,11 +14,12 @@ namespace kelvra::h225 {
 
 Status DecodeGatekeeperRequest(GatekeeperRequest& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasNonStandardData = PerReadBit(r);
-  m.hasGatekeeperIdentifier = PerReadBit(r);
-  m.hasCallServices = PerReadBit(r);
-  m.hasEndpointAlias = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 5);
+  m.isExtended = flags.Next();
+  m.hasNonStandardData = flags.Next();
+  m.hasGatekeeperIdentifier = flags.Next();
+  m.hasCallServices = flags.Next();
+  m.hasEndpointAlias = flags.Next();
   m.requestSeqNum = PerReadNumber<uint16_t>(r, 1, 65535);
   PerReadObjectIdentifier(m.protocolIdentifier, r);
   if (m.hasNonStandardData) KELVRA_TRY(DecodeNonStandardParameter(m.nonStandardData, r));
@@ -30,16 +31,17 @@ Status DecodeGatekeeperRequest(GatekeeperRequest& m, PerReader& r) {
   if (!m.isExtended) return kDecoded;
 
   int32_t additions = PerReadBitmapLength(r);
-  m.hasAlternateEndpoints = PerReadAdditionBit(r, additions);
-  m.hasTokens = PerReadAdditionBit(r, additions);
-  m.hasCryptoTokens = PerReadAdditionBit(r, additions);
-  m.hasAuthenticationCapability = PerReadAdditionBit(r, additions);
-  m.hasAlgorithmOIDs = PerReadAdditionBit(r, additions);
-  m.hasIntegrity = PerReadAdditionBit(r, additions);
-  m.hasIntegrityCheckValue = PerReadAdditionBit(r, additions);
-  m.hasSupportsAltGK = PerReadAdditionBit(r, additions);
-  m.hasFeatureSet = PerReadAdditionBit(r, additions);
-  m.hasGenericData = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 10);
+  m.hasAlternateEndpoints = known.Next();
+  m.hasTokens = known.Next();
+  m.hasCryptoTokens = known.Next();
+  m.hasAuthenticationCapability = known.Next();
+  m.hasAlgorithmOIDs = known.Next();
+  m.hasIntegrity = known.Next();
+  m.hasIntegrityCheckValue = known.Next();
+  m.hasSupportsAltGK = known.Next();
+  m.hasFeatureSet = known.Next();
+  m.hasGenericData = known.Next();
   PerNoteUnknownAdditions(r, additions);
   if (m.hasAlternateEndpoints) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.alternateEndpoints), r, DecodeEndpoint));
   if (m.hasTokens) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.tokens), r, h235::DecodeClearToken));
@@ -58,9 +60,10 @@ Status DecodeGatekeeperRequest(GatekeeperRequest& m, PerReader& r) {
 
 Status DecodeGatekeeperConfirm(GatekeeperConfirm& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasNonStandardData = PerReadBit(r);
-  m.hasGatekeeperIdentifier = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 3);
+  m.isExtended = flags.Next();
+  m.hasNonStandardData = flags.Next();
+  m.hasGatekeeperIdentifier = flags.Next();
   m.requestSeqNum = PerReadNumber<uint16_t>(r, 1, 65535);
   PerReadObjectIdentifier(m.protocolIdentifier, r);
   if (m.hasNonStandardData) KELVRA_TRY(DecodeNonStandardParameter(m.nonStandardData, r));
@@ -69,15 +72,16 @@ Status DecodeGatekeeperConfirm(GatekeeperConfirm& m, PerReader& r) {
   if (!m.isExtended) return kDecoded;
 
   int32_t additions = PerReadBitmapLength(r);
-  m.hasAlternateGatekeeper = PerReadAdditionBit(r, additions);
-  m.hasAuthenticationMode = PerReadAdditionBit(r, additions);
-  m.hasTokens = PerReadAdditionBit(r, additions);
-  m.hasCryptoTokens = PerReadAdditionBit(r, additions);
-  m.hasAlgorithmOID = PerReadAdditionBit(r, additions);
-  m.hasIntegrity = PerReadAdditionBit(r, additions);
-  m.hasIntegrityCheckValue = PerReadAdditionBit(r, additions);
-  m.hasFeatureSet = PerReadAdditionBit(r, additions);
-  m.hasGenericData = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 9);
+  m.hasAlternateGatekeeper = known.Next();
+  m.hasAuthenticationMode = known.Next();
+  m.hasTokens = known.Next();
+  m.hasCryptoTokens = known.Next();
+  m.hasAlgorithmOID = known.Next();
+  m.hasIntegrity = known.Next();
+  m.hasIntegrityCheckValue = known.Next();
+  m.hasFeatureSet = known.Next();
+  m.hasGenericData = known.Next();
   PerNoteUnknownAdditions(r, additions);
   if (m.hasAlternateGatekeeper)
     KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.alternateGatekeeper), r, DecodeAlternateGK));
@@ -97,9 +101,10 @@ Status DecodeGatekeeperConfirm(GatekeeperConfirm& m, PerReader& r) {
 
 Status DecodeGatekeeperReject(GatekeeperReject& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasNonStandardData = PerReadBit(r);
-  m.hasGatekeeperIdentifier = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 3);
+  m.isExtended = flags.Next();
+  m.hasNonStandardData = flags.Next();
+  m.hasGatekeeperIdentifier = flags.Next();
   m.requestSeqNum = PerReadNumber<uint16_t>(r, 1, 65535);
   PerReadObjectIdentifier(m.protocolIdentifier, r);
   if (m.hasNonStandardData) KELVRA_TRY(DecodeNonStandardParameter(m.nonStandardData, r));
@@ -108,12 +113,13 @@ Status DecodeGatekeeperReject(GatekeeperReject& m, PerReader& r) {
   if (!m.isExtended) return kDecoded;
 
   int32_t additions = PerReadBitmapLength(r);
-  m.hasAltGKInfo = PerReadAdditionBit(r, additions);
-  m.hasTokens = PerReadAdditionBit(r, additions);
-  m.hasCryptoTokens = PerReadAdditionBit(r, additions);
-  m.hasIntegrityCheckValue = PerReadAdditionBit(r, additions);
-  m.hasFeatureSet = PerReadAdditionBit(r, additions);
-  m.hasGenericData = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 6);
+  m.hasAltGKInfo = known.Next();
+  m.hasTokens = known.Next();
+  m.hasCryptoTokens = known.Next();
+  m.hasIntegrityCheckValue = known.Next();
+  m.hasFeatureSet = known.Next();
+  m.hasGenericData = known.Next();
   PerNoteUnknownAdditions(r, additions);
   if (m.hasAltGKInfo) KELVRA_TRY(DecodeOpen(m.altGKInfo, r, DecodeAltGKInfo));
   if (m.hasTokens) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.tokens), r, h235::DecodeClearToken));

@@ -14,9 +14,10 @@ namespace kelvra::h225 {
 
 Status DecodeInfoRequest(InfoRequest& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasNonStandardData = PerReadBit(r);
-  m.hasReplyAddress = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 3);
+  m.isExtended = flags.Next();
+  m.hasNonStandardData = flags.Next();
+  m.hasReplyAddress = flags.Next();
   m.requestSeqNum = PerReadNumber<uint16_t>(r, 1, 65535);
   m.callReferenceValue = PerReadNumber<uint16_t>(r, 0, 65535);
   if (m.hasNonStandardData) KELVRA_TRY(DecodeNonStandardParameter(m.nonStandardData, r));
@@ -24,17 +25,18 @@ Status DecodeInfoRequest(InfoRequest& m, PerReader& r) {
   if (!m.isExtended) return kDecoded;
 
   int32_t additions = PerReadBitmapLength(r);
-  m.hasCallIdentifier = PerReadAdditionBit(r, additions);
-  m.hasTokens = PerReadAdditionBit(r, additions);
-  m.hasCryptoTokens = PerReadAdditionBit(r, additions);
-  m.hasIntegrityCheckValue = PerReadAdditionBit(r, additions);
-  m.hasUuiesRequested = PerReadAdditionBit(r, additions);
-  m.hasCallLinkage = PerReadAdditionBit(r, additions);
-  m.hasUsageInfoRequested = PerReadAdditionBit(r, additions);
-  m.hasSegmentedResponseSupported = PerReadAdditionBit(r, additions);
-  m.hasNextSegmentRequested = PerReadAdditionBit(r, additions);
-  m.hasCapacityInfoRequested = PerReadAdditionBit(r, additions);
-  m.hasGenericData = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 11);
+  m.hasCallIdentifier = known.Next();
+  m.hasTokens = known.Next();
+  m.hasCryptoTokens = known.Next();
+  m.hasIntegrityCheckValue = known.Next();
+  m.hasUuiesRequested = known.Next();
+  m.hasCallLinkage = known.Next();
+  m.hasUsageInfoRequested = known.Next();
+  m.hasSegmentedResponseSupported = known.Next();
+  m.hasNextSegmentRequested = known.Next();
+  m.hasCapacityInfoRequested = known.Next();
+  m.hasGenericData = known.Next();
   PerNoteUnknownAdditions(r, additions);
   if (m.hasCallIdentifier) KELVRA_TRY(DecodeOpen(m.callIdentifier, r, DecodeCallIdentifier));
   if (m.hasTokens) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.tokens), r, h235::DecodeClearToken));

@@ -9,11 +9,12 @@ namespace kelvra::h225 {
 
 Status DecodeInfoRequestAck(InfoRequestAck& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasNonStandardData = PerReadBit(r);
-  m.hasTokens = PerReadBit(r);
-  m.hasCryptoTokens = PerReadBit(r);
-  m.hasIntegrityCheckValue = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 5);
+  m.isExtended = flags.Next();
+  m.hasNonStandardData = flags.Next();
+  m.hasTokens = flags.Next();
+  m.hasCryptoTokens = flags.Next();
+  m.hasIntegrityCheckValue = flags.Next();
   m.requestSeqNum = PerReadNumber<uint16_t>(r, 1, 65535);
   if (m.hasNonStandardData) KELVRA_TRY(DecodeNonStandardParameter(m.nonStandardData, r));
   if (m.hasTokens) KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.tokens), r, h235::DecodeClearToken));
@@ -25,12 +26,13 @@ Status DecodeInfoRequestAck(InfoRequestAck& m, PerReader& r) {
 
 Status DecodeInfoRequestNak(InfoRequestNak& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasNonStandardData = PerReadBit(r);
-  m.hasAltGKInfo = PerReadBit(r);
-  m.hasTokens = PerReadBit(r);
-  m.hasCryptoTokens = PerReadBit(r);
-  m.hasIntegrityCheckValue = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 6);
+  m.isExtended = flags.Next();
+  m.hasNonStandardData = flags.Next();
+  m.hasAltGKInfo = flags.Next();
+  m.hasTokens = flags.Next();
+  m.hasCryptoTokens = flags.Next();
+  m.hasIntegrityCheckValue = flags.Next();
   m.requestSeqNum = PerReadNumber<uint16_t>(r, 1, 65535);
   if (m.hasNonStandardData) KELVRA_TRY(DecodeNonStandardParameter(m.nonStandardData, r));
   KELVRA_TRY(DecodeNullChoice(m.nakReason, r));

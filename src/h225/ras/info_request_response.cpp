@@ -31,12 +31,13 @@ Status DecodePdu(InfoRequestResponse::PerCallInfo::Pdu& m, PerReader& r) {
 }
 
 Status DecodePerCallInfo(InfoRequestResponse::PerCallInfo& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasNonStandardData = PerReadBit(r);
-  m.hasOriginator = PerReadBit(r);
-  m.hasAudio = PerReadBit(r);
-  m.hasVideo = PerReadBit(r);
-  m.hasData = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 6);
+  m.isExtended = flags.Next();
+  m.hasNonStandardData = flags.Next();
+  m.hasOriginator = flags.Next();
+  m.hasAudio = flags.Next();
+  m.hasVideo = flags.Next();
+  m.hasData = flags.Next();
   if (m.hasNonStandardData) KELVRA_TRY(DecodeNonStandardParameter(m.nonStandardData, r));
   m.callReferenceValue = PerReadNumber<uint16_t>(r, 0, 65535);
   KELVRA_TRY(DecodeGloballyUniqueID(m.conferenceID, r));
@@ -52,14 +53,15 @@ Status DecodePerCallInfo(InfoRequestResponse::PerCallInfo& m, PerReader& r) {
   if (!m.isExtended) return kDecoded;
 
   int32_t additions = PerReadBitmapLength(r);
-  m.hasCallIdentifier = PerReadAdditionBit(r, additions);
-  m.hasTokens = PerReadAdditionBit(r, additions);
-  m.hasCryptoTokens = PerReadAdditionBit(r, additions);
-  m.hasSubstituteConfIDs = PerReadAdditionBit(r, additions);
-  m.hasPdu = PerReadAdditionBit(r, additions);
-  m.hasCallLinkage = PerReadAdditionBit(r, additions);
-  m.hasUsageInformation = PerReadAdditionBit(r, additions);
-  m.hasCircuitInfo = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 8);
+  m.hasCallIdentifier = known.Next();
+  m.hasTokens = known.Next();
+  m.hasCryptoTokens = known.Next();
+  m.hasSubstituteConfIDs = known.Next();
+  m.hasPdu = known.Next();
+  m.hasCallLinkage = known.Next();
+  m.hasUsageInformation = known.Next();
+  m.hasCircuitInfo = known.Next();
   PerNoteUnknownAdditions(r, additions);
   if (m.hasCallIdentifier) KELVRA_TRY(DecodeOpen(m.callIdentifier, r, DecodeCallIdentifier));
   if (m.hasTokens) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.tokens), r, h235::DecodeClearToken));
@@ -78,10 +80,11 @@ Status DecodePerCallInfo(InfoRequestResponse::PerCallInfo& m, PerReader& r) {
 
 Status DecodeInfoRequestResponse(InfoRequestResponse& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasNonStandardData = PerReadBit(r);
-  m.hasEndpointAlias = PerReadBit(r);
-  m.hasPerCallInfo = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 4);
+  m.isExtended = flags.Next();
+  m.hasNonStandardData = flags.Next();
+  m.hasEndpointAlias = flags.Next();
+  m.hasPerCallInfo = flags.Next();
   if (m.hasNonStandardData) KELVRA_TRY(DecodeNonStandardParameter(m.nonStandardData, r));
   m.requestSeqNum = PerReadNumber<uint16_t>(r, 1, 65535);
   KELVRA_TRY(DecodeEndpointType(m.endpointType, r));
@@ -93,14 +96,15 @@ Status DecodeInfoRequestResponse(InfoRequestResponse& m, PerReader& r) {
   if (!m.isExtended) return kDecoded;
 
   int32_t additions = PerReadBitmapLength(r);
-  m.hasTokens = PerReadAdditionBit(r, additions);
-  m.hasCryptoTokens = PerReadAdditionBit(r, additions);
-  m.hasIntegrityCheckValue = PerReadAdditionBit(r, additions);
-  m.hasNeedResponse = PerReadAdditionBit(r, additions);
-  m.hasCapacity = PerReadAdditionBit(r, additions);
-  m.hasIrrStatus = PerReadAdditionBit(r, additions);
-  m.hasUnsolicited = PerReadAdditionBit(r, additions);
-  m.hasGenericData = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 8);
+  m.hasTokens = known.Next();
+  m.hasCryptoTokens = known.Next();
+  m.hasIntegrityCheckValue = known.Next();
+  m.hasNeedResponse = known.Next();
+  m.hasCapacity = known.Next();
+  m.hasIrrStatus = known.Next();
+  m.hasUnsolicited = known.Next();
+  m.hasGenericData = known.Next();
   PerNoteUnknownAdditions(r, additions);
   if (m.hasTokens) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.tokens), r, h235::DecodeClearToken));
   if (m.hasCryptoTokens) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.cryptoTokens), r, DecodeCryptoH323Token));

@@ -16,9 +16,10 @@ namespace kelvra::h225 {
 
 Status DecodeLocationRequest(LocationRequest& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasEndpointIdentifier = PerReadBit(r);
-  m.hasNonStandardData = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 3);
+  m.isExtended = flags.Next();
+  m.hasEndpointIdentifier = flags.Next();
+  m.hasNonStandardData = flags.Next();
   m.requestSeqNum = PerReadNumber<uint16_t>(r, 1, 65535);
   if (m.hasEndpointIdentifier) KELVRA_TRY(DecodeIdentifierString(m.endpointIdentifier, r));
   KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.destinationInfo), r, DecodeAliasAddress));
@@ -27,18 +28,19 @@ Status DecodeLocationRequest(LocationRequest& m, PerReader& r) {
   if (!m.isExtended) return kDecoded;
 
   int32_t additions = PerReadBitmapLength(r);
-  m.hasSourceInfo = PerReadAdditionBit(r, additions);
-  m.hasCanMapAlias = PerReadAdditionBit(r, additions);
-  m.hasGatekeeperIdentifier = PerReadAdditionBit(r, additions);
-  m.hasTokens = PerReadAdditionBit(r, additions);
-  m.hasCryptoTokens = PerReadAdditionBit(r, additions);
-  m.hasIntegrityCheckValue = PerReadAdditionBit(r, additions);
-  m.hasDesiredProtocols = PerReadAdditionBit(r, additions);
-  m.hasDesiredTunnelledProtocol = PerReadAdditionBit(r, additions);
-  m.hasFeatureSet = PerReadAdditionBit(r, additions);
-  m.hasGenericData = PerReadAdditionBit(r, additions);
-  m.hasHopCount = PerReadAdditionBit(r, additions);
-  m.hasCircuitInfo = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 12);
+  m.hasSourceInfo = known.Next();
+  m.hasCanMapAlias = known.Next();
+  m.hasGatekeeperIdentifier = known.Next();
+  m.hasTokens = known.Next();
+  m.hasCryptoTokens = known.Next();
+  m.hasIntegrityCheckValue = known.Next();
+  m.hasDesiredProtocols = known.Next();
+  m.hasDesiredTunnelledProtocol = known.Next();
+  m.hasFeatureSet = known.Next();
+  m.hasGenericData = known.Next();
+  m.hasHopCount = known.Next();
+  m.hasCircuitInfo = known.Next();
   PerNoteUnknownAdditions(r, additions);
   if (m.hasSourceInfo) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.sourceInfo), r, DecodeAliasAddress));
   if (m.hasCanMapAlias) m.canMapAlias = PerReadOpenBoolean(r);
@@ -59,8 +61,9 @@ Status DecodeLocationRequest(LocationRequest& m, PerReader& r) {
 
 Status DecodeLocationConfirm(LocationConfirm& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasNonStandardData = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasNonStandardData = flags.Next();
   m.requestSeqNum = PerReadNumber<uint16_t>(r, 1, 65535);
   KELVRA_TRY(DecodeTransportAddress(m.callSignalAddress, r));
   KELVRA_TRY(DecodeTransportAddress(m.rasAddress, r));
@@ -68,21 +71,22 @@ Status DecodeLocationConfirm(LocationConfirm& m, PerReader& r) {
   if (!m.isExtended) return kDecoded;
 
   int32_t additions = PerReadBitmapLength(r);
-  m.hasDestinationInfo = PerReadAdditionBit(r, additions);
-  m.hasDestExtraCallInfo = PerReadAdditionBit(r, additions);
-  m.hasDestinationType = PerReadAdditionBit(r, additions);
-  m.hasRemoteExtensionAddress = PerReadAdditionBit(r, additions);
-  m.hasAlternateEndpoints = PerReadAdditionBit(r, additions);
-  m.hasTokens = PerReadAdditionBit(r, additions);
-  m.hasCryptoTokens = PerReadAdditionBit(r, additions);
-  m.hasIntegrityCheckValue = PerReadAdditionBit(r, additions);
-  m.hasAlternateTransportAddresses = PerReadAdditionBit(r, additions);
-  m.hasSupportedProtocols = PerReadAdditionBit(r, additions);
-  m.hasMultipleCalls = PerReadAdditionBit(r, additions);
-  m.hasFeatureSet = PerReadAdditionBit(r, additions);
-  m.hasGenericData = PerReadAdditionBit(r, additions);
-  m.hasCircuitInfo = PerReadAdditionBit(r, additions);
-  m.hasServiceControl = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 15);
+  m.hasDestinationInfo = known.Next();
+  m.hasDestExtraCallInfo = known.Next();
+  m.hasDestinationType = known.Next();
+  m.hasRemoteExtensionAddress = known.Next();
+  m.hasAlternateEndpoints = known.Next();
+  m.hasTokens = known.Next();
+  m.hasCryptoTokens = known.Next();
+  m.hasIntegrityCheckValue = known.Next();
+  m.hasAlternateTransportAddresses = known.Next();
+  m.hasSupportedProtocols = known.Next();
+  m.hasMultipleCalls = known.Next();
+  m.hasFeatureSet = known.Next();
+  m.hasGenericData = known.Next();
+  m.hasCircuitInfo = known.Next();
+  m.hasServiceControl = known.Next();
   PerNoteUnknownAdditions(r, additions);
   if (m.hasDestinationInfo) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.destinationInfo), r, DecodeAliasAddress));
   if (m.hasDestExtraCallInfo) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.destExtraCallInfo), r, DecodeAliasAddress));
@@ -109,21 +113,23 @@ Status DecodeLocationConfirm(LocationConfirm& m, PerReader& r) {
 
 Status DecodeLocationReject(LocationReject& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasNonStandardData = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasNonStandardData = flags.Next();
   m.requestSeqNum = PerReadNumber<uint16_t>(r, 1, 65535);
   KELVRA_TRY(DecodeRouteRejectReason(m.rejectReason, r));
   if (m.hasNonStandardData) KELVRA_TRY(DecodeNonStandardParameter(m.nonStandardData, r));
   if (!m.isExtended) return kDecoded;
 
   int32_t additions = PerReadBitmapLength(r);
-  m.hasAltGKInfo = PerReadAdditionBit(r, additions);
-  m.hasTokens = PerReadAdditionBit(r, additions);
-  m.hasCryptoTokens = PerReadAdditionBit(r, additions);
-  m.hasIntegrityCheckValue = PerReadAdditionBit(r, additions);
-  m.hasFeatureSet = PerReadAdditionBit(r, additions);
-  m.hasGenericData = PerReadAdditionBit(r, additions);
-  m.hasServiceControl = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 7);
+  m.hasAltGKInfo = known.Next();
+  m.hasTokens = known.Next();
+  m.hasCryptoTokens = known.Next();
+  m.hasIntegrityCheckValue = known.Next();
+  m.hasFeatureSet = known.Next();
+  m.hasGenericData = known.Next();
+  m.hasServiceControl = known.Next();
   PerNoteUnknownAdditions(r, additions);
   if (m.hasAltGKInfo) KELVRA_TRY(DecodeOpen(m.altGKInfo, r, DecodeAltGKInfo));
   if (m.hasTokens) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.tokens), r, h235::DecodeClearToken));

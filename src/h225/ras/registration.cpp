@@ -18,20 +18,23 @@ namespace kelvra::h225 {
 namespace {
 
 Status DecodePreGrantedARQ(RegistrationConfirm::PreGrantedARQ& m, PerReader& r, int32_t mode) {
-  m.isExtended = PerReadBit(r);
-  m.makeCall = PerReadBit(r);
-  m.useGKCallSignalAddressToMakeCall = PerReadBit(r);
-  m.answerCall = PerReadBit(r);
-  m.useGKCallSignalAddressToAnswer = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 5);
+  m.isExtended = flags.Next();
+  m.makeCall = flags.Next();
+  m.useGKCallSignalAddressToMakeCall = flags.Next();
+  m.answerCall = flags.Next();
+  m.useGKCallSignalAddressToAnswer = flags.Next();
   if (!m.isExtended) return kDecoded;
 
   int32_t additions = PerReadBitmapLength(r);
-  m.hasIrrFrequencyInCall = PerReadAdditionBit(r, additions);
-  m.hasTotalBandwidthRestriction = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 2);
+  m.hasIrrFrequencyInCall = known.Next();
+  m.hasTotalBandwidthRestriction = known.Next();
   if (mode == kVersion3Mode) m.hasVersionThreeBoolean = PerReadAdditionBit(r, additions);
   if (mode == kVersion4Mode) {
-    m.hasAlternateTransportAddresses = PerReadAdditionBit(r, additions);
-    m.hasUseSpecifiedTransport = PerReadAdditionBit(r, additions);
+    known = PerReadKnownAdditions(r, additions, 2);
+    m.hasAlternateTransportAddresses = known.Next();
+    m.hasUseSpecifiedTransport = known.Next();
   }
   PerNoteUnknownAdditions(r, additions);
   if (m.hasIrrFrequencyInCall) m.irrFrequencyInCall = PerReadOpenNumber<uint16_t>(r, 1, 65535);
@@ -46,10 +49,11 @@ Status DecodePreGrantedARQ(RegistrationConfirm::PreGrantedARQ& m, PerReader& r, 
 }
 
 Status DecodeInvalidTerminalAliases(RegistrationRejectReason::InvalidTerminalAliases& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasTerminalAlias = PerReadBit(r);
-  m.hasTerminalAliasPattern = PerReadBit(r);
-  m.hasSupportedPrefixes = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 4);
+  m.isExtended = flags.Next();
+  m.hasTerminalAlias = flags.Next();
+  m.hasTerminalAliasPattern = flags.Next();
+  m.hasSupportedPrefixes = flags.Next();
   if (m.hasTerminalAlias) KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.terminalAlias), r, DecodeAliasAddress));
   if (m.hasTerminalAliasPattern)
     KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.terminalAliasPattern), r, DecodeAddressPattern));
@@ -73,10 +77,11 @@ Status DecodeRegistrationRejectReason(RegistrationRejectReason& m, PerReader& r)
 
 Status DecodeRegistrationRequest(RegistrationRequest& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasNonStandardData = PerReadBit(r);
-  m.hasTerminalAlias = PerReadBit(r);
-  m.hasGatekeeperIdentifier = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 4);
+  m.isExtended = flags.Next();
+  m.hasNonStandardData = flags.Next();
+  m.hasTerminalAlias = flags.Next();
+  m.hasGatekeeperIdentifier = flags.Next();
   m.requestSeqNum = PerReadNumber<uint16_t>(r, 1, 65535);
   int32_t mode = 0;
   KELVRA_TRY(ReadRegistrationProtocolIdentifier(m.protocolIdentifier, r, mode));
@@ -91,29 +96,31 @@ Status DecodeRegistrationRequest(RegistrationRequest& m, PerReader& r) {
   if (!m.isExtended) return kDecoded;
 
   int32_t additions = PerReadBitmapLength(r);
-  m.hasAlternateEndpoints = PerReadAdditionBit(r, additions);
-  m.hasTimeToLive = PerReadAdditionBit(r, additions);
-  m.hasTokens = PerReadAdditionBit(r, additions);
-  m.hasCryptoTokens = PerReadAdditionBit(r, additions);
-  m.hasIntegrityCheckValue = PerReadAdditionBit(r, additions);
-  m.hasKeepAlive = PerReadAdditionBit(r, additions);
-  m.hasEndpointIdentifier = PerReadAdditionBit(r, additions);
-  m.hasWillSupplyUUIEs = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 8);
+  m.hasAlternateEndpoints = known.Next();
+  m.hasTimeToLive = known.Next();
+  m.hasTokens = known.Next();
+  m.hasCryptoTokens = known.Next();
+  m.hasIntegrityCheckValue = known.Next();
+  m.hasKeepAlive = known.Next();
+  m.hasEndpointIdentifier = known.Next();
+  m.hasWillSupplyUUIEs = known.Next();
   if (mode >= kVersion3Mode) m.hasMaintainConnection = PerReadAdditionBit(r, additions);
   if (mode == kVersion3Mode) m.hasVersionThreeBoolean = PerReadAdditionBit(r, additions);
   if (mode == kVersion4Mode) {
-    m.hasAlternateTransportAddresses = PerReadAdditionBit(r, additions);
-    m.hasAdditiveRegistration = PerReadAdditionBit(r, additions);
-    m.hasTerminalAliasPattern = PerReadAdditionBit(r, additions);
-    m.hasSupportsAltGK = PerReadAdditionBit(r, additions);
-    m.hasUsageReportingCapability = PerReadAdditionBit(r, additions);
-    m.hasMultipleCalls = PerReadAdditionBit(r, additions);
-    m.hasSupportedH248Packages = PerReadAdditionBit(r, additions);
-    m.hasCallCreditCapability = PerReadAdditionBit(r, additions);
-    m.hasCapacityReportingCapability = PerReadAdditionBit(r, additions);
-    m.hasCapacity = PerReadAdditionBit(r, additions);
-    m.hasFeatureSet = PerReadAdditionBit(r, additions);
-    m.hasGenericData = PerReadAdditionBit(r, additions);
+    known = PerReadKnownAdditions(r, additions, 12);
+    m.hasAlternateTransportAddresses = known.Next();
+    m.hasAdditiveRegistration = known.Next();
+    m.hasTerminalAliasPattern = known.Next();
+    m.hasSupportsAltGK = known.Next();
+    m.hasUsageReportingCapability = known.Next();
+    m.hasMultipleCalls = known.Next();
+    m.hasSupportedH248Packages = known.Next();
+    m.hasCallCreditCapability = known.Next();
+    m.hasCapacityReportingCapability = known.Next();
+    m.hasCapacity = known.Next();
+    m.hasFeatureSet = known.Next();
+    m.hasGenericData = known.Next();
   }
   PerNoteUnknownAdditions(r, additions);
   if (m.hasAlternateEndpoints) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.alternateEndpoints), r, DecodeEndpoint));
@@ -148,10 +155,11 @@ Status DecodeRegistrationRequest(RegistrationRequest& m, PerReader& r) {
 
 Status DecodeRegistrationConfirm(RegistrationConfirm& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasNonStandardData = PerReadBit(r);
-  m.hasTerminalAlias = PerReadBit(r);
-  m.hasGatekeeperIdentifier = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 4);
+  m.isExtended = flags.Next();
+  m.hasNonStandardData = flags.Next();
+  m.hasTerminalAlias = flags.Next();
+  m.hasGatekeeperIdentifier = flags.Next();
   m.requestSeqNum = PerReadNumber<uint16_t>(r, 1, 65535);
   int32_t mode = 0;
   KELVRA_TRY(ReadRegistrationProtocolIdentifier(m.protocolIdentifier, r, mode));
@@ -163,23 +171,24 @@ Status DecodeRegistrationConfirm(RegistrationConfirm& m, PerReader& r) {
   if (!m.isExtended) return kDecoded;
 
   int32_t additions = PerReadBitmapLength(r);
-  m.hasAlternateGatekeeper = PerReadAdditionBit(r, additions);
-  m.hasTimeToLive = PerReadAdditionBit(r, additions);
-  m.hasTokens = PerReadAdditionBit(r, additions);
-  m.hasCryptoTokens = PerReadAdditionBit(r, additions);
-  m.hasIntegrityCheckValue = PerReadAdditionBit(r, additions);
-  m.hasWillRespondToIRR = PerReadAdditionBit(r, additions);
-  m.hasPreGrantedARQ = PerReadAdditionBit(r, additions);
-  m.hasMaintainConnection = PerReadAdditionBit(r, additions);
-  m.hasServiceControl = PerReadAdditionBit(r, additions);
-  m.hasSupportsAdditiveRegistration = PerReadAdditionBit(r, additions);
-  m.hasTerminalAliasPattern = PerReadAdditionBit(r, additions);
-  m.hasSupportedPrefixes = PerReadAdditionBit(r, additions);
-  m.hasUsageSpec = PerReadAdditionBit(r, additions);
-  m.hasFeatureServerAlias = PerReadAdditionBit(r, additions);
-  m.hasCapacityReportingSpec = PerReadAdditionBit(r, additions);
-  m.hasFeatureSet = PerReadAdditionBit(r, additions);
-  m.hasGenericData = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 17);
+  m.hasAlternateGatekeeper = known.Next();
+  m.hasTimeToLive = known.Next();
+  m.hasTokens = known.Next();
+  m.hasCryptoTokens = known.Next();
+  m.hasIntegrityCheckValue = known.Next();
+  m.hasWillRespondToIRR = known.Next();
+  m.hasPreGrantedARQ = known.Next();
+  m.hasMaintainConnection = known.Next();
+  m.hasServiceControl = known.Next();
+  m.hasSupportsAdditiveRegistration = known.Next();
+  m.hasTerminalAliasPattern = known.Next();
+  m.hasSupportedPrefixes = known.Next();
+  m.hasUsageSpec = known.Next();
+  m.hasFeatureServerAlias = known.Next();
+  m.hasCapacityReportingSpec = known.Next();
+  m.hasFeatureSet = known.Next();
+  m.hasGenericData = known.Next();
   PerNoteUnknownAdditions(r, additions);
   if (m.hasAlternateGatekeeper)
     KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.alternateGatekeeper), r, DecodeAlternateGK));
@@ -213,9 +222,10 @@ Status DecodeRegistrationConfirm(RegistrationConfirm& m, PerReader& r) {
 
 Status DecodeRegistrationReject(RegistrationReject& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasNonStandardData = PerReadBit(r);
-  m.hasGatekeeperIdentifier = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 3);
+  m.isExtended = flags.Next();
+  m.hasNonStandardData = flags.Next();
+  m.hasGatekeeperIdentifier = flags.Next();
   m.requestSeqNum = PerReadNumber<uint16_t>(r, 1, 65535);
   PerReadObjectIdentifier(m.protocolIdentifier, r);
   if (m.hasNonStandardData) KELVRA_TRY(DecodeNonStandardParameter(m.nonStandardData, r));
@@ -224,12 +234,13 @@ Status DecodeRegistrationReject(RegistrationReject& m, PerReader& r) {
   if (!m.isExtended) return kDecoded;
 
   int32_t additions = PerReadBitmapLength(r);
-  m.hasAltGKInfo = PerReadAdditionBit(r, additions);
-  m.hasTokens = PerReadAdditionBit(r, additions);
-  m.hasCryptoTokens = PerReadAdditionBit(r, additions);
-  m.hasIntegrityCheckValue = PerReadAdditionBit(r, additions);
-  m.hasFeatureSet = PerReadAdditionBit(r, additions);
-  m.hasGenericData = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 6);
+  m.hasAltGKInfo = known.Next();
+  m.hasTokens = known.Next();
+  m.hasCryptoTokens = known.Next();
+  m.hasIntegrityCheckValue = known.Next();
+  m.hasFeatureSet = known.Next();
+  m.hasGenericData = known.Next();
   PerNoteUnknownAdditions(r, additions);
   if (m.hasAltGKInfo) KELVRA_TRY(DecodeOpen(m.altGKInfo, r, DecodeAltGKInfo));
   if (m.hasTokens) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.tokens), r, h235::DecodeClearToken));

@@ -12,11 +12,12 @@ namespace kelvra::h225 {
 
 Status DecodeResourcesAvailableIndicate(ResourcesAvailableIndicate& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasNonStandardData = PerReadBit(r);
-  m.hasTokens = PerReadBit(r);
-  m.hasCryptoTokens = PerReadBit(r);
-  m.hasIntegrityCheckValue = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 5);
+  m.isExtended = flags.Next();
+  m.hasNonStandardData = flags.Next();
+  m.hasTokens = flags.Next();
+  m.hasCryptoTokens = flags.Next();
+  m.hasIntegrityCheckValue = flags.Next();
   m.requestSeqNum = PerReadNumber<uint16_t>(r, 1, 65535);
   PerReadObjectIdentifier(m.protocolIdentifier, r);
   if (m.hasNonStandardData) KELVRA_TRY(DecodeNonStandardParameter(m.nonStandardData, r));
@@ -31,8 +32,9 @@ Status DecodeResourcesAvailableIndicate(ResourcesAvailableIndicate& m, PerReader
   if (!m.isExtended) return kDecoded;
 
   int32_t additions = PerReadBitmapLength(r);
-  m.hasCapacity = PerReadAdditionBit(r, additions);
-  m.hasGenericData = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 2);
+  m.hasCapacity = known.Next();
+  m.hasGenericData = known.Next();
   PerNoteUnknownAdditions(r, additions);
   if (m.hasCapacity) KELVRA_TRY(DecodeOpen(m.capacity, r, DecodeCallCapacity));
   if (m.hasGenericData) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.genericData), r, DecodeGenericData));
@@ -42,11 +44,12 @@ Status DecodeResourcesAvailableIndicate(ResourcesAvailableIndicate& m, PerReader
 
 Status DecodeResourcesAvailableConfirm(ResourcesAvailableConfirm& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasNonStandardData = PerReadBit(r);
-  m.hasTokens = PerReadBit(r);
-  m.hasCryptoTokens = PerReadBit(r);
-  m.hasIntegrityCheckValue = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 5);
+  m.isExtended = flags.Next();
+  m.hasNonStandardData = flags.Next();
+  m.hasTokens = flags.Next();
+  m.hasCryptoTokens = flags.Next();
+  m.hasIntegrityCheckValue = flags.Next();
   m.requestSeqNum = PerReadNumber<uint16_t>(r, 1, 65535);
   PerReadObjectIdentifier(m.protocolIdentifier, r);
   if (m.hasNonStandardData) KELVRA_TRY(DecodeNonStandardParameter(m.nonStandardData, r));

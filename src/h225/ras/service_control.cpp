@@ -23,15 +23,16 @@ Status DecodeCallSpecific(ServiceControlIndication::CallSpecific& m, PerReader& 
 
 Status DecodeServiceControlIndication(ServiceControlIndication& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasNonStandardData = PerReadBit(r);
-  m.hasEndpointIdentifier = PerReadBit(r);
-  m.hasCallSpecific = PerReadBit(r);
-  m.hasTokens = PerReadBit(r);
-  m.hasCryptoTokens = PerReadBit(r);
-  m.hasIntegrityCheckValue = PerReadBit(r);
-  m.hasFeatureSet = PerReadBit(r);
-  m.hasGenericData = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 9);
+  m.isExtended = flags.Next();
+  m.hasNonStandardData = flags.Next();
+  m.hasEndpointIdentifier = flags.Next();
+  m.hasCallSpecific = flags.Next();
+  m.hasTokens = flags.Next();
+  m.hasCryptoTokens = flags.Next();
+  m.hasIntegrityCheckValue = flags.Next();
+  m.hasFeatureSet = flags.Next();
+  m.hasGenericData = flags.Next();
   m.requestSeqNum = PerReadNumber<uint16_t>(r, 1, 65535);
   if (m.hasNonStandardData) KELVRA_TRY(DecodeNonStandardParameter(m.nonStandardData, r));
   KELVRA_TRY(DecodeSequenceOf(KELVRA_LIST(m.serviceControl), r, DecodeServiceControlSession));
@@ -48,14 +49,15 @@ Status DecodeServiceControlIndication(ServiceControlIndication& m, PerReader& r)
 
 Status DecodeServiceControlResponse(ServiceControlResponse& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasResult = PerReadBit(r);
-  m.hasNonStandardData = PerReadBit(r);
-  m.hasTokens = PerReadBit(r);
-  m.hasCryptoTokens = PerReadBit(r);
-  m.hasIntegrityCheckValue = PerReadBit(r);
-  m.hasFeatureSet = PerReadBit(r);
-  m.hasGenericData = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 8);
+  m.isExtended = flags.Next();
+  m.hasResult = flags.Next();
+  m.hasNonStandardData = flags.Next();
+  m.hasTokens = flags.Next();
+  m.hasCryptoTokens = flags.Next();
+  m.hasIntegrityCheckValue = flags.Next();
+  m.hasFeatureSet = flags.Next();
+  m.hasGenericData = flags.Next();
   m.requestSeqNum = PerReadNumber<uint16_t>(r, 1, 65535);
   if (m.hasResult) KELVRA_TRY(DecodeNullChoice(m.result, r));
   if (m.hasNonStandardData) KELVRA_TRY(DecodeNonStandardParameter(m.nonStandardData, r));

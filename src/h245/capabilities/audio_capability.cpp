@@ -12,48 +12,51 @@ void DecodeG7231(AudioCapability::G7231& m, PerReader& r) {
 }
 
 void DecodeIS11172AudioCapability(IS11172AudioCapability& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.audioLayer1 = PerReadBit(r);
-  m.audioLayer2 = PerReadBit(r);
-  m.audioLayer3 = PerReadBit(r);
-  m.audioSampling32k = PerReadBit(r);
-  m.audioSampling44k1 = PerReadBit(r);
-  m.audioSampling48k = PerReadBit(r);
-  m.singleChannel = PerReadBit(r);
-  m.twoChannels = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 9);
+  m.isExtended = flags.Next();
+  m.audioLayer1 = flags.Next();
+  m.audioLayer2 = flags.Next();
+  m.audioLayer3 = flags.Next();
+  m.audioSampling32k = flags.Next();
+  m.audioSampling44k1 = flags.Next();
+  m.audioSampling48k = flags.Next();
+  m.singleChannel = flags.Next();
+  m.twoChannels = flags.Next();
   m.bitRate = PerReadNumber<uint16_t>(r, 1, 448);
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
 void DecodeIS13818AudioCapability(IS13818AudioCapability& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.audioLayer1 = PerReadBit(r);
-  m.audioLayer2 = PerReadBit(r);
-  m.audioLayer3 = PerReadBit(r);
-  m.audioSampling16k = PerReadBit(r);
-  m.audioSampling22k05 = PerReadBit(r);
-  m.audioSampling24k = PerReadBit(r);
-  m.audioSampling32k = PerReadBit(r);
-  m.audioSampling44k1 = PerReadBit(r);
-  m.audioSampling48k = PerReadBit(r);
-  m.singleChannel = PerReadBit(r);
-  m.twoChannels = PerReadBit(r);
-  m.threeChannels21 = PerReadBit(r);
-  m.threeChannels30 = PerReadBit(r);
-  m.fourChannels2020 = PerReadBit(r);
-  m.fourChannels22 = PerReadBit(r);
-  m.fourChannels31 = PerReadBit(r);
-  m.fiveChannels3020 = PerReadBit(r);
-  m.fiveChannels32 = PerReadBit(r);
-  m.lowFrequencyEnhancement = PerReadBit(r);
-  m.multilingual = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 21);
+  m.isExtended = flags.Next();
+  m.audioLayer1 = flags.Next();
+  m.audioLayer2 = flags.Next();
+  m.audioLayer3 = flags.Next();
+  m.audioSampling16k = flags.Next();
+  m.audioSampling22k05 = flags.Next();
+  m.audioSampling24k = flags.Next();
+  m.audioSampling32k = flags.Next();
+  m.audioSampling44k1 = flags.Next();
+  m.audioSampling48k = flags.Next();
+  m.singleChannel = flags.Next();
+  m.twoChannels = flags.Next();
+  m.threeChannels21 = flags.Next();
+  m.threeChannels30 = flags.Next();
+  m.fourChannels2020 = flags.Next();
+  m.fourChannels22 = flags.Next();
+  m.fourChannels31 = flags.Next();
+  m.fiveChannels3020 = flags.Next();
+  m.fiveChannels32 = flags.Next();
+  m.lowFrequencyEnhancement = flags.Next();
+  m.multilingual = flags.Next();
   m.bitRate = PerReadNumber<uint16_t>(r, 1, 1130);
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
 void DecodeG7231AnnexCCapability(G7231AnnexCCapability& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasG723AnnexCAudioMode = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasG723AnnexCAudioMode = flags.Next();
   m.maxAlSduAudioFrames = PerReadNumber<uint16_t>(r, 1, 256);
   m.silenceSuppression = PerReadBit(r);
   if (m.hasG723AnnexCAudioMode) DecodeG723AnnexCAudioMode(m.g723AnnexCAudioMode, r);
@@ -76,22 +79,25 @@ void DecodeG723AnnexCAudioMode(G7231AnnexCCapability::G723AnnexCAudioMode& m, Pe
 void DecodeGSMAudioCapability(GSMAudioCapability& m, PerReader& r) {
   m.isExtended = PerReadBit(r);
   m.audioUnitSize = PerReadNumber<uint16_t>(r, 1, 256);
-  m.comfortNoise = PerReadBit(r);
-  m.scrambled = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.comfortNoise = flags.Next();
+  m.scrambled = flags.Next();
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
 void DecodeG729Extensions(G729Extensions& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasAudioUnit = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasAudioUnit = flags.Next();
   if (m.hasAudioUnit) m.audioUnit = PerReadNumber<uint16_t>(r, 1, 256);
-  m.annexA = PerReadBit(r);
-  m.annexB = PerReadBit(r);
-  m.annexD = PerReadBit(r);
-  m.annexE = PerReadBit(r);
-  m.annexF = PerReadBit(r);
-  m.annexG = PerReadBit(r);
-  m.annexH = PerReadBit(r);
+  flags = PerReadFlags(r, 7);
+  m.annexA = flags.Next();
+  m.annexB = flags.Next();
+  m.annexD = flags.Next();
+  m.annexE = flags.Next();
+  m.annexF = flags.Next();
+  m.annexG = flags.Next();
+  m.annexH = flags.Next();
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 

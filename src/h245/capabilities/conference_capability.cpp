@@ -5,16 +5,18 @@
 namespace kelvra::h245 {
 
 void DecodeConferenceCapability(ConferenceCapability& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasNonStandardData = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasNonStandardData = flags.Next();
   if (m.hasNonStandardData)
     KELVRA_OR_STOP(DecodeSequenceOf(KELVRA_LIST(m.nonStandardData), r, DecodeNonStandardParameter));
   m.chairControlCapability = PerReadBit(r);
   if (!m.isExtended) return;
 
   int32_t additions = PerReadBitmapLength8(r);
-  m.hasVideoIndicateMixingCapability = PerReadAdditionBit(r, additions);
-  m.hasMultipointVisualizationCapability = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 2);
+  m.hasVideoIndicateMixingCapability = known.Next();
+  m.hasMultipointVisualizationCapability = known.Next();
   const int32_t unknown = PerCountUnknownAdditions(r, additions);
   if (m.hasVideoIndicateMixingCapability) m.videoIndicateMixingCapability = PerReadOpenBoolean(r);
   if (m.hasMultipointVisualizationCapability) m.multipointVisualizationCapability = PerReadOpenBoolean(r);

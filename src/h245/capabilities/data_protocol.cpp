@@ -33,40 +33,43 @@ void DecodeV76wCompression(DataProtocolCapability::V76wCompression& m, PerReader
 }
 
 void DecodeT84Restricted(T84Profile::T84Restricted& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.qcif = PerReadBit(r);
-  m.cif = PerReadBit(r);
-  m.ccir601Seq = PerReadBit(r);
-  m.ccir601Prog = PerReadBit(r);
-  m.hdtvSeq = PerReadBit(r);
-  m.hdtvProg = PerReadBit(r);
-  m.g3FacsMH200x100 = PerReadBit(r);
-  m.g3FacsMH200x200 = PerReadBit(r);
-  m.g4FacsMMR200x100 = PerReadBit(r);
-  m.g4FacsMMR200x200 = PerReadBit(r);
-  m.jbig200x200Seq = PerReadBit(r);
-  m.jbig200x200Prog = PerReadBit(r);
-  m.jbig300x300Seq = PerReadBit(r);
-  m.jbig300x300Prog = PerReadBit(r);
-  m.digPhotoLow = PerReadBit(r);
-  m.digPhotoMedSeq = PerReadBit(r);
-  m.digPhotoMedProg = PerReadBit(r);
-  m.digPhotoHighSeq = PerReadBit(r);
-  m.digPhotoHighProg = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 20);
+  m.isExtended = flags.Next();
+  m.qcif = flags.Next();
+  m.cif = flags.Next();
+  m.ccir601Seq = flags.Next();
+  m.ccir601Prog = flags.Next();
+  m.hdtvSeq = flags.Next();
+  m.hdtvProg = flags.Next();
+  m.g3FacsMH200x100 = flags.Next();
+  m.g3FacsMH200x200 = flags.Next();
+  m.g4FacsMMR200x100 = flags.Next();
+  m.g4FacsMMR200x200 = flags.Next();
+  m.jbig200x200Seq = flags.Next();
+  m.jbig200x200Prog = flags.Next();
+  m.jbig300x300Seq = flags.Next();
+  m.jbig300x300Prog = flags.Next();
+  m.digPhotoLow = flags.Next();
+  m.digPhotoMedSeq = flags.Next();
+  m.digPhotoMedProg = flags.Next();
+  m.digPhotoHighSeq = flags.Next();
+  m.digPhotoHighProg = flags.Next();
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
 void DecodeT38FaxUdpOptions(T38FaxUdpOptions& m, PerReader& r) {
-  m.hasT38FaxMaxBuffer = PerReadBit(r);
-  m.hasT38FaxMaxDatagram = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.hasT38FaxMaxBuffer = flags.Next();
+  m.hasT38FaxMaxDatagram = flags.Next();
   if (m.hasT38FaxMaxBuffer) m.t38FaxMaxBuffer = PerReadInteger(r);
   if (m.hasT38FaxMaxDatagram) m.t38FaxMaxDatagram = PerReadInteger(r);
   DecodeNullChoice(m.t38FaxUdpEC, r);
 }
 
 void DecodeT38FaxTcpOptions(T38FaxTcpOptions& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.t38TCPBidirectionalMode = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.t38TCPBidirectionalMode = flags.Next();
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
@@ -95,17 +98,19 @@ void DecodeT84Profile(T84Profile& m, PerReader& r) {
 }
 
 void DecodeT38FaxProfile(T38FaxProfile& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.fillBitRemoval = PerReadBit(r);
-  m.transcodingJBIG = PerReadBit(r);
-  m.transcodingMMR = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 4);
+  m.isExtended = flags.Next();
+  m.fillBitRemoval = flags.Next();
+  m.transcodingJBIG = flags.Next();
+  m.transcodingMMR = flags.Next();
   if (!m.isExtended) return;
 
   int32_t additions = PerReadBitmapLength8(r);
-  m.hasVersion = PerReadAdditionBit(r, additions);
-  m.hasT38FaxRateManagement = PerReadAdditionBit(r, additions);
-  m.hasT38FaxUdpOptions = PerReadAdditionBit(r, additions);
-  m.hasT38FaxTcpOptions = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 4);
+  m.hasVersion = known.Next();
+  m.hasT38FaxRateManagement = known.Next();
+  m.hasT38FaxUdpOptions = known.Next();
+  m.hasT38FaxTcpOptions = known.Next();
   const int32_t unknown = PerCountUnknownAdditions(r, additions);
   if (m.hasVersion) m.version = PerReadOpenNumber<uint8_t>(r, 0, 255);
   if (m.hasT38FaxRateManagement) DecodeOpen(m.t38FaxRateManagement, r, DecodeNullChoice);

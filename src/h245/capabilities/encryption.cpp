@@ -16,8 +16,9 @@ void DecodeMediaEncryptionAlgorithm(MediaEncryptionAlgorithm& m, PerReader& r) {
 }
 
 void DecodeAuthenticationCapability(AuthenticationCapability& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasNonStandard = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasNonStandard = flags.Next();
   if (m.hasNonStandard) DecodeNonStandardParameter(m.nonStandard, r);
   if (!m.isExtended) return;
 
@@ -29,8 +30,9 @@ void DecodeAuthenticationCapability(AuthenticationCapability& m, PerReader& r) {
 }
 
 void DecodeIntegrityCapability(IntegrityCapability& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasNonStandard = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasNonStandard = flags.Next();
   if (m.hasNonStandard) DecodeNonStandardParameter(m.nonStandard, r);
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
@@ -54,10 +56,11 @@ void DecodeEncryptionMode(EncryptionMode& m, PerReader& r) {
 }
 
 void DecodeEncryptionAuthenticationAndIntegrity(EncryptionAuthenticationAndIntegrity& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasEncryptionCapability = PerReadBit(r);
-  m.hasAuthenticationCapability = PerReadBit(r);
-  m.hasIntegrityCapability = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 4);
+  m.isExtended = flags.Next();
+  m.hasEncryptionCapability = flags.Next();
+  m.hasAuthenticationCapability = flags.Next();
+  m.hasIntegrityCapability = flags.Next();
   if (m.hasEncryptionCapability)
     KELVRA_OR_STOP(
         DecodeSizedSequenceOf(KELVRA_LIST(m.encryptionCapability), r, 1, 256, DecodeMediaEncryptionAlgorithm));
@@ -74,9 +77,10 @@ void DecodeH235SecurityCapability(H235SecurityCapability& m, PerReader& r) {
 }
 
 void DecodeEncryptionSync(EncryptionSync& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasNonStandard = PerReadBit(r);
-  m.hasEscrowentry = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 3);
+  m.isExtended = flags.Next();
+  m.hasNonStandard = flags.Next();
+  m.hasEscrowentry = flags.Next();
   if (m.hasNonStandard) DecodeNonStandardParameter(m.nonStandard, r);
   m.synchFlag = PerReadNumber<uint8_t>(r, 0, 255);
   PerReadSizedOctets(m.h235Key, r, 1, 65535);

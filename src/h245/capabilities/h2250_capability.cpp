@@ -9,15 +9,16 @@ namespace kelvra::h245 {
 namespace {
 
 void DecodeMediaDistributionCapability(MediaDistributionCapability& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasCentralizedData = PerReadBit(r);
-  m.hasDistributedData = PerReadBit(r);
-  m.centralizedControl = PerReadBit(r);
-  m.distributedControl = PerReadBit(r);
-  m.centralizedAudio = PerReadBit(r);
-  m.distributedAudio = PerReadBit(r);
-  m.centralizedVideo = PerReadBit(r);
-  m.distributedVideo = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 9);
+  m.isExtended = flags.Next();
+  m.hasCentralizedData = flags.Next();
+  m.hasDistributedData = flags.Next();
+  m.centralizedControl = flags.Next();
+  m.distributedControl = flags.Next();
+  m.centralizedAudio = flags.Next();
+  m.distributedAudio = flags.Next();
+  m.centralizedVideo = flags.Next();
+  m.distributedVideo = flags.Next();
   if (m.hasCentralizedData)
     KELVRA_OR_STOP(DecodeSequenceOf(KELVRA_LIST(m.centralizedData), r, DecodeDataApplicationCapability));
   if (m.hasDistributedData)
@@ -26,9 +27,10 @@ void DecodeMediaDistributionCapability(MediaDistributionCapability& m, PerReader
 }
 
 void DecodeMultipointCapability(MultipointCapability& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.multicastCapability = PerReadBit(r);
-  m.multiUniCastConference = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 3);
+  m.isExtended = flags.Next();
+  m.multicastCapability = flags.Next();
+  m.multiUniCastConference = flags.Next();
   KELVRA_OR_STOP(DecodeSequenceOf(KELVRA_LIST(m.mediaDistributionCapability), r, DecodeMediaDistributionCapability));
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
@@ -45,16 +47,18 @@ void DecodePayloadDescriptor(RTPPayloadType::PayloadDescriptor& m, PerReader& r)
 }
 
 void DecodeRTPPayloadType(RTPPayloadType& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasPayloadType = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasPayloadType = flags.Next();
   DecodePayloadDescriptor(m.payloadDescriptor, r);
   if (m.hasPayloadType) m.payloadType = PerReadNumber<uint8_t>(r, 0, 127);
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
 void DecodeMediaPacketizationCapability(MediaPacketizationCapability& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.h261aVideoPacketization = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.h261aVideoPacketization = flags.Next();
   if (!m.isExtended) return;
 
   int32_t additions = PerReadBitmapLength8(r);
@@ -66,8 +70,9 @@ void DecodeMediaPacketizationCapability(MediaPacketizationCapability& m, PerRead
 }
 
 void DecodeRedundancyEncodingCapability(RedundancyEncodingCapability& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasSecondaryEncoding = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasSecondaryEncoding = flags.Next();
   DecodeRedundancyEncodingMethod(m.redundancyEncodingMethod, r);
   m.primaryEncoding = PerReadNumber<uint16_t>(r, 1, 65535);
   if (m.hasSecondaryEncoding)
@@ -77,9 +82,10 @@ void DecodeRedundancyEncodingCapability(RedundancyEncodingCapability& m, PerRead
 }
 
 void DecodeMcCapability(H2250Capability::McCapability& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.centralizedConferenceMC = PerReadBit(r);
-  m.decentralizedConferenceMC = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 3);
+  m.isExtended = flags.Next();
+  m.centralizedConferenceMC = flags.Next();
+  m.decentralizedConferenceMC = flags.Next();
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
@@ -97,10 +103,11 @@ void DecodeH2250Capability(H2250Capability& m, PerReader& r) {
   if (!m.isExtended) return;
 
   int32_t additions = PerReadBitmapLength8(r);
-  m.hasTransportCapability = PerReadAdditionBit(r, additions);
-  m.hasRedundancyEncodingCapability = PerReadAdditionBit(r, additions);
-  m.hasLogicalChannelSwitchingCapability = PerReadAdditionBit(r, additions);
-  m.hasT120DynamicPortCapability = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 4);
+  m.hasTransportCapability = known.Next();
+  m.hasRedundancyEncodingCapability = known.Next();
+  m.hasLogicalChannelSwitchingCapability = known.Next();
+  m.hasT120DynamicPortCapability = known.Next();
   const int32_t unknown = PerCountUnknownAdditions(r, additions);
   if (m.hasTransportCapability) DecodeOpen(m.transportCapability, r, DecodeTransportCapability);
   if (m.hasRedundancyEncodingCapability)

@@ -9,25 +9,28 @@ namespace kelvra::h245 {
 namespace {
 
 void DecodeV75Capability(V75Capability& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.audioHeader = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.audioHeader = flags.Next();
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
 void DecodeV76Capability(V76Capability& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.suspendResumeCapabilitywAddress = PerReadBit(r);
-  m.suspendResumeCapabilitywoAddress = PerReadBit(r);
-  m.rejCapability = PerReadBit(r);
-  m.sREJCapability = PerReadBit(r);
-  m.mREJCapability = PerReadBit(r);
-  m.crc8bitCapability = PerReadBit(r);
-  m.crc16bitCapability = PerReadBit(r);
-  m.crc32bitCapability = PerReadBit(r);
-  m.uihCapability = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 10);
+  m.isExtended = flags.Next();
+  m.suspendResumeCapabilitywAddress = flags.Next();
+  m.suspendResumeCapabilitywoAddress = flags.Next();
+  m.rejCapability = flags.Next();
+  m.sREJCapability = flags.Next();
+  m.mREJCapability = flags.Next();
+  m.crc8bitCapability = flags.Next();
+  m.crc16bitCapability = flags.Next();
+  m.crc32bitCapability = flags.Next();
+  m.uihCapability = flags.Next();
   m.numOfDLCS = PerReadNumber<uint16_t>(r, 2, 8191);
-  m.twoOctetAddressFieldCapability = PerReadBit(r);
-  m.loopBackTestCapability = PerReadBit(r);
+  flags = PerReadFlags(r, 2);
+  m.twoOctetAddressFieldCapability = flags.Next();
+  m.loopBackTestCapability = flags.Next();
   m.n401Capability = PerReadNumber<uint16_t>(r, 1, 4095);
   m.maxWindowSizeCapability = PerReadNumber<uint8_t>(r, 1, 127);
   DecodeV75Capability(m.v75Capability, r);

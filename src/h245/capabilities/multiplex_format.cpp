@@ -7,16 +7,17 @@ namespace kelvra::h245 {
 namespace {
 
 void DecodeAal1(VCCapability::Aal1& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.nullClockRecovery = PerReadBit(r);
-  m.srtsClockRecovery = PerReadBit(r);
-  m.adaptiveClockRecovery = PerReadBit(r);
-  m.nullErrorCorrection = PerReadBit(r);
-  m.longInterleaver = PerReadBit(r);
-  m.shortInterleaver = PerReadBit(r);
-  m.errorCorrectionOnly = PerReadBit(r);
-  m.structuredDataTransfer = PerReadBit(r);
-  m.partiallyFilledCells = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 10);
+  m.isExtended = flags.Next();
+  m.nullClockRecovery = flags.Next();
+  m.srtsClockRecovery = flags.Next();
+  m.adaptiveClockRecovery = flags.Next();
+  m.nullErrorCorrection = flags.Next();
+  m.longInterleaver = flags.Next();
+  m.shortInterleaver = flags.Next();
+  m.errorCorrectionOnly = flags.Next();
+  m.structuredDataTransfer = flags.Next();
+  m.partiallyFilledCells = flags.Next();
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
@@ -50,15 +51,16 @@ void DecodeAvailableBitRates(VCCapability::AvailableBitRates& m, PerReader& r) {
 void DecodeAal1ViaGateway(VCCapability::Aal1ViaGateway& m, PerReader& r) {
   m.isExtended = PerReadBit(r);
   KELVRA_OR_STOP(DecodeSizedSequenceOf(KELVRA_LIST(m.gatewayAddress), r, 1, 256, DecodeQ2931Address));
-  m.nullClockRecovery = PerReadBit(r);
-  m.srtsClockRecovery = PerReadBit(r);
-  m.adaptiveClockRecovery = PerReadBit(r);
-  m.nullErrorCorrection = PerReadBit(r);
-  m.longInterleaver = PerReadBit(r);
-  m.shortInterleaver = PerReadBit(r);
-  m.errorCorrectionOnly = PerReadBit(r);
-  m.structuredDataTransfer = PerReadBit(r);
-  m.partiallyFilledCells = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 9);
+  m.nullClockRecovery = flags.Next();
+  m.srtsClockRecovery = flags.Next();
+  m.adaptiveClockRecovery = flags.Next();
+  m.nullErrorCorrection = flags.Next();
+  m.longInterleaver = flags.Next();
+  m.shortInterleaver = flags.Next();
+  m.errorCorrectionOnly = flags.Next();
+  m.structuredDataTransfer = flags.Next();
+  m.partiallyFilledCells = flags.Next();
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
@@ -79,12 +81,13 @@ void DecodeH223MultiplexTableCapability(H223Capability::H223MultiplexTableCapabi
 }
 
 void DecodeMobileOperationTransmitCapability(H223Capability::MobileOperationTransmitCapability& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.modeChangeCapability = PerReadBit(r);
-  m.h223AnnexA = PerReadBit(r);
-  m.h223AnnexADoubleFlag = PerReadBit(r);
-  m.h223AnnexB = PerReadBit(r);
-  m.h223AnnexBwithHeader = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 6);
+  m.isExtended = flags.Next();
+  m.modeChangeCapability = flags.Next();
+  m.h223AnnexA = flags.Next();
+  m.h223AnnexADoubleFlag = flags.Next();
+  m.h223AnnexB = flags.Next();
+  m.h223AnnexBwithHeader = flags.Next();
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
@@ -96,13 +99,15 @@ void DecodeMobileMultilinkFrameCapability(H223Capability::MobileMultilinkFrameCa
 }
 
 void DecodeVCCapability(VCCapability& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasAal1 = PerReadBit(r);
-  m.hasAal5 = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 3);
+  m.isExtended = flags.Next();
+  m.hasAal1 = flags.Next();
+  m.hasAal5 = flags.Next();
   if (m.hasAal1) DecodeAal1(m.aal1, r);
   if (m.hasAal5) DecodeAal5(m.aal5, r);
-  m.transportStream = PerReadBit(r);
-  m.programStream = PerReadBit(r);
+  flags = PerReadFlags(r, 2);
+  m.transportStream = flags.Next();
+  m.programStream = flags.Next();
   DecodeAvailableBitRates(m.availableBitRates, r);
   if (!m.isExtended) return;
 
@@ -114,17 +119,18 @@ void DecodeVCCapability(VCCapability& m, PerReader& r) {
 }
 
 void DecodeH223AnnexCCapability(H223AnnexCCapability& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.videoWithAL1M = PerReadBit(r);
-  m.videoWithAL2M = PerReadBit(r);
-  m.videoWithAL3M = PerReadBit(r);
-  m.audioWithAL1M = PerReadBit(r);
-  m.audioWithAL2M = PerReadBit(r);
-  m.audioWithAL3M = PerReadBit(r);
-  m.dataWithAL1M = PerReadBit(r);
-  m.dataWithAL2M = PerReadBit(r);
-  m.dataWithAL3M = PerReadBit(r);
-  m.alpduInterleaving = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 11);
+  m.isExtended = flags.Next();
+  m.videoWithAL1M = flags.Next();
+  m.videoWithAL2M = flags.Next();
+  m.videoWithAL3M = flags.Next();
+  m.audioWithAL1M = flags.Next();
+  m.audioWithAL2M = flags.Next();
+  m.audioWithAL3M = flags.Next();
+  m.dataWithAL1M = flags.Next();
+  m.dataWithAL2M = flags.Next();
+  m.dataWithAL3M = flags.Next();
+  m.alpduInterleaving = flags.Next();
   m.maximumAL1MPDUSize = PerReadNumber<uint16_t>(r, 0, 65535);
   m.maximumAL2MSDUSize = PerReadNumber<uint16_t>(r, 0, 65535);
   m.maximumAL3MSDUSize = PerReadNumber<uint16_t>(r, 0, 65535);
@@ -147,17 +153,18 @@ void DecodeH222Capability(H222Capability& m, PerReader& r) {
 }
 
 void DecodeH223Capability(H223Capability& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.transportWithIFrames = PerReadBit(r);
-  m.videoWithAL1 = PerReadBit(r);
-  m.videoWithAL2 = PerReadBit(r);
-  m.videoWithAL3 = PerReadBit(r);
-  m.audioWithAL1 = PerReadBit(r);
-  m.audioWithAL2 = PerReadBit(r);
-  m.audioWithAL3 = PerReadBit(r);
-  m.dataWithAL1 = PerReadBit(r);
-  m.dataWithAL2 = PerReadBit(r);
-  m.dataWithAL3 = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 11);
+  m.isExtended = flags.Next();
+  m.transportWithIFrames = flags.Next();
+  m.videoWithAL1 = flags.Next();
+  m.videoWithAL2 = flags.Next();
+  m.videoWithAL3 = flags.Next();
+  m.audioWithAL1 = flags.Next();
+  m.audioWithAL2 = flags.Next();
+  m.audioWithAL3 = flags.Next();
+  m.dataWithAL1 = flags.Next();
+  m.dataWithAL2 = flags.Next();
+  m.dataWithAL3 = flags.Next();
   m.maximumAl2SDUSize = PerReadNumber<uint16_t>(r, 0, 65535);
   m.maximumAl3SDUSize = PerReadNumber<uint16_t>(r, 0, 65535);
   m.maximumDelayJitter = PerReadNumber<uint16_t>(r, 0, 1023);
@@ -165,12 +172,13 @@ void DecodeH223Capability(H223Capability& m, PerReader& r) {
   if (!m.isExtended) return;
 
   int32_t additions = PerReadBitmapLength8(r);
-  m.hasMaxMUXPDUSizeCapability = PerReadAdditionBit(r, additions);
-  m.hasNsrpSupport = PerReadAdditionBit(r, additions);
-  m.hasMobileOperationTransmitCapability = PerReadAdditionBit(r, additions);
-  m.hasH223AnnexCCapability = PerReadAdditionBit(r, additions);
-  m.hasBitRate = PerReadAdditionBit(r, additions);
-  m.hasMobileMultilinkFrameCapability = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 6);
+  m.hasMaxMUXPDUSizeCapability = known.Next();
+  m.hasNsrpSupport = known.Next();
+  m.hasMobileOperationTransmitCapability = known.Next();
+  m.hasH223AnnexCCapability = known.Next();
+  m.hasBitRate = known.Next();
+  m.hasMobileMultilinkFrameCapability = known.Next();
   const int32_t unknown = PerCountUnknownAdditions(r, additions);
   if (m.hasMaxMUXPDUSizeCapability) m.maxMUXPDUSizeCapability = PerReadOpenBoolean(r);
   if (m.hasNsrpSupport) m.nsrpSupport = PerReadOpenBoolean(r);

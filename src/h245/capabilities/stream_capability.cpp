@@ -6,15 +6,17 @@ namespace kelvra::h245 {
 namespace {
 
 void DecodeSeparateStream(FECCapability::Rfc2733::SeparateStream& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.separatePort = PerReadBit(r);
-  m.samePort = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 3);
+  m.isExtended = flags.Next();
+  m.separatePort = flags.Next();
+  m.samePort = flags.Next();
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
 void DecodeRfc2733(FECCapability::Rfc2733& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.redundancyEncoding = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.redundancyEncoding = flags.Next();
   DecodeSeparateStream(m.separateStream, r);
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
@@ -29,8 +31,9 @@ void DecodeAlternativeCapabilitySet(AlternativeCapabilitySet& m, PerReader& r) {
 }
 
 void DecodeMultiplexedStreamCapability(MultiplexedStreamCapability& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasCapabilityOnMuxStream = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasCapabilityOnMuxStream = flags.Next();
   DecodeMultiplexFormat(m.multiplexFormat, r);
   m.controlOnMuxStream = PerReadBit(r);
   if (m.hasCapabilityOnMuxStream)

@@ -41,10 +41,11 @@ void DecodeCause(TerminalCapabilitySetReject::Cause& m, PerReader& r) {
 }  // namespace
 
 void DecodeTerminalCapabilitySet(TerminalCapabilitySet& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasMultiplexCapability = PerReadBit(r);
-  m.hasCapabilityTable = PerReadBit(r);
-  m.hasCapabilityDescriptors = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 4);
+  m.isExtended = flags.Next();
+  m.hasMultiplexCapability = flags.Next();
+  m.hasCapabilityTable = flags.Next();
+  m.hasCapabilityDescriptors = flags.Next();
   m.sequenceNumber = PerReadNumber<uint8_t>(r, 0, 255);
   PerReadObjectIdentifier(m.protocolIdentifier, r);
   if (m.hasMultiplexCapability) DecodeMultiplexCapability(m.multiplexCapability, r);

@@ -7,13 +7,14 @@ namespace kelvra::h245 {
 namespace {
 
 void DecodeAdditionalPictureMemory(RefPictureSelection::AdditionalPictureMemory& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasSqcifAdditionalPictureMemory = PerReadBit(r);
-  m.hasQcifAdditionalPictureMemory = PerReadBit(r);
-  m.hasCifAdditionalPictureMemory = PerReadBit(r);
-  m.hasCif4AdditionalPictureMemory = PerReadBit(r);
-  m.hasCif16AdditionalPictureMemory = PerReadBit(r);
-  m.hasBigCpfAdditionalPictureMemory = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 7);
+  m.isExtended = flags.Next();
+  m.hasSqcifAdditionalPictureMemory = flags.Next();
+  m.hasQcifAdditionalPictureMemory = flags.Next();
+  m.hasCifAdditionalPictureMemory = flags.Next();
+  m.hasCif4AdditionalPictureMemory = flags.Next();
+  m.hasCif16AdditionalPictureMemory = flags.Next();
+  m.hasBigCpfAdditionalPictureMemory = flags.Next();
   if (m.hasSqcifAdditionalPictureMemory) m.sqcifAdditionalPictureMemory = PerReadNumber<uint16_t>(r, 1, 256);
   if (m.hasQcifAdditionalPictureMemory) m.qcifAdditionalPictureMemory = PerReadNumber<uint16_t>(r, 1, 256);
   if (m.hasCifAdditionalPictureMemory) m.cifAdditionalPictureMemory = PerReadNumber<uint16_t>(r, 1, 256);
@@ -33,8 +34,9 @@ void DecodeSubPictureRemovalParameters(RefPictureSelection::EnhancedReferencePic
 }
 
 void DecodeEnhancedReferencePicSelect(RefPictureSelection::EnhancedReferencePicSelect& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasSubPictureRemovalParameters = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasSubPictureRemovalParameters = flags.Next();
   if (m.hasSubPictureRemovalParameters) DecodeSubPictureRemovalParameters(m.subPictureRemovalParameters, r);
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
@@ -48,9 +50,10 @@ void DecodeCustomPCFElement(CustomPictureFormat::MPI::CustomPCFElement& m, PerRe
 }
 
 void DecodeMPI(CustomPictureFormat::MPI& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasStandardMPI = PerReadBit(r);
-  m.hasCustomPCF = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 3);
+  m.isExtended = flags.Next();
+  m.hasStandardMPI = flags.Next();
+  m.hasCustomPCF = flags.Next();
   if (m.hasStandardMPI) m.standardMPI = PerReadNumber<uint8_t>(r, 1, 31);
   if (m.hasCustomPCF) KELVRA_OR_STOP(DecodeSizedSequenceOf(KELVRA_LIST(m.customPCF), r, 1, 16, DecodeCustomPCFElement));
   if (m.isExtended) PerSkipExtensionAdditions(r);
@@ -77,9 +80,10 @@ void DecodePixelAspectInformation(CustomPictureFormat::PixelAspectInformation& m
 }
 
 void DecodeH261VideoCapability(H261VideoCapability& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasQcifMPI = PerReadBit(r);
-  m.hasCifMPI = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 3);
+  m.isExtended = flags.Next();
+  m.hasQcifMPI = flags.Next();
+  m.hasCifMPI = flags.Next();
   if (m.hasQcifMPI) m.qcifMPI = PerReadNumber<uint8_t>(r, 1, 4);
   if (m.hasCifMPI) m.cifMPI = PerReadNumber<uint8_t>(r, 1, 4);
   m.temporalSpatialTradeOffCapability = PerReadBit(r);
@@ -95,24 +99,25 @@ void DecodeH261VideoCapability(H261VideoCapability& m, PerReader& r) {
 }
 
 void DecodeH262VideoCapability(H262VideoCapability& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasVideoBitRate = PerReadBit(r);
-  m.hasVbvBufferSize = PerReadBit(r);
-  m.hasSamplesPerLine = PerReadBit(r);
-  m.hasLinesPerFrame = PerReadBit(r);
-  m.hasFramesPerSecond = PerReadBit(r);
-  m.hasLuminanceSampleRate = PerReadBit(r);
-  m.profileAndLevelSPatML = PerReadBit(r);
-  m.profileAndLevelMPatLL = PerReadBit(r);
-  m.profileAndLevelMPatML = PerReadBit(r);
-  m.profileAndLevelMPatH14 = PerReadBit(r);
-  m.profileAndLevelMPatHL = PerReadBit(r);
-  m.profileAndLevelSNRatLL = PerReadBit(r);
-  m.profileAndLevelSNRatML = PerReadBit(r);
-  m.profileAndLevelSpatialatH14 = PerReadBit(r);
-  m.profileAndLevelHPatML = PerReadBit(r);
-  m.profileAndLevelHPatH14 = PerReadBit(r);
-  m.profileAndLevelHPatHL = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 18);
+  m.isExtended = flags.Next();
+  m.hasVideoBitRate = flags.Next();
+  m.hasVbvBufferSize = flags.Next();
+  m.hasSamplesPerLine = flags.Next();
+  m.hasLinesPerFrame = flags.Next();
+  m.hasFramesPerSecond = flags.Next();
+  m.hasLuminanceSampleRate = flags.Next();
+  m.profileAndLevelSPatML = flags.Next();
+  m.profileAndLevelMPatLL = flags.Next();
+  m.profileAndLevelMPatML = flags.Next();
+  m.profileAndLevelMPatH14 = flags.Next();
+  m.profileAndLevelMPatHL = flags.Next();
+  m.profileAndLevelSNRatLL = flags.Next();
+  m.profileAndLevelSNRatML = flags.Next();
+  m.profileAndLevelSpatialatH14 = flags.Next();
+  m.profileAndLevelHPatML = flags.Next();
+  m.profileAndLevelHPatH14 = flags.Next();
+  m.profileAndLevelHPatHL = flags.Next();
   if (m.hasVideoBitRate) m.videoBitRate = PerReadNumber<uint32_t>(r, 0, 1073741823);
   if (m.hasVbvBufferSize) m.vbvBufferSize = PerReadNumber<uint32_t>(r, 0, 262143);
   if (m.hasSamplesPerLine) m.samplesPerLine = PerReadNumber<uint16_t>(r, 0, 16383);
@@ -129,14 +134,15 @@ void DecodeH262VideoCapability(H262VideoCapability& m, PerReader& r) {
 }
 
 void DecodeIS11172VideoCapability(IS11172VideoCapability& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasVideoBitRate = PerReadBit(r);
-  m.hasVbvBufferSize = PerReadBit(r);
-  m.hasSamplesPerLine = PerReadBit(r);
-  m.hasLinesPerFrame = PerReadBit(r);
-  m.hasPictureRate = PerReadBit(r);
-  m.hasLuminanceSampleRate = PerReadBit(r);
-  m.constrainedBitstream = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 8);
+  m.isExtended = flags.Next();
+  m.hasVideoBitRate = flags.Next();
+  m.hasVbvBufferSize = flags.Next();
+  m.hasSamplesPerLine = flags.Next();
+  m.hasLinesPerFrame = flags.Next();
+  m.hasPictureRate = flags.Next();
+  m.hasLuminanceSampleRate = flags.Next();
+  m.constrainedBitstream = flags.Next();
   if (m.hasVideoBitRate) m.videoBitRate = PerReadNumber<uint32_t>(r, 0, 1073741823);
   if (m.hasVbvBufferSize) m.vbvBufferSize = PerReadNumber<uint32_t>(r, 0, 262143);
   if (m.hasSamplesPerLine) m.samplesPerLine = PerReadNumber<uint16_t>(r, 0, 16383);
@@ -163,8 +169,9 @@ void DecodeTransparencyParameters(TransparencyParameters& m, PerReader& r) {
 }
 
 void DecodeRefPictureSelection(RefPictureSelection& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasAdditionalPictureMemory = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasAdditionalPictureMemory = flags.Next();
   if (m.hasAdditionalPictureMemory) DecodeAdditionalPictureMemory(m.additionalPictureMemory, r);
   m.videoMux = PerReadBit(r);
   DecodeNullChoice(m.videoBackChannelSend, r);
@@ -178,12 +185,13 @@ void DecodeRefPictureSelection(RefPictureSelection& m, PerReader& r) {
 }
 
 void DecodeCustomPictureClockFrequency(CustomPictureClockFrequency& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasSqcifMPI = PerReadBit(r);
-  m.hasQcifMPI = PerReadBit(r);
-  m.hasCifMPI = PerReadBit(r);
-  m.hasCif4MPI = PerReadBit(r);
-  m.hasCif16MPI = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 6);
+  m.isExtended = flags.Next();
+  m.hasSqcifMPI = flags.Next();
+  m.hasQcifMPI = flags.Next();
+  m.hasCifMPI = flags.Next();
+  m.hasCif4MPI = flags.Next();
+  m.hasCif16MPI = flags.Next();
   m.clockConversionCode = PerReadNumber<uint16_t>(r, 1000, 1001);
   m.clockDivisor = PerReadNumber<uint8_t>(r, 1, 127);
   if (m.hasSqcifMPI) m.sqcifMPI = PerReadNumber<uint16_t>(r, 1, 2048);
@@ -206,46 +214,49 @@ void DecodeCustomPictureFormat(CustomPictureFormat& m, PerReader& r) {
 }
 
 void DecodeH263Version3Options(H263Version3Options& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.dataPartitionedSlices = PerReadBit(r);
-  m.fixedPointIDCT0 = PerReadBit(r);
-  m.interlacedFields = PerReadBit(r);
-  m.currentPictureHeaderRepetition = PerReadBit(r);
-  m.previousPictureHeaderRepetition = PerReadBit(r);
-  m.nextPictureHeaderRepetition = PerReadBit(r);
-  m.pictureNumber = PerReadBit(r);
-  m.spareReferencePictures = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 9);
+  m.isExtended = flags.Next();
+  m.dataPartitionedSlices = flags.Next();
+  m.fixedPointIDCT0 = flags.Next();
+  m.interlacedFields = flags.Next();
+  m.currentPictureHeaderRepetition = flags.Next();
+  m.previousPictureHeaderRepetition = flags.Next();
+  m.nextPictureHeaderRepetition = flags.Next();
+  m.pictureNumber = flags.Next();
+  m.spareReferencePictures = flags.Next();
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
 void DecodeH263ModeComboFlags(H263ModeComboFlags& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.unrestrictedVector = PerReadBit(r);
-  m.arithmeticCoding = PerReadBit(r);
-  m.advancedPrediction = PerReadBit(r);
-  m.pbFrames = PerReadBit(r);
-  m.advancedIntraCodingMode = PerReadBit(r);
-  m.deblockingFilterMode = PerReadBit(r);
-  m.unlimitedMotionVectors = PerReadBit(r);
-  m.slicesInOrderNonRect = PerReadBit(r);
-  m.slicesInOrderRect = PerReadBit(r);
-  m.slicesNoOrderNonRect = PerReadBit(r);
-  m.slicesNoOrderRect = PerReadBit(r);
-  m.improvedPBFramesMode = PerReadBit(r);
-  m.referencePicSelect = PerReadBit(r);
-  m.dynamicPictureResizingByFour = PerReadBit(r);
-  m.dynamicPictureResizingSixteenthPel = PerReadBit(r);
-  m.dynamicWarpingHalfPel = PerReadBit(r);
-  m.dynamicWarpingSixteenthPel = PerReadBit(r);
-  m.reducedResolutionUpdate = PerReadBit(r);
-  m.independentSegmentDecoding = PerReadBit(r);
-  m.alternateInterVLCMode = PerReadBit(r);
-  m.modifiedQuantizationMode = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 22);
+  m.isExtended = flags.Next();
+  m.unrestrictedVector = flags.Next();
+  m.arithmeticCoding = flags.Next();
+  m.advancedPrediction = flags.Next();
+  m.pbFrames = flags.Next();
+  m.advancedIntraCodingMode = flags.Next();
+  m.deblockingFilterMode = flags.Next();
+  m.unlimitedMotionVectors = flags.Next();
+  m.slicesInOrderNonRect = flags.Next();
+  m.slicesInOrderRect = flags.Next();
+  m.slicesNoOrderNonRect = flags.Next();
+  m.slicesNoOrderRect = flags.Next();
+  m.improvedPBFramesMode = flags.Next();
+  m.referencePicSelect = flags.Next();
+  m.dynamicPictureResizingByFour = flags.Next();
+  m.dynamicPictureResizingSixteenthPel = flags.Next();
+  m.dynamicWarpingHalfPel = flags.Next();
+  m.dynamicWarpingSixteenthPel = flags.Next();
+  m.reducedResolutionUpdate = flags.Next();
+  m.independentSegmentDecoding = flags.Next();
+  m.alternateInterVLCMode = flags.Next();
+  m.modifiedQuantizationMode = flags.Next();
   if (!m.isExtended) return;
 
   int32_t additions = PerReadBitmapLength8(r);
-  m.hasEnhancedReferencePicSelect = PerReadAdditionBit(r, additions);
-  m.hasH263Version3Options = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 2);
+  m.hasEnhancedReferencePicSelect = known.Next();
+  m.hasH263Version3Options = known.Next();
   const int32_t unknown = PerCountUnknownAdditions(r, additions);
   if (m.hasEnhancedReferencePicSelect) m.enhancedReferencePicSelect = PerReadOpenBoolean(r);
   if (m.hasH263Version3Options) DecodeOpen(m.h263Version3Options, r, DecodeH263Version3Options);
@@ -260,27 +271,29 @@ void DecodeH263VideoModeCombos(H263VideoModeCombos& m, PerReader& r) {
 }
 
 void DecodeEnhancementOptions(EnhancementOptions& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasSqcifMPI = PerReadBit(r);
-  m.hasQcifMPI = PerReadBit(r);
-  m.hasCifMPI = PerReadBit(r);
-  m.hasCif4MPI = PerReadBit(r);
-  m.hasCif16MPI = PerReadBit(r);
-  m.hasSlowSqcifMPI = PerReadBit(r);
-  m.hasSlowQcifMPI = PerReadBit(r);
-  m.hasSlowCifMPI = PerReadBit(r);
-  m.hasSlowCif4MPI = PerReadBit(r);
-  m.hasSlowCif16MPI = PerReadBit(r);
-  m.hasH263Options = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 12);
+  m.isExtended = flags.Next();
+  m.hasSqcifMPI = flags.Next();
+  m.hasQcifMPI = flags.Next();
+  m.hasCifMPI = flags.Next();
+  m.hasCif4MPI = flags.Next();
+  m.hasCif16MPI = flags.Next();
+  m.hasSlowSqcifMPI = flags.Next();
+  m.hasSlowQcifMPI = flags.Next();
+  m.hasSlowCifMPI = flags.Next();
+  m.hasSlowCif4MPI = flags.Next();
+  m.hasSlowCif16MPI = flags.Next();
+  m.hasH263Options = flags.Next();
   if (m.hasSqcifMPI) m.sqcifMPI = PerReadNumber<uint8_t>(r, 1, 32);
   if (m.hasQcifMPI) m.qcifMPI = PerReadNumber<uint8_t>(r, 1, 32);
   if (m.hasCifMPI) m.cifMPI = PerReadNumber<uint8_t>(r, 1, 32);
   if (m.hasCif4MPI) m.cif4MPI = PerReadNumber<uint8_t>(r, 1, 32);
   if (m.hasCif16MPI) m.cif16MPI = PerReadNumber<uint8_t>(r, 1, 32);
   m.maxBitRate = PerReadNumber<uint32_t>(r, 1, 192400);
-  m.unrestrictedVector = PerReadBit(r);
-  m.arithmeticCoding = PerReadBit(r);
-  m.temporalSpatialTradeOffCapability = PerReadBit(r);
+  flags = PerReadFlags(r, 3);
+  m.unrestrictedVector = flags.Next();
+  m.arithmeticCoding = flags.Next();
+  m.temporalSpatialTradeOffCapability = flags.Next();
   if (m.hasSlowSqcifMPI) m.slowSqcifMPI = PerReadNumber<uint16_t>(r, 1, 3600);
   if (m.hasSlowQcifMPI) m.slowQcifMPI = PerReadNumber<uint16_t>(r, 1, 3600);
   if (m.hasSlowCifMPI) m.slowCifMPI = PerReadNumber<uint16_t>(r, 1, 3600);
@@ -299,38 +312,41 @@ void DecodeBEnhancementParameters(BEnhancementParameters& m, PerReader& r) {
 }
 
 void DecodeH263VideoCapability(H263VideoCapability& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasSqcifMPI = PerReadBit(r);
-  m.hasQcifMPI = PerReadBit(r);
-  m.hasCifMPI = PerReadBit(r);
-  m.hasCif4MPI = PerReadBit(r);
-  m.hasCif16MPI = PerReadBit(r);
-  m.hasHrdB = PerReadBit(r);
-  m.hasBppMaxKb = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 8);
+  m.isExtended = flags.Next();
+  m.hasSqcifMPI = flags.Next();
+  m.hasQcifMPI = flags.Next();
+  m.hasCifMPI = flags.Next();
+  m.hasCif4MPI = flags.Next();
+  m.hasCif16MPI = flags.Next();
+  m.hasHrdB = flags.Next();
+  m.hasBppMaxKb = flags.Next();
   if (m.hasSqcifMPI) m.sqcifMPI = PerReadNumber<uint8_t>(r, 1, 32);
   if (m.hasQcifMPI) m.qcifMPI = PerReadNumber<uint8_t>(r, 1, 32);
   if (m.hasCifMPI) m.cifMPI = PerReadNumber<uint8_t>(r, 1, 32);
   if (m.hasCif4MPI) m.cif4MPI = PerReadNumber<uint8_t>(r, 1, 32);
   if (m.hasCif16MPI) m.cif16MPI = PerReadNumber<uint8_t>(r, 1, 32);
   m.maxBitRate = PerReadNumber<uint32_t>(r, 1, 192400);
-  m.unrestrictedVector = PerReadBit(r);
-  m.arithmeticCoding = PerReadBit(r);
-  m.advancedPrediction = PerReadBit(r);
-  m.pbFrames = PerReadBit(r);
-  m.temporalSpatialTradeOffCapability = PerReadBit(r);
+  flags = PerReadFlags(r, 5);
+  m.unrestrictedVector = flags.Next();
+  m.arithmeticCoding = flags.Next();
+  m.advancedPrediction = flags.Next();
+  m.pbFrames = flags.Next();
+  m.temporalSpatialTradeOffCapability = flags.Next();
   if (m.hasHrdB) m.hrdB = PerReadNumber<uint32_t>(r, 0, 524287);
   if (m.hasBppMaxKb) m.bppMaxKb = PerReadNumber<uint16_t>(r, 0, 65535);
   if (!m.isExtended) return;
 
   int32_t additions = PerReadBitmapLength8(r);
-  m.hasSlowSqcifMPI = PerReadAdditionBit(r, additions);
-  m.hasSlowQcifMPI = PerReadAdditionBit(r, additions);
-  m.hasSlowCifMPI = PerReadAdditionBit(r, additions);
-  m.hasSlowCif4MPI = PerReadAdditionBit(r, additions);
-  m.hasSlowCif16MPI = PerReadAdditionBit(r, additions);
-  m.hasErrorCompensation = PerReadAdditionBit(r, additions);
-  m.hasEnhancementLayerInfo = PerReadAdditionBit(r, additions);
-  m.hasH263Options = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 8);
+  m.hasSlowSqcifMPI = known.Next();
+  m.hasSlowQcifMPI = known.Next();
+  m.hasSlowCifMPI = known.Next();
+  m.hasSlowCif4MPI = known.Next();
+  m.hasSlowCif16MPI = known.Next();
+  m.hasErrorCompensation = known.Next();
+  m.hasEnhancementLayerInfo = known.Next();
+  m.hasH263Options = known.Next();
   const int32_t unknown = PerCountUnknownAdditions(r, additions);
   if (m.hasSlowSqcifMPI) m.slowSqcifMPI = PerReadOpenNumber<uint16_t>(r, 1, 3600);
   if (m.hasSlowQcifMPI) m.slowQcifMPI = PerReadOpenNumber<uint16_t>(r, 1, 3600);
@@ -344,8 +360,9 @@ void DecodeH263VideoCapability(H263VideoCapability& m, PerReader& r) {
 }
 
 void DecodeExtendedVideoCapability(ExtendedVideoCapability& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasVideoCapabilityExtension = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasVideoCapabilityExtension = flags.Next();
   KELVRA_OR_STOP(DecodeSequenceOf(KELVRA_LIST(m.videoCapability), r, DecodeVideoCapability));
   if (m.hasVideoCapabilityExtension)
     KELVRA_OR_STOP(DecodeSequenceOf(KELVRA_LIST(m.videoCapabilityExtension), r, DecodeGenericCapability));
@@ -355,35 +372,36 @@ void DecodeExtendedVideoCapability(ExtendedVideoCapability& m, PerReader& r) {
 }  // namespace
 
 void DecodeH263Options(H263Options& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasTransparencyParameters = PerReadBit(r);
-  m.hasRefPictureSelection = PerReadBit(r);
-  m.hasCustomPictureClockFrequency = PerReadBit(r);
-  m.hasCustomPictureFormat = PerReadBit(r);
-  m.hasModeCombos = PerReadBit(r);
-  m.advancedIntraCodingMode = PerReadBit(r);
-  m.deblockingFilterMode = PerReadBit(r);
-  m.improvedPBFramesMode = PerReadBit(r);
-  m.unlimitedMotionVectors = PerReadBit(r);
-  m.fullPictureFreeze = PerReadBit(r);
-  m.partialPictureFreezeAndRelease = PerReadBit(r);
-  m.resizingPartPicFreezeAndRelease = PerReadBit(r);
-  m.fullPictureSnapshot = PerReadBit(r);
-  m.partialPictureSnapshot = PerReadBit(r);
-  m.videoSegmentTagging = PerReadBit(r);
-  m.progressiveRefinement = PerReadBit(r);
-  m.dynamicPictureResizingByFour = PerReadBit(r);
-  m.dynamicPictureResizingSixteenthPel = PerReadBit(r);
-  m.dynamicWarpingHalfPel = PerReadBit(r);
-  m.dynamicWarpingSixteenthPel = PerReadBit(r);
-  m.independentSegmentDecoding = PerReadBit(r);
-  m.slicesInOrderNonRect = PerReadBit(r);
-  m.slicesInOrderRect = PerReadBit(r);
-  m.slicesNoOrderNonRect = PerReadBit(r);
-  m.slicesNoOrderRect = PerReadBit(r);
-  m.alternateInterVLCMode = PerReadBit(r);
-  m.modifiedQuantizationMode = PerReadBit(r);
-  m.reducedResolutionUpdate = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 29);
+  m.isExtended = flags.Next();
+  m.hasTransparencyParameters = flags.Next();
+  m.hasRefPictureSelection = flags.Next();
+  m.hasCustomPictureClockFrequency = flags.Next();
+  m.hasCustomPictureFormat = flags.Next();
+  m.hasModeCombos = flags.Next();
+  m.advancedIntraCodingMode = flags.Next();
+  m.deblockingFilterMode = flags.Next();
+  m.improvedPBFramesMode = flags.Next();
+  m.unlimitedMotionVectors = flags.Next();
+  m.fullPictureFreeze = flags.Next();
+  m.partialPictureFreezeAndRelease = flags.Next();
+  m.resizingPartPicFreezeAndRelease = flags.Next();
+  m.fullPictureSnapshot = flags.Next();
+  m.partialPictureSnapshot = flags.Next();
+  m.videoSegmentTagging = flags.Next();
+  m.progressiveRefinement = flags.Next();
+  m.dynamicPictureResizingByFour = flags.Next();
+  m.dynamicPictureResizingSixteenthPel = flags.Next();
+  m.dynamicWarpingHalfPel = flags.Next();
+  m.dynamicWarpingSixteenthPel = flags.Next();
+  m.independentSegmentDecoding = flags.Next();
+  m.slicesInOrderNonRect = flags.Next();
+  m.slicesInOrderRect = flags.Next();
+  m.slicesNoOrderNonRect = flags.Next();
+  m.slicesNoOrderRect = flags.Next();
+  m.alternateInterVLCMode = flags.Next();
+  m.modifiedQuantizationMode = flags.Next();
+  m.reducedResolutionUpdate = flags.Next();
   if (m.hasTransparencyParameters) DecodeTransparencyParameters(m.transparencyParameters, r);
   m.separateVideoBackChannel = PerReadBit(r);
   if (m.hasRefPictureSelection) DecodeRefPictureSelection(m.refPictureSelection, r);
@@ -397,8 +415,9 @@ void DecodeH263Options(H263Options& m, PerReader& r) {
   if (!m.isExtended) return;
 
   int32_t additions = PerReadBitmapLength8(r);
-  m.hasVideoBadMBsCap = PerReadAdditionBit(r, additions);
-  m.hasH263Version3Options = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 2);
+  m.hasVideoBadMBsCap = known.Next();
+  m.hasH263Version3Options = known.Next();
   const int32_t unknown = PerCountUnknownAdditions(r, additions);
   if (m.hasVideoBadMBsCap) m.videoBadMBsCap = PerReadOpenBoolean(r);
   if (m.hasH263Version3Options) DecodeOpen(m.h263Version3Options, r, DecodeH263Version3Options);
@@ -406,11 +425,12 @@ void DecodeH263Options(H263Options& m, PerReader& r) {
 }
 
 void DecodeEnhancementLayerInfo(EnhancementLayerInfo& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasSnrEnhancement = PerReadBit(r);
-  m.hasSpatialEnhancement = PerReadBit(r);
-  m.hasBPictureEnhancement = PerReadBit(r);
-  m.baseBitRateConstrained = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 5);
+  m.isExtended = flags.Next();
+  m.hasSnrEnhancement = flags.Next();
+  m.hasSpatialEnhancement = flags.Next();
+  m.hasBPictureEnhancement = flags.Next();
+  m.baseBitRateConstrained = flags.Next();
   if (m.hasSnrEnhancement)
     KELVRA_OR_STOP(DecodeSizedSequenceOf(KELVRA_LIST(m.snrEnhancement), r, 1, 14, DecodeEnhancementOptions));
   if (m.hasSpatialEnhancement)

@@ -30,8 +30,9 @@ void DecodeFrameToThreadMapping(RTPH263VideoRedundancyEncoding::FrameToThreadMap
 }
 
 void DecodeRedundancyEncodingElement(RedundancyEncodingElement& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasPayloadType = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasPayloadType = flags.Next();
   DecodePointer(KELVRA_SLOT(m.dataType), r, DecodeDataType);
   if (m.hasPayloadType) m.payloadType = PerReadNumber<uint8_t>(r, 0, 127);
   if (m.isExtended) PerSkipExtensionAdditions(r);
@@ -41,9 +42,10 @@ void DecodeRedundancyEncodingElement(RedundancyEncodingElement& m, PerReader& r)
 // decoded before is released at once.
 void DecodeRtpRedundancyEncoding(RedundancyEncoding& m, PerReader& r) {
   RedundancyEncoding::RtpRedundancyEncoding& rtp = m.rtpRedundancyEncoding;
-  rtp.isExtended = PerReadBit(r);
-  rtp.hasPrimary = PerReadBit(r);
-  rtp.hasSecondary = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 3);
+  rtp.isExtended = flags.Next();
+  rtp.hasPrimary = flags.Next();
+  rtp.hasSecondary = flags.Next();
   if (rtp.hasPrimary) DecodeRedundancyEncodingElement(rtp.primary, r);
   if (rtp.hasSecondary &&
       DecodeSizedSequenceOf(KELVRA_LIST(rtp.secondary), r, 0, 255, DecodeRedundancyEncodingElement) != kDecoded) {
@@ -118,8 +120,9 @@ void DecodeMediaType(H235Media::MediaType& m, PerReader& r) {
 }
 
 void DecodeRTPH263VideoRedundancyEncoding(RTPH263VideoRedundancyEncoding& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasContainedThreads = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasContainedThreads = flags.Next();
   m.numberOfThreads = PerReadNumber<uint8_t>(r, 1, 16);
   m.framesBetweenSyncPoints = PerReadNumber<uint16_t>(r, 1, 256);
   DecodeFrameToThreadMapping(m.frameToThreadMapping, r);
@@ -152,8 +155,9 @@ void DecodeRedundancyEncodingMethod(RedundancyEncodingMethod& m, PerReader& r) {
 }
 
 void DecodeRedundancyEncoding(RedundancyEncoding& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasSecondaryEncoding = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasSecondaryEncoding = flags.Next();
   DecodeRedundancyEncodingMethod(m.redundancyEncodingMethod, r);
   if (m.hasSecondaryEncoding) DecodePointer(KELVRA_SLOT(m.secondaryEncoding), r, DecodeDataType);
   if (!m.isExtended) return;
@@ -166,8 +170,9 @@ void DecodeRedundancyEncoding(RedundancyEncoding& m, PerReader& r) {
 }
 
 void DecodeDifferentPort(FECData::Rfc2733::Mode::SeparateStream::DifferentPort& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasProtectedPayloadType = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasProtectedPayloadType = flags.Next();
   m.protectedSessionID = PerReadNumber<uint8_t>(r, 1, 255);
   if (m.hasProtectedPayloadType) m.protectedPayloadType = PerReadNumber<uint8_t>(r, 0, 127);
   if (m.isExtended) PerSkipExtensionAdditions(r);

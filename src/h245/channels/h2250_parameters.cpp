@@ -8,8 +8,9 @@ namespace kelvra::h245 {
 namespace {
 
 void DecodeAtmAAL5Compressed(MediaTransportType::AtmAAL5Compressed& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.variableDelta = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.variableDelta = flags.Next();
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
@@ -22,13 +23,14 @@ void DecodeMediaPacketization(H2250LogicalChannelParameters::MediaPacketization&
 }
 
 void DecodeRSVPParameters(RSVPParameters& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasQosMode = PerReadBit(r);
-  m.hasTokenRate = PerReadBit(r);
-  m.hasBucketSize = PerReadBit(r);
-  m.hasPeakRate = PerReadBit(r);
-  m.hasMinPoliced = PerReadBit(r);
-  m.hasMaxPktSize = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 7);
+  m.isExtended = flags.Next();
+  m.hasQosMode = flags.Next();
+  m.hasTokenRate = flags.Next();
+  m.hasBucketSize = flags.Next();
+  m.hasPeakRate = flags.Next();
+  m.hasMinPoliced = flags.Next();
+  m.hasMaxPktSize = flags.Next();
   if (m.hasQosMode) DecodeNullChoice(m.qosMode, r);
   if (m.hasTokenRate) m.tokenRate = PerReadNumber<uint32_t>(r, 1, kUnsigned32Maximum);
   if (m.hasBucketSize) m.bucketSize = PerReadNumber<uint32_t>(r, 1, kUnsigned32Maximum);
@@ -41,11 +43,12 @@ void DecodeRSVPParameters(RSVPParameters& m, PerReader& r) {
 void DecodeATMParameters(ATMParameters& m, PerReader& r) {
   m.isExtended = PerReadBit(r);
   m.maxNTUSize = PerReadNumber<uint16_t>(r, 0, 65535);
-  m.atmUBR = PerReadBit(r);
-  m.atmrtVBR = PerReadBit(r);
-  m.atmnrtVBR = PerReadBit(r);
-  m.atmABR = PerReadBit(r);
-  m.atmCBR = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 5);
+  m.atmUBR = flags.Next();
+  m.atmrtVBR = flags.Next();
+  m.atmnrtVBR = flags.Next();
+  m.atmABR = flags.Next();
+  m.atmCBR = flags.Next();
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
@@ -60,8 +63,9 @@ void DecodeMediaTransportType(MediaTransportType& m, PerReader& r) {
 }
 
 void DecodeMediaChannelCapability(MediaChannelCapability& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasMediaTransport = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasMediaTransport = flags.Next();
   if (m.hasMediaTransport) DecodeMediaTransportType(m.mediaTransport, r);
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
@@ -76,10 +80,11 @@ void DecodeTerminalLabel(TerminalLabel& m, PerReader& r) {
 }
 
 void DecodeQOSCapability(QOSCapability& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasNonStandardData = PerReadBit(r);
-  m.hasRsvpParameters = PerReadBit(r);
-  m.hasAtmParameters = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 4);
+  m.isExtended = flags.Next();
+  m.hasNonStandardData = flags.Next();
+  m.hasRsvpParameters = flags.Next();
+  m.hasAtmParameters = flags.Next();
   if (m.hasNonStandardData) DecodeNonStandardParameter(m.nonStandardData, r);
   if (m.hasRsvpParameters) DecodeRSVPParameters(m.rsvpParameters, r);
   if (m.hasAtmParameters) DecodeATMParameters(m.atmParameters, r);
@@ -87,10 +92,11 @@ void DecodeQOSCapability(QOSCapability& m, PerReader& r) {
 }
 
 void DecodeTransportCapability(TransportCapability& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasNonStandard = PerReadBit(r);
-  m.hasQOSCapabilities = PerReadBit(r);
-  m.hasMediaChannelCapabilities = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 4);
+  m.isExtended = flags.Next();
+  m.hasNonStandard = flags.Next();
+  m.hasQOSCapabilities = flags.Next();
+  m.hasMediaChannelCapabilities = flags.Next();
   if (m.hasNonStandard) DecodeNonStandardParameter(m.nonStandard, r);
   if (m.hasQOSCapabilities)
     KELVRA_OR_STOP(DecodeSizedSequenceOf(KELVRA_LIST(m.qOSCapabilities), r, 1, 256, DecodeQOSCapability));
@@ -101,17 +107,18 @@ void DecodeTransportCapability(TransportCapability& m, PerReader& r) {
 }
 
 void DecodeH2250LogicalChannelParameters(H2250LogicalChannelParameters& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasNonStandard = PerReadBit(r);
-  m.hasAssociatedSessionID = PerReadBit(r);
-  m.hasMediaChannel = PerReadBit(r);
-  m.hasMediaGuaranteedDelivery = PerReadBit(r);
-  m.hasMediaControlChannel = PerReadBit(r);
-  m.hasMediaControlGuaranteedDelivery = PerReadBit(r);
-  m.hasSilenceSuppression = PerReadBit(r);
-  m.hasDestination = PerReadBit(r);
-  m.hasDynamicRTPPayloadType = PerReadBit(r);
-  m.hasMediaPacketization = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 11);
+  m.isExtended = flags.Next();
+  m.hasNonStandard = flags.Next();
+  m.hasAssociatedSessionID = flags.Next();
+  m.hasMediaChannel = flags.Next();
+  m.hasMediaGuaranteedDelivery = flags.Next();
+  m.hasMediaControlChannel = flags.Next();
+  m.hasMediaControlGuaranteedDelivery = flags.Next();
+  m.hasSilenceSuppression = flags.Next();
+  m.hasDestination = flags.Next();
+  m.hasDynamicRTPPayloadType = flags.Next();
+  m.hasMediaPacketization = flags.Next();
   if (m.hasNonStandard) KELVRA_OR_STOP(DecodeSequenceOf(KELVRA_LIST(m.nonStandard), r, DecodeNonStandardParameter));
   m.sessionID = PerReadNumber<uint8_t>(r, 0, 255);
   if (m.hasAssociatedSessionID) m.associatedSessionID = PerReadNumber<uint8_t>(r, 1, 255);
@@ -126,9 +133,10 @@ void DecodeH2250LogicalChannelParameters(H2250LogicalChannelParameters& m, PerRe
   if (!m.isExtended) return;
 
   int32_t additions = PerReadBitmapLength8(r);
-  m.hasTransportCapability = PerReadAdditionBit(r, additions);
-  m.hasRedundancyEncoding = PerReadAdditionBit(r, additions);
-  m.hasSource = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 3);
+  m.hasTransportCapability = known.Next();
+  m.hasRedundancyEncoding = known.Next();
+  m.hasSource = known.Next();
   const int32_t unknown = PerCountUnknownAdditions(r, additions);
   if (m.hasTransportCapability) DecodeOpen(m.transportCapability, r, DecodeTransportCapability);
   if (m.hasRedundancyEncoding) DecodeOpen(m.redundancyEncoding, r, DecodeRedundancyEncoding);
@@ -137,12 +145,13 @@ void DecodeH2250LogicalChannelParameters(H2250LogicalChannelParameters& m, PerRe
 }
 
 void DecodeH2250LogicalChannelAckParameters(H2250LogicalChannelAckParameters& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasNonStandard = PerReadBit(r);
-  m.hasSessionID = PerReadBit(r);
-  m.hasMediaChannel = PerReadBit(r);
-  m.hasMediaControlChannel = PerReadBit(r);
-  m.hasDynamicRTPPayloadType = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 6);
+  m.isExtended = flags.Next();
+  m.hasNonStandard = flags.Next();
+  m.hasSessionID = flags.Next();
+  m.hasMediaChannel = flags.Next();
+  m.hasMediaControlChannel = flags.Next();
+  m.hasDynamicRTPPayloadType = flags.Next();
   if (m.hasNonStandard) KELVRA_OR_STOP(DecodeSequenceOf(KELVRA_LIST(m.nonStandard), r, DecodeNonStandardParameter));
   if (m.hasSessionID) m.sessionID = PerReadNumber<uint8_t>(r, 1, 255);
   if (m.hasMediaChannel) DecodeTransportAddress(m.mediaChannel, r);
@@ -151,8 +160,9 @@ void DecodeH2250LogicalChannelAckParameters(H2250LogicalChannelAckParameters& m,
   if (!m.isExtended) return;
 
   int32_t additions = PerReadBitmapLength8(r);
-  m.hasFlowControlToZero = PerReadAdditionBit(r, additions);
-  m.hasPortNumber = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 2);
+  m.hasFlowControlToZero = known.Next();
+  m.hasPortNumber = known.Next();
   const int32_t unknown = PerCountUnknownAdditions(r, additions);
   if (m.hasFlowControlToZero) m.flowControlToZero = PerReadOpenBoolean(r);
   if (m.hasPortNumber) m.portNumber = PerReadOpenNumber<uint16_t>(r, 0, 65535);

@@ -43,8 +43,9 @@ void DecodeH223AL1MParameters(H223AL1MParameters& m, PerReader& r) {
   DecodeNullChoice(m.crcLength, r);
   m.rcpcCodeRate = PerReadNumber<uint8_t>(r, 8, 32);
   DecodeArqType(m.arqType, r);
-  m.alpduInterleaving = PerReadBit(r);
-  m.alsduSplitting = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.alpduInterleaving = flags.Next();
+  m.alsduSplitting = flags.Next();
   if (!m.isExtended) return;
 
   int32_t additions = PerReadBitmapLength8(r);
@@ -119,18 +120,20 @@ void DecodeV76HDLCParameters(V76HDLCParameters& m, PerReader& r) {
 }
 
 void DecodeV75Parameters(V75Parameters& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.audioHeaderPresent = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.audioHeaderPresent = flags.Next();
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
 }  // namespace
 
 void DecodeH222LogicalChannelParameters(H222LogicalChannelParameters& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasPcrPid = PerReadBit(r);
-  m.hasProgramDescriptors = PerReadBit(r);
-  m.hasStreamDescriptors = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 4);
+  m.isExtended = flags.Next();
+  m.hasPcrPid = flags.Next();
+  m.hasProgramDescriptors = flags.Next();
+  m.hasStreamDescriptors = flags.Next();
   m.resourceID = PerReadNumber<uint16_t>(r, 0, 65535);
   m.subChannelID = PerReadNumber<uint16_t>(r, 0, 8191);
   if (m.hasPcrPid) m.pcrPid = PerReadNumber<uint16_t>(r, 0, 8191);

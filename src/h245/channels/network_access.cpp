@@ -29,17 +29,19 @@ void DecodeNetworkAddress(NetworkAccessParameters::NetworkAddress& m, PerReader&
 }  // namespace
 
 void DecodeQ2931Address(Q2931Address& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasSubaddress = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasSubaddress = flags.Next();
   DecodeAddress(m.address, r);
   if (m.hasSubaddress) PerReadSizedOctets(m.subaddress, r, 1, 20);
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
 void DecodeNetworkAccessParameters(NetworkAccessParameters& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasDistribution = PerReadBit(r);
-  m.hasExternalReference = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 3);
+  m.isExtended = flags.Next();
+  m.hasDistribution = flags.Next();
+  m.hasExternalReference = flags.Next();
   if (m.hasDistribution) DecodeNullChoice(m.distribution, r);
   DecodeNetworkAddress(m.networkAddress, r);
   m.associateConference = PerReadBit(r);

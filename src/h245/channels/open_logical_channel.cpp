@@ -27,16 +27,18 @@ void DecodeMultiplexParameters(OpenLogicalChannel::ForwardLogicalChannelParamete
 }
 
 void DecodeForwardLogicalChannelParameters(OpenLogicalChannel::ForwardLogicalChannelParameters& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasPortNumber = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasPortNumber = flags.Next();
   if (m.hasPortNumber) m.portNumber = PerReadNumber<uint16_t>(r, 0, 65535);
   DecodeDataType(m.dataType, r);
   DecodeMultiplexParameters(m.multiplexParameters, r);
   if (!m.isExtended) return;
 
   int32_t additions = PerReadBitmapLength8(r);
-  m.hasForwardLogicalChannelDependency = PerReadAdditionBit(r, additions);
-  m.hasReplacementFor = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 2);
+  m.hasForwardLogicalChannelDependency = known.Next();
+  m.hasReplacementFor = known.Next();
   const int32_t unknown = PerCountUnknownAdditions(r, additions);
   if (m.hasForwardLogicalChannelDependency)
     m.forwardLogicalChannelDependency = PerReadOpenNumber<uint16_t>(r, 1, 65535);
@@ -61,15 +63,17 @@ void DecodeMultiplexParameters(OpenLogicalChannel::ReverseLogicalChannelParamete
 }
 
 void DecodeReverseLogicalChannelParameters(OpenLogicalChannel::ReverseLogicalChannelParameters& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasMultiplexParameters = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasMultiplexParameters = flags.Next();
   DecodeDataType(m.dataType, r);
   if (m.hasMultiplexParameters) DecodeMultiplexParameters(m.multiplexParameters, r);
   if (!m.isExtended) return;
 
   int32_t additions = PerReadBitmapLength8(r);
-  m.hasReverseLogicalChannelDependency = PerReadAdditionBit(r, additions);
-  m.hasReplacementFor = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 2);
+  m.hasReverseLogicalChannelDependency = known.Next();
+  m.hasReplacementFor = known.Next();
   const int32_t unknown = PerCountUnknownAdditions(r, additions);
   if (m.hasReverseLogicalChannelDependency)
     m.reverseLogicalChannelDependency = PerReadOpenNumber<uint16_t>(r, 1, 65535);
@@ -93,9 +97,10 @@ void DecodeMultiplexParameters(OpenLogicalChannelAck::ReverseLogicalChannelParam
 }
 
 void DecodeReverseLogicalChannelParameters(OpenLogicalChannelAck::ReverseLogicalChannelParameters& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasPortNumber = PerReadBit(r);
-  m.hasMultiplexParameters = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 3);
+  m.isExtended = flags.Next();
+  m.hasPortNumber = flags.Next();
+  m.hasMultiplexParameters = flags.Next();
   m.reverseLogicalChannelNumber = PerReadNumber<uint16_t>(r, 1, 65535);
   if (m.hasPortNumber) m.portNumber = PerReadNumber<uint16_t>(r, 0, 65535);
   if (m.hasMultiplexParameters) DecodeMultiplexParameters(m.multiplexParameters, r);
@@ -120,16 +125,18 @@ void DecodeForwardMultiplexAckParameters(OpenLogicalChannelAck::ForwardMultiplex
 }  // namespace
 
 void DecodeOpenLogicalChannel(OpenLogicalChannel& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasReverseLogicalChannelParameters = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasReverseLogicalChannelParameters = flags.Next();
   m.forwardLogicalChannelNumber = PerReadNumber<uint16_t>(r, 1, 65535);
   DecodeForwardLogicalChannelParameters(m.forwardLogicalChannelParameters, r);
   if (m.hasReverseLogicalChannelParameters) DecodeReverseLogicalChannelParameters(m.reverseLogicalChannelParameters, r);
   if (!m.isExtended) return;
 
   int32_t additions = PerReadBitmapLength8(r);
-  m.hasSeparateStack = PerReadAdditionBit(r, additions);
-  m.hasEncryptionSync = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 2);
+  m.hasSeparateStack = known.Next();
+  m.hasEncryptionSync = known.Next();
   const int32_t unknown = PerCountUnknownAdditions(r, additions);
   if (m.hasSeparateStack) DecodeOpen(m.separateStack, r, DecodeNetworkAccessParameters);
   if (m.hasEncryptionSync) DecodeOpen(m.encryptionSync, r, DecodeEncryptionSync);
@@ -137,16 +144,18 @@ void DecodeOpenLogicalChannel(OpenLogicalChannel& m, PerReader& r) {
 }
 
 void DecodeOpenLogicalChannelAck(OpenLogicalChannelAck& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasReverseLogicalChannelParameters = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasReverseLogicalChannelParameters = flags.Next();
   m.forwardLogicalChannelNumber = PerReadNumber<uint16_t>(r, 1, 65535);
   if (m.hasReverseLogicalChannelParameters) DecodeReverseLogicalChannelParameters(m.reverseLogicalChannelParameters, r);
   if (!m.isExtended) return;
 
   int32_t additions = PerReadBitmapLength8(r);
-  m.hasSeparateStack = PerReadAdditionBit(r, additions);
-  m.hasForwardMultiplexAckParameters = PerReadAdditionBit(r, additions);
-  m.hasEncryptionSync = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 3);
+  m.hasSeparateStack = known.Next();
+  m.hasForwardMultiplexAckParameters = known.Next();
+  m.hasEncryptionSync = known.Next();
   const int32_t unknown = PerCountUnknownAdditions(r, additions);
   if (m.hasSeparateStack) DecodeOpen(m.separateStack, r, DecodeNetworkAccessParameters);
   if (m.hasForwardMultiplexAckParameters)

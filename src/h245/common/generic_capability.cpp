@@ -50,8 +50,9 @@ void DecodeParameterValue(ParameterValue& m, PerReader& r) {
 void DecodeGenericParameter(GenericParameter& m, PerReader& r) {
   const RecursionLevel level(r);
   if (level.TooDeep()) return PerMoveToEnd(r);
-  m.isExtended = PerReadBit(r);
-  m.hasSupersedes = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasSupersedes = flags.Next();
   DecodeParameterIdentifier(m.parameterIdentifier, r);
   DecodeParameterValue(m.parameterValue, r);
   if (m.hasSupersedes) KELVRA_OR_STOP(DecodeSequenceOf(KELVRA_LIST(m.supersedes), r, DecodeParameterIdentifier));
@@ -59,12 +60,13 @@ void DecodeGenericParameter(GenericParameter& m, PerReader& r) {
 }
 
 void DecodeGenericCapability(GenericCapability& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasMaxBitRate = PerReadBit(r);
-  m.hasCollapsing = PerReadBit(r);
-  m.hasNonCollapsing = PerReadBit(r);
-  m.hasNonCollapsingRaw = PerReadBit(r);
-  m.hasTransport = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 6);
+  m.isExtended = flags.Next();
+  m.hasMaxBitRate = flags.Next();
+  m.hasCollapsing = flags.Next();
+  m.hasNonCollapsing = flags.Next();
+  m.hasNonCollapsingRaw = flags.Next();
+  m.hasTransport = flags.Next();
   DecodeCapabilityIdentifier(m.capabilityIdentifier, r);
   if (m.hasMaxBitRate) m.maxBitRate = PerReadNumber<uint32_t>(r, 0, kUnsigned32Maximum);
   if (m.hasCollapsing) KELVRA_OR_STOP(DecodeSequenceOf(KELVRA_LIST(m.collapsing), r, DecodeGenericParameter));

@@ -30,8 +30,9 @@ void DecodeRequestChannelClose(RequestChannelClose& m, PerReader& r) {
   if (!m.isExtended) return;
 
   int32_t additions = PerReadBitmapLength8(r);
-  m.hasQosCapability = PerReadAdditionBit(r, additions);
-  m.hasReason = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 2);
+  m.hasQosCapability = known.Next();
+  m.hasReason = known.Next();
   const int32_t unknown = PerCountUnknownAdditions(r, additions);
   if (m.hasQosCapability) DecodeOpen(m.qosCapability, r, DecodeQOSCapability);
   if (m.hasReason) DecodeOpen(m.reason, r, DecodeNullChoice);

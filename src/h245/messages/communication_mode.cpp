@@ -23,14 +23,15 @@ void DecodeEntryDataType(CommunicationModeTableEntry::DataType& m, PerReader& r)
 }
 
 void DecodeCommunicationModeTableEntry(CommunicationModeTableEntry& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasNonStandard = PerReadBit(r);
-  m.hasAssociatedSessionID = PerReadBit(r);
-  m.hasTerminalLabel = PerReadBit(r);
-  m.hasMediaChannel = PerReadBit(r);
-  m.hasMediaGuaranteedDelivery = PerReadBit(r);
-  m.hasMediaControlChannel = PerReadBit(r);
-  m.hasMediaControlGuaranteedDelivery = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 8);
+  m.isExtended = flags.Next();
+  m.hasNonStandard = flags.Next();
+  m.hasAssociatedSessionID = flags.Next();
+  m.hasTerminalLabel = flags.Next();
+  m.hasMediaChannel = flags.Next();
+  m.hasMediaGuaranteedDelivery = flags.Next();
+  m.hasMediaControlChannel = flags.Next();
+  m.hasMediaControlGuaranteedDelivery = flags.Next();
   if (m.hasNonStandard) KELVRA_OR_STOP(DecodeSequenceOf(KELVRA_LIST(m.nonStandard), r, DecodeNonStandardParameter));
   m.sessionID = PerReadNumber<uint8_t>(r, 1, 255);
   if (m.hasAssociatedSessionID) m.associatedSessionID = PerReadNumber<uint8_t>(r, 1, 255);
@@ -44,9 +45,10 @@ void DecodeCommunicationModeTableEntry(CommunicationModeTableEntry& m, PerReader
   if (!m.isExtended) return;
 
   int32_t additions = PerReadBitmapLength8(r);
-  m.hasRedundancyEncoding = PerReadAdditionBit(r, additions);
-  m.hasSessionDependency = PerReadAdditionBit(r, additions);
-  m.hasDestination = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 3);
+  m.hasRedundancyEncoding = known.Next();
+  m.hasSessionDependency = known.Next();
+  m.hasDestination = known.Next();
   const int32_t unknown = PerCountUnknownAdditions(r, additions);
   if (m.hasRedundancyEncoding) DecodeOpen(m.redundancyEncoding, r, DecodeRedundancyEncoding);
   if (m.hasSessionDependency) m.sessionDependency = PerReadOpenNumber<uint8_t>(r, 1, 255);

@@ -13,10 +13,11 @@ void DecodeCriteria(Criteria& m, PerReader& r) {
 }
 
 void DecodeRequestTerminalCertificate(ConferenceRequest::RequestTerminalCertificate& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasTerminalLabel = PerReadBit(r);
-  m.hasCertSelectionCriteria = PerReadBit(r);
-  m.hasSRandom = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 4);
+  m.isExtended = flags.Next();
+  m.hasTerminalLabel = flags.Next();
+  m.hasCertSelectionCriteria = flags.Next();
+  m.hasSRandom = flags.Next();
   if (m.hasTerminalLabel) DecodeTerminalLabel(m.terminalLabel, r);
   if (m.hasCertSelectionCriteria)
     KELVRA_OR_STOP(DecodeSizedSequenceOf(KELVRA_LIST(m.certSelectionCriteria), r, 1, 16, DecodeCriteria));

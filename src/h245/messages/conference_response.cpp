@@ -48,9 +48,10 @@ void DecodeExtensionAddressResponse(ConferenceResponse::ExtensionAddressResponse
 }
 
 void DecodeTerminalCertificateResponse(ConferenceResponse::TerminalCertificateResponse& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasTerminalLabel = PerReadBit(r);
-  m.hasCertificateResponse = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 3);
+  m.isExtended = flags.Next();
+  m.hasTerminalLabel = flags.Next();
+  m.hasCertificateResponse = flags.Next();
   if (m.hasTerminalLabel) DecodeTerminalLabel(m.terminalLabel, r);
   if (m.hasCertificateResponse) PerReadSizedOctets(m.certificateResponse, r, 1, 65535);
   if (m.isExtended) PerSkipExtensionAdditions(r);

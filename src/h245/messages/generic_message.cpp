@@ -5,9 +5,10 @@
 namespace kelvra::h245 {
 
 void DecodeGenericMessage(GenericMessage& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasSubMessageIdentifier = PerReadBit(r);
-  m.hasMessageContent = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 3);
+  m.isExtended = flags.Next();
+  m.hasSubMessageIdentifier = flags.Next();
+  m.hasMessageContent = flags.Next();
   DecodeCapabilityIdentifier(m.messageIdentifier, r);
   if (m.hasSubMessageIdentifier) m.subMessageIdentifier = PerReadNumber<uint8_t>(r, 0, 127);
   if (m.hasMessageContent) KELVRA_OR_STOP(DecodeSequenceOf(KELVRA_LIST(m.messageContent), r, DecodeGenericParameter));

@@ -6,9 +6,10 @@
 namespace kelvra::h245 {
 
 void DecodeJitterIndication(JitterIndication& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasSkippedFrameCount = PerReadBit(r);
-  m.hasAdditionalDecoderBuffer = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 3);
+  m.isExtended = flags.Next();
+  m.hasSkippedFrameCount = flags.Next();
+  m.hasAdditionalDecoderBuffer = flags.Next();
   DecodeMultiplexScope(m.scope, r);
   m.estimatedReceivedJitterMantissa = PerReadNumber<uint8_t>(r, 0, 3);
   m.estimatedReceivedJitterExponent = PerReadNumber<uint8_t>(r, 0, 7);
@@ -24,9 +25,10 @@ void DecodeMCLocationIndication(MCLocationIndication& m, PerReader& r) {
 }
 
 void DecodeVendorIdentification(VendorIdentification& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasProductNumber = PerReadBit(r);
-  m.hasVersionNumber = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 3);
+  m.isExtended = flags.Next();
+  m.hasProductNumber = flags.Next();
+  m.hasVersionNumber = flags.Next();
   DecodeNonStandardIdentifier(m.vendor, r);
   if (m.hasProductNumber) PerReadSizedOctets(m.productNumber, r, 1, 256);
   if (m.hasVersionNumber) PerReadSizedOctets(m.versionNumber, r, 1, 256);
@@ -34,8 +36,9 @@ void DecodeVendorIdentification(VendorIdentification& m, PerReader& r) {
 }
 
 void DecodeFunctionNotSupported(FunctionNotSupported& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasReturnedFunction = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasReturnedFunction = flags.Next();
   DecodeNullChoice(m.cause, r);
   if (m.hasReturnedFunction) PerReadAnnouncedOctetString(m.returnedFunction, r);
   if (m.isExtended) PerSkipExtensionAdditions(r);

@@ -12,8 +12,9 @@ void DecodeLogicalChannelRate(LogicalChannelRate& m, PerReader& r) {
 }
 
 void DecodeLogicalChannelRateReject(LogicalChannelRateReject& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasCurrentMaximumBitRate = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasCurrentMaximumBitRate = flags.Next();
   m.sequenceNumber = PerReadNumber<uint8_t>(r, 0, 255);
   m.logicalChannelNumber = PerReadNumber<uint16_t>(r, 1, 65535);
   DecodeNullChoice(m.rejectReason, r);

@@ -7,16 +7,18 @@ namespace kelvra::h245 {
 namespace {
 
 void DecodeKeyProtectionMethod(KeyProtectionMethod& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.secureChannel = PerReadBit(r);
-  m.sharedSecret = PerReadBit(r);
-  m.certProtectedKey = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 4);
+  m.isExtended = flags.Next();
+  m.secureChannel = flags.Next();
+  m.sharedSecret = flags.Next();
+  m.certProtectedKey = flags.Next();
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
 void DecodeEncryptionUpdateRequest(EncryptionUpdateRequest& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasKeyProtectionMethod = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasKeyProtectionMethod = flags.Next();
   if (m.hasKeyProtectionMethod) DecodeKeyProtectionMethod(m.keyProtectionMethod, r);
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
@@ -37,9 +39,10 @@ void DecodeVideoFastUpdateGOB(MiscellaneousCommand::VideoFastUpdateGOB& m, PerRe
 }
 
 void DecodeVideoFastUpdateMB(MiscellaneousCommand::VideoFastUpdateMB& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasFirstGOB = PerReadBit(r);
-  m.hasFirstMB = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 3);
+  m.isExtended = flags.Next();
+  m.hasFirstGOB = flags.Next();
+  m.hasFirstMB = flags.Next();
   if (m.hasFirstGOB) m.firstGOB = PerReadNumber<uint8_t>(r, 0, 255);
   if (m.hasFirstMB) m.firstMB = PerReadNumber<uint16_t>(r, 1, 8192);
   m.numberOfMBs = PerReadNumber<uint16_t>(r, 1, 8192);

@@ -8,8 +8,9 @@ void DecodeAal1(ATMAdaptationLayer::Aal1& m, PerReader& r) {
   m.isExtended = PerReadBit(r);
   DecodeNullChoice(m.clockRecovery, r);
   DecodeNullChoice(m.errorCorrection, r);
-  m.structuredDataTransfer = PerReadBit(r);
-  m.partiallyFilledCells = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.structuredDataTransfer = flags.Next();
+  m.partiallyFilledCells = flags.Next();
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
@@ -33,8 +34,9 @@ void DecodeATMAdaptationLayer(ATMAdaptationLayer& m, PerReader& r) {
 void DecodeATMReverseParameters(ATMReverseParameters& m, PerReader& r) {
   m.isExtended = PerReadBit(r);
   m.bitRate = PerReadNumber<uint16_t>(r, 1, 65535);
-  m.bitRateLockedToPCRClock = PerReadBit(r);
-  m.bitRateLockedToNetworkClock = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.bitRateLockedToPCRClock = flags.Next();
+  m.bitRateLockedToNetworkClock = flags.Next();
   DecodeNullChoice(m.multiplex, r);
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
@@ -44,8 +46,9 @@ template <class NewATMVC>
 void DecodeForwardParameters(NewATMVC& m, PerReader& r) {
   m.resourceID = PerReadNumber<uint16_t>(r, 0, 65535);
   m.bitRate = PerReadNumber<uint16_t>(r, 1, 65535);
-  m.bitRateLockedToPCRClock = PerReadBit(r);
-  m.bitRateLockedToNetworkClock = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.bitRateLockedToPCRClock = flags.Next();
+  m.bitRateLockedToNetworkClock = flags.Next();
   DecodeATMAdaptationLayer(m.aal, r);
   DecodeNullChoice(m.multiplex, r);
 }

@@ -17,8 +17,9 @@ Status DecodePayload(OctetStringValue& m, PerReader& r) {
 
 Status DecodePrivateMessage(PrivateMessage& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
-  m.isExtended = PerReadBit(r);
-  m.hasPayload = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasPayload = flags.Next();
   if (PerOctetsLeft(r) < 2) return kMalformed;
   m.messageType = PerReadNumber<uint8_t>(r, 0, 255);
   if (m.hasPayload) KELVRA_TRY(DecodePayload(m.payload, r));

@@ -5,10 +5,11 @@ namespace kelvra::h245 {
 namespace {
 
 void DecodeSpecificRequest(SendTerminalCapabilitySet::SpecificRequest& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasCapabilityTableEntryNumbers = PerReadBit(r);
-  m.hasCapabilityDescriptorNumbers = PerReadBit(r);
-  m.multiplexCapability = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 4);
+  m.isExtended = flags.Next();
+  m.hasCapabilityTableEntryNumbers = flags.Next();
+  m.hasCapabilityDescriptorNumbers = flags.Next();
+  m.multiplexCapability = flags.Next();
   if (m.hasCapabilityTableEntryNumbers)
     KELVRA_OR_STOP(DecodeSizedSequenceOf(KELVRA_LIST(m.capabilityTableEntryNumbers), r, 1, 65535,
                                          PerReadElement<uint16_t, 1, 65535>));

@@ -21,9 +21,10 @@ void ReadSignalType(OctetStringValue& m, PerReader& r) {
 }
 
 void DecodeRtp(UserInputIndication::Signal::Rtp& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasTimestamp = PerReadBit(r);
-  m.hasExpirationTime = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 3);
+  m.isExtended = flags.Next();
+  m.hasTimestamp = flags.Next();
+  m.hasExpirationTime = flags.Next();
   if (m.hasTimestamp) m.timestamp = PerReadNumber<uint32_t>(r, 0, kUnsigned32Maximum);
   if (m.hasExpirationTime) m.expirationTime = PerReadNumber<uint32_t>(r, 0, kUnsigned32Maximum);
   m.logicalChannelNumber = PerReadNumber<uint16_t>(r, 1, 65535);
@@ -31,9 +32,10 @@ void DecodeRtp(UserInputIndication::Signal::Rtp& m, PerReader& r) {
 }
 
 void DecodeSignal(UserInputIndication::Signal& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasDuration = PerReadBit(r);
-  m.hasRtp = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 3);
+  m.isExtended = flags.Next();
+  m.hasDuration = flags.Next();
+  m.hasRtp = flags.Next();
   ReadSignalType(m.signalType, r);
   if (m.hasDuration) m.duration = PerReadNumber<uint16_t>(r, 1, 65535);
   if (m.hasRtp) DecodeRtp(m.rtp, r);
@@ -53,16 +55,18 @@ void DecodeRtp(UserInputIndication::SignalUpdate::Rtp& m, PerReader& r) {
 }
 
 void DecodeSignalUpdate(UserInputIndication::SignalUpdate& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasRtp = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasRtp = flags.Next();
   m.duration = PerReadNumber<uint16_t>(r, 1, 65535);
   if (m.hasRtp) DecodeRtp(m.rtp, r);
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
 void DecodeExtendedAlphanumeric(UserInputIndication::ExtendedAlphanumeric& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasRtpPayloadIndication = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasRtpPayloadIndication = flags.Next();
   PerReadAnnouncedOctetString(m.alphanumeric, r);
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }

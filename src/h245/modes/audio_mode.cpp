@@ -21,8 +21,9 @@ void DecodeIS13818AudioMode(IS13818AudioMode& m, PerReader& r) {
   DecodeNullChoice(m.audioLayer, r);
   DecodeNullChoice(m.audioSampling, r);
   DecodeNullChoice(m.multichannelType, r);
-  m.lowFrequencyEnhancement = PerReadBit(r);
-  m.multilingual = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.lowFrequencyEnhancement = flags.Next();
+  m.multilingual = flags.Next();
   m.bitRate = PerReadNumber<uint16_t>(r, 1, 1130);
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }

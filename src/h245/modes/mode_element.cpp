@@ -21,16 +21,18 @@ void DecodeSecondaryEncoding(RedundancyEncodingMode::SecondaryEncoding& m, PerRe
 }
 
 void DecodeRedundancyEncodingMode(RedundancyEncodingMode& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasSecondaryEncoding = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasSecondaryEncoding = flags.Next();
   DecodeRedundancyEncodingMethod(m.redundancyEncodingMethod, r);
   if (m.hasSecondaryEncoding) DecodeSecondaryEncoding(m.secondaryEncoding, r);
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
 
 void DecodeH2250ModeParameters(H2250ModeParameters& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasRedundancyEncodingMode = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasRedundancyEncodingMode = flags.Next();
   if (m.hasRedundancyEncodingMode) DecodeRedundancyEncodingMode(m.redundancyEncodingMode, r);
   if (m.isExtended) PerSkipExtensionAdditions(r);
 }
@@ -44,18 +46,20 @@ void DecodeMultiplexedStreamModeParameters(MultiplexedStreamModeParameters& m, P
 }  // namespace
 
 void DecodeModeElement(ModeElement& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasH223ModeParameters = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasH223ModeParameters = flags.Next();
   DecodeModeElementType(m.type, r);
   if (m.hasH223ModeParameters) DecodeH223LogicalChannelParameters(m.h223ModeParameters, r);
   if (!m.isExtended) return;
 
   int32_t additions = PerReadBitmapLength8(r);
-  m.hasV76ModeParameters = PerReadAdditionBit(r, additions);
-  m.hasH2250ModeParameters = PerReadAdditionBit(r, additions);
-  m.hasGenericModeParameters = PerReadAdditionBit(r, additions);
-  m.hasMultiplexedStreamModeParameters = PerReadAdditionBit(r, additions);
-  m.hasLogicalChannelNumber = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 5);
+  m.hasV76ModeParameters = known.Next();
+  m.hasH2250ModeParameters = known.Next();
+  m.hasGenericModeParameters = known.Next();
+  m.hasMultiplexedStreamModeParameters = known.Next();
+  m.hasLogicalChannelNumber = known.Next();
   const int32_t unknown = PerCountUnknownAdditions(r, additions);
   if (m.hasV76ModeParameters) DecodeOpen(m.v76ModeParameters, r, DecodeNullChoice);
   if (m.hasH2250ModeParameters) DecodeOpen(m.h2250ModeParameters, r, DecodeH2250ModeParameters);

@@ -16,13 +16,14 @@ void DecodeH261VideoMode(H261VideoMode& m, PerReader& r) {
 }
 
 void DecodeH262VideoMode(H262VideoMode& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasVideoBitRate = PerReadBit(r);
-  m.hasVbvBufferSize = PerReadBit(r);
-  m.hasSamplesPerLine = PerReadBit(r);
-  m.hasLinesPerFrame = PerReadBit(r);
-  m.hasFramesPerSecond = PerReadBit(r);
-  m.hasLuminanceSampleRate = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 7);
+  m.isExtended = flags.Next();
+  m.hasVideoBitRate = flags.Next();
+  m.hasVbvBufferSize = flags.Next();
+  m.hasSamplesPerLine = flags.Next();
+  m.hasLinesPerFrame = flags.Next();
+  m.hasFramesPerSecond = flags.Next();
+  m.hasLuminanceSampleRate = flags.Next();
   DecodeNullChoice(m.profileAndLevel, r);
   if (m.hasVideoBitRate) m.videoBitRate = PerReadNumber<uint32_t>(r, 0, 1073741823);
   if (m.hasVbvBufferSize) m.vbvBufferSize = PerReadNumber<uint32_t>(r, 0, 262143);
@@ -37,16 +38,18 @@ void DecodeH263VideoMode(H263VideoMode& m, PerReader& r) {
   m.isExtended = PerReadBit(r);
   DecodeNullChoice(m.resolution, r);
   m.bitRate = PerReadNumber<uint16_t>(r, 1, 19200);
-  m.unrestrictedVector = PerReadBit(r);
-  m.arithmeticCoding = PerReadBit(r);
-  m.advancedPrediction = PerReadBit(r);
-  m.pbFrames = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 4);
+  m.unrestrictedVector = flags.Next();
+  m.arithmeticCoding = flags.Next();
+  m.advancedPrediction = flags.Next();
+  m.pbFrames = flags.Next();
   if (!m.isExtended) return;
 
   int32_t additions = PerReadBitmapLength8(r);
-  m.hasErrorCompensation = PerReadAdditionBit(r, additions);
-  m.hasEnhancementLayerInfo = PerReadAdditionBit(r, additions);
-  m.hasH263Options = PerReadAdditionBit(r, additions);
+  PerFlags known = PerReadKnownAdditions(r, additions, 3);
+  m.hasErrorCompensation = known.Next();
+  m.hasEnhancementLayerInfo = known.Next();
+  m.hasH263Options = known.Next();
   const int32_t unknown = PerCountUnknownAdditions(r, additions);
   if (m.hasErrorCompensation) m.errorCompensation = PerReadOpenBoolean(r);
   if (m.hasEnhancementLayerInfo) DecodeOpen(m.enhancementLayerInfo, r, DecodeEnhancementLayerInfo);
@@ -55,14 +58,15 @@ void DecodeH263VideoMode(H263VideoMode& m, PerReader& r) {
 }
 
 void DecodeIS11172VideoMode(IS11172VideoMode& m, PerReader& r) {
-  m.isExtended = PerReadBit(r);
-  m.hasVideoBitRate = PerReadBit(r);
-  m.hasVbvBufferSize = PerReadBit(r);
-  m.hasSamplesPerLine = PerReadBit(r);
-  m.hasLinesPerFrame = PerReadBit(r);
-  m.hasPictureRate = PerReadBit(r);
-  m.hasLuminanceSampleRate = PerReadBit(r);
-  m.constrainedBitstream = PerReadBit(r);
+  PerFlags flags = PerReadFlags(r, 8);
+  m.isExtended = flags.Next();
+  m.hasVideoBitRate = flags.Next();
+  m.hasVbvBufferSize = flags.Next();
+  m.hasSamplesPerLine = flags.Next();
+  m.hasLinesPerFrame = flags.Next();
+  m.hasPictureRate = flags.Next();
+  m.hasLuminanceSampleRate = flags.Next();
+  m.constrainedBitstream = flags.Next();
   if (m.hasVideoBitRate) m.videoBitRate = PerReadNumber<uint32_t>(r, 0, 1073741823);
   if (m.hasVbvBufferSize) m.vbvBufferSize = PerReadNumber<uint32_t>(r, 0, 262143);
   if (m.hasSamplesPerLine) m.samplesPerLine = PerReadNumber<uint16_t>(r, 0, 16383);

@@ -1,0 +1,44 @@
+#include "per/record_decode.h"
+
+#include <gtest/gtest.h>
+
+#include "per/input.h"
+
+namespace kelvra::test {
+namespace {
+
+struct Choice {
+  uint8_t choiceTag = 0xEE;
+  uint32_t isExtension = 0xEE;
+};
+
+// Extension bit, then the index of its kind: from every offset, also where the message ends within them.
+TEST(ReadChoice, IsAnExtensionBitAndAnIndex) {
+  for (uint32_t first = 0; first < 256; ++first) {
+    for (size_t size = 1; size <= 3; ++size) {
+      for (const uint32_t roots : {1U, 2U, 3U, 8U, 15U, 25U, 255U}) {
+        for (uint32_t offset = 0; offset < 8; ++offset) {
+          SCOPED_TRACE(testing::Message()
+                       << first << ", " << size << " octets, " << roots << " roots, from " << offset);
+          std::vector<uint8_t> octets = {static_cast<uint8_t>(first), 0xA6, 0x91};
+          octets.resize(size);
+          Input header(octets);
+          Input parts(octets);
+          PerSkipBits(header.reader, offset);
+          PerSkipBits(parts.reader, offset);
+          Choice choice;
+          const uint32_t index = ReadChoice(choice, header.reader, roots);
+          const uint32_t extension = PerReadBit(parts.reader);
+          ASSERT_EQ(choice.isExtension, extension);
+          ASSERT_EQ(index, extension != 0 ? PerReadNormallySmall(parts.reader)
+                                          : PerReadConstrainedWholeNumber(parts.reader, roots));
+          ASSERT_EQ(choice.choiceTag, static_cast<uint8_t>(index));
+          ASSERT_EQ(header.Bit(), parts.Bit());
+        }
+      }
+    }
+  }
+}
+
+}  // namespace
+}  // namespace kelvra::test
