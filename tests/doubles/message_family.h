@@ -18,6 +18,7 @@ struct Ras {
     return end == 0 ? 0 : end - reinterpret_cast<intptr_t>(octets);
   }
   static void Release(Record* record) { KelvraFreeRASMessage(record); }
+  static bool MayReturn(int64_t result) { return result >= 0; }
   // Whether a decode with this result leaves blocks to release.
   static bool MayOwnBlocks(int64_t result) { return result != 0; }
 };
@@ -30,6 +31,7 @@ struct Q931 {
     return KelvraDecodeQ931Message(record, octets, static_cast<int32_t>(size));
   }
   static void Release(Record* record) { KelvraFreeQ931Message(record); }
+  static bool MayReturn(int64_t result) { return result == 0 || result == -1; }
   static bool MayOwnBlocks(int64_t result) { return result == 0; }
 };
 
@@ -41,6 +43,7 @@ struct H245 {
     return KelvraDecodeH245Message(record, octets, static_cast<uint32_t>(size));
   }
   static void Release(Record* record) { KelvraFreeH245Message(record); }
+  static bool MayReturn(int64_t result) { return result == 0 || result == 1; }
   static bool MayOwnBlocks(int64_t) { return true; }
 };
 

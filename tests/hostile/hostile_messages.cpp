@@ -168,7 +168,7 @@ BitWriter GatekeeperRequestHead() {
 }
 
 // The same with the bitmap of its additions, of which the one at `index` is there.
-BitWriter GatekeeperRequestWith(uint32_t index) {
+BitWriter DiscoveryWith(uint32_t index) {
   BitWriter message = GatekeeperRequestHead();
   return Additions(message, Addition(index, 10), 10);
 }
@@ -196,13 +196,13 @@ Octets WideGenericData(BitWriter& message, size_t size) {
 }
 
 Octets WideGenericDataOfARequest(size_t size) {
-  BitWriter message = GatekeeperRequestWith(9);
+  BitWriter message = DiscoveryWith(9);
   return WideGenericData(message, size);
 }
 
 // Cryptographic tokens in open types of no octet.
 Octets RewoundTokens(size_t size, uint8_t filler) {
-  BitWriter message = GatekeeperRequestWith(1);
+  BitWriter message = DiscoveryWith(1);
   message.Length(0).Length(255);
   return Filled(message, {filler, 0x00}, size);
 }
