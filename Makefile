@@ -51,7 +51,7 @@ lint:
 bench:
 	scripts/setup.sh bench
 	cmake --preset bench
-	cmake --build --preset bench --parallel --target kelvra-bench
+	cmake --build --preset bench --parallel --target kelvra-bench bench_growth
 	build/bench/bin/kelvra-bench $(ARGUMENTS)
 
 # Counts instructions, and compares them with bench/baseline.json; or renews that file.

@@ -24,18 +24,14 @@ void Use(const Value& value) {
 
 }  // namespace
 
-int64_t Decode(AnyRecord& record, const Message& message) {
+void Decode(AnyRecord& record, const Message& message) {
   const uint8_t* octets = message.octets.data();
   const size_t size = message.octets.size();
   switch (message.family) {
-    case Family::kRas: {
-      const intptr_t end = KelvraDecodeRASMessage(&record.ras, octets, static_cast<uint32_t>(size));
-      return end == 0 ? -1 : end - reinterpret_cast<intptr_t>(octets);
-    }
-    case Family::kQ931: return KelvraDecodeQ931Message(&record.q931, octets, static_cast<int32_t>(size));
-    case Family::kH245: return KelvraDecodeH245Message(&record.h245, octets, static_cast<uint32_t>(size));
+    case Family::kRas: KelvraDecodeRASMessage(&record.ras, octets, static_cast<uint32_t>(size)); return;
+    case Family::kQ931: KelvraDecodeQ931Message(&record.q931, octets, static_cast<int32_t>(size)); return;
+    case Family::kH245: KelvraDecodeH245Message(&record.h245, octets, static_cast<uint32_t>(size)); return;
   }
-  return -1;
 }
 
 void Release(AnyRecord& record, const Message& message) {

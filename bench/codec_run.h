@@ -13,8 +13,7 @@ union AnyRecord {
   h245::H245MessageRecord h245;
 };
 
-// Returns what the export did; of RAS the octets up to the address that it returned, -1 on failure.
-int64_t Decode(AnyRecord& record, const Message& message);
+void Decode(AnyRecord& record, const Message& message);
 void Release(AnyRecord& record, const Message& message);
 
 // Clears the record, reads each octet once, and obtains and gives back the blocks that the message

@@ -3,8 +3,7 @@
 //   record_workload MESSAGES.txt FAMILY.jsonl... >WORKLOAD
 //
 // Each FAMILY.jsonl becomes a workload of all its messages. Each line of MESSAGES.txt becomes one of
-// that message; where its name begins with stream-, of variants of it that differ in octets which
-// change no block and no result: numbers, addresses, characters.
+// that message, or of many variants of it where it leaves octets open.
 #include <cstdlib>
 #include <cstring>
 #include <exception>
@@ -53,52 +52,23 @@ namespace {
 
 constexpr uint32_t kVariants = 64;
 
-struct Recording {
-  Message message;
-  int64_t result;
-};
-
-Recording Recorded(Family family, std::vector<uint8_t> octets) {
+Message Recorded(Family family, std::vector<uint8_t> octets) {
   static AnyRecord record;
-  Recording recording{{family, std::move(octets), {}}, 0};
-  steps = &recording.message.heapSteps;
+  Message message{family, std::move(octets), {}};
+  steps = &message.heapSteps;
   obtained = 0;
-  recording.result = Decode(record, recording.message);
-  Release(record, recording.message);
+  Decode(record, message);
+  Release(record, message);
   if (!blocks.empty()) throw std::runtime_error("a message leaks blocks");
-  return recording;
+  return message;
 }
 
-bool IsAlike(const Recording& recording, const std::vector<uint8_t>& octets) {
-  const Recording other = Recorded(recording.message.family, octets);
-  return other.result == recording.result && other.message.heapSteps == recording.message.heapSteps;
-}
-
-std::vector<Message> Variants(const Recording& recording) {
-  const Message& message = recording.message;
-  std::mt19937 random(1);
-  const auto octet = [&random] { return static_cast<uint8_t>(random()); };
-  std::vector<size_t> free;
-  for (size_t i = 0; i < message.octets.size(); ++i) {
-    bool isFree = true;
-    for (int attempt = 0; attempt < 16 && isFree; ++attempt) {
-      std::vector<uint8_t> octets = message.octets;
-      octets[i] = octet();
-      isFree = IsAlike(recording, octets);
-    }
-    if (isFree) free.push_back(i);
+// The octets of one line, those that it leaves open taken from `random`.
+std::vector<uint8_t> Filled(std::string hex, std::mt19937& random) {
+  for (char& digit : hex) {
+    if (digit == 'x') digit = "0123456789abcdef"[random() % 16];
   }
-  std::vector<Message> variants;
-  while (variants.size() < kVariants) {
-    std::vector<uint8_t> octets = message.octets;
-    for (const size_t i : free) {
-      const uint8_t kept = octets[i];
-      octets[i] = octet();
-      if (!IsAlike(recording, octets)) octets[i] = kept;
-    }
-    variants.push_back(Recorded(message.family, octets).message);
-  }
-  return variants;
+  return OctetsOf(hex);
 }
 
 // The value of a string member in one line of JSON; the strings wanted hold no escapes.
@@ -122,7 +92,7 @@ void RecordFamily(const std::filesystem::path& file) {
   for (std::string line; std::getline(stream, line);) {
     if (line.empty()) continue;
     const Family family = FamilyOf(name);
-    SaveMessage(std::cout, name, Recorded(family, AsHanded(family, OctetsOf(StringMember(line, "hex")))).message);
+    SaveMessage(std::cout, name, Recorded(family, AsHanded(family, OctetsOf(StringMember(line, "hex")))));
   }
 }
 
@@ -133,11 +103,10 @@ void RecordSingles(const std::string& file) {
     std::istringstream words(line);
     std::string name, family, hex;
     words >> name >> family >> hex;
-    const Recording recording = Recorded(FamilyOf(family), AsHanded(FamilyOf(family), OctetsOf(hex)));
-    if (name.starts_with("stream-")) {
-      for (const Message& variant : Variants(recording)) SaveMessage(std::cout, name, variant);
-    } else {
-      SaveMessage(std::cout, name, recording.message);
+    const uint32_t count = hex.find('x') == std::string::npos ? 1 : kVariants;
+    std::mt19937 random(1);
+    for (uint32_t i = 0; i < count; ++i) {
+      SaveMessage(std::cout, name, Recorded(FamilyOf(family), AsHanded(FamilyOf(family), Filled(hex, random))));
     }
   }
 }

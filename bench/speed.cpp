@@ -33,7 +33,7 @@ class FastestRound {
   double fastest_ = std::numeric_limits<double>::max();
 };
 
-uint64_t Repeats(const Workload& workload) { return kRoundOctets / workload.Octets() + 1; }
+size_t Repeats(const Workload& workload) { return static_cast<size_t>(kRoundOctets / workload.Octets()) + 1; }
 
 void Report(benchmark::State& state, const Workload& workload, const FastestRound& library) {
   const double messages = static_cast<double>(workload.messages.size() * Repeats(workload));
@@ -46,11 +46,11 @@ void Report(benchmark::State& state, const Workload& workload, const FastestRoun
 void DecodeAndRelease(benchmark::State& state, const Workload& workload) {
   AnyRecord record;
   std::vector<void*> blocks(MostBlocks(workload));
-  const uint64_t repeats = Repeats(workload);
+  const size_t repeats = Repeats(workload);
   FastestRound library, floor;
   for ([[maybe_unused]] auto _ : state) {
     state.SetIterationTime(library.Time([&] {
-      for (uint64_t i = 0; i < repeats; ++i) {
+      for (size_t i = 0; i < repeats; ++i) {
         for (const Message& message : workload.messages) {
           Decode(record, message);
           Release(record, message);
@@ -58,7 +58,7 @@ void DecodeAndRelease(benchmark::State& state, const Workload& workload) {
       }
     }));
     floor.Time([&] {
-      for (uint64_t i = 0; i < repeats; ++i) {
+      for (size_t i = 0; i < repeats; ++i) {
         for (const Message& message : workload.messages) RunFloor(record, message, blocks);
       }
     });
