@@ -7,7 +7,9 @@ Records have their members in the order of the ASN.1, which is that of the encod
 must read the presence bits of all its optional members in the order of the record, and then the members
 likewise. No message need tell two presence bits apart for a swap of them to be seen here.
 
-Flags that follow one another are read at once, as many as there are lines that take one.
+Flags that follow one another are read at once, as many as there are lines that take one. What may be extended
+is passed over where it is: unknown additions of a SEQUENCE, unknown alternatives of a CHOICE. And every H.225.0
+and H.235 type with a name of its own asks on entry whether anything is left, those within another type never.
 """
 import itertools
 import pathlib
@@ -17,7 +19,7 @@ import sys
 TOP = pathlib.Path(__file__).resolve().parent.parent
 SOURCES = sorted((TOP / "src").glob("h2*/**/*.cpp"))
 TABLE = TOP / "docs" / "records.md"
-FUNCTION = re.compile(r"^(?:Status|void) Decode\w*\(([\w:]+)& m, PerReader& r[^)]*\) \{\n(.*?)^\}", re.M | re.S)
+FUNCTION = re.compile(r"^(Status|void) Decode(\w*)\(([\w:]+)& m, PerReader& r[^)]*\) \{\n(.*?)^\}", re.M | re.S)
 # What tells the decoder of a whole SEQUENCE from one of a part of it.
 WHOLE = re.compile(r"\bm\.isExtended = (?:PerReadBit\(|flags\.Next\()")
 PRESENCE = re.compile(r"\bm\.((?:has\w+|\w+Present)) = (?:PerReadBit\(|PerReadAdditionBit\(|\w+\.Next\()")
@@ -70,6 +72,21 @@ def miscounted(lines):
             yield at + 1, lines[at + 1]
 
 
+def lacking(name, status, record, body, known):
+    """What a decoder of this record must do and does not."""
+    unknown_passed = ("PerSkipExtensionAdditions(r);" in body
+                      or "PerNoteUnknownAdditions(r, additions);" in body and "PerSkipUnknownAdditions(r);" in body
+                      or "PerCountUnknownAdditions(r, additions);" in body and "PerSkipOpenTypes(r, unknown);" in body)
+    if ".isExtended = " in body and not unknown_passed:
+        yield "its unknown additions are not passed over"
+    if "ReadChoice(m, r" in body and "m.isExtension)" not in body:
+        yield "its extension alternatives are not told apart"
+    if status == "Status" and known and name == record.rpartition("::")[2]:
+        asks = body.startswith("  if (PerAtEnd(r)) return kExhausted;\n")
+        if asks != ("::" not in record):
+            yield "asks on entry" if asks else "does not ask on entry"
+
+
 def in_order(names, members):
     places = [members.index(name) for name in names]
     return places == sorted(places)
@@ -80,8 +97,10 @@ def complaints(path, table):
     for at, line in miscounted(text.splitlines()):
         yield f"line {at + 1}: flags miscounted: {line.strip()}"
     family = re.search(r"namespace kelvra::(\w+)", text)[1]
-    for record, body in FUNCTION.findall(text):
+    for status, name, record, body in FUNCTION.findall(text):
         members = table.get(f"{family}::{record}") or table.get(record)
+        for lack in lacking(name, status, record, body, members is not None):
+            yield f"Decode{name}: {lack}"
         flags = PRESENCE.findall(body)
         if not members or "choiceTag" in members or not (flags or WHOLE.search(body)):
             continue

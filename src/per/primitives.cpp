@@ -175,7 +175,6 @@ uint32_t PerReadLengthAtEdge(PerReader& reader) {
 }
 
 uint32_t PerReadNormallySmallAtEdge(PerReader& reader) {
-  if (PerAtEnd(reader)) return 0;
   if (PerReadBit(reader) == 0) return PerReadBits(reader, 6);
   const uint32_t octets = PerReadLength(reader);
   if (octets > 4) {
@@ -283,7 +282,6 @@ uint16_t* PerReadBMPString(PerReader& reader, uint32_t count) {
 }
 
 uint32_t PerReadSubidentifier(PerReader& reader) {
-  if (PerAtEnd(reader)) return 0;
   uint32_t value = 0;
   uint32_t octet = 0;
   do {

@@ -16,8 +16,8 @@ void CodecFree(void* slot, const char* sourcePath, int /*line*/) {
   test::HeapDouble::Instance().Free(slot, sourcePath);
 }
 
-void CodecTrace(int32_t module, int32_t severity, int32_t reason, int32_t source, int32_t /*line*/) {
-  test::HeapDouble::Instance().Trace({module, severity, reason, source});
+void CodecTrace(int32_t module, int32_t severity, int32_t reason, int32_t source, int32_t line) {
+  test::HeapDouble::Instance().Trace({module, severity, reason, source, line});
 }
 
 }  // namespace kelvra

@@ -20,6 +20,9 @@ struct TraceCall {
   int32_t severity;
   int32_t reason;
   int32_t source;
+  int32_t line;
+
+  bool operator==(const TraceCall&) const = default;
 };
 
 class HeapDouble {

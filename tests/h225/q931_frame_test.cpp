@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <memory>
 #include <string>
 
@@ -168,6 +169,20 @@ TEST(Q931FrameTest, ElementsWithoutABoundCopyOneOctet) {
   EXPECT_EQ(+frame.m.causeValue, 0x7E);
   EXPECT_EQ(+frame.m.presenceMask, kCallStatePresent | kNotificationIndicatorPresent | kSignalPresent | kCausePresent |
                                        kUserInformationPresent);
+}
+
+TEST(Q931FrameTest, ElementsThatAreAbsentLeaveTheirMembersClear) {
+  const Frame frame(Q931Builder().UserUser().Done());
+  Q931MessageRecord expected{};
+  expected.protocolDiscriminator = 8;
+  expected.callReferenceLength = frame.m.callReferenceLength;
+  expected.callReferenceValue = frame.m.callReferenceValue;
+  expected.messageType = frame.m.messageType;
+  expected.presenceMask = kUserInformationPresent;
+  const auto* octets = reinterpret_cast<const uint8_t*>(&frame.m);
+  const auto* wanted = reinterpret_cast<const uint8_t*>(&expected);
+  const size_t header = offsetof(Q931MessageRecord, userInformation);
+  EXPECT_EQ(Octets(octets, octets + header), Octets(wanted, wanted + header));
 }
 
 TEST(Q931FrameTest, FirstOccurrenceCounts) {

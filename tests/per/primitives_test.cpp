@@ -491,6 +491,17 @@ TEST(PerReadObjectIdentifier, AlignsFirst) {
   EXPECT_EQ(Taken(static_cast<uint32_t*>(value.arcs), 2), (Numbers{1, 3}));
 }
 
+TEST(PerReadObjectIdentifier, ReadsZerosBehindTheCallersOctets) {
+  const std::unique_ptr<uint8_t[]> octets(new uint8_t[3]{0x04, 0x2B, 0x06});
+  PerReader reader;
+  PerReaderInit(reader, octets.get(), 5, 3);
+  ObjectIdentifierValue value{};
+  PerReadObjectIdentifier(value, reader);
+  EXPECT_EQ(uint32_t{value.count}, 5u);
+  EXPECT_EQ(Taken(static_cast<uint32_t*>(value.arcs), 5), (Numbers{1, 3, 6, 0, 0}));
+  EXPECT_EQ(reader.position, reader.end);
+}
+
 TEST(Primitives, ReadNothingBeyondTheEnd) {
   Input input({0xFF});
   PerReader& reader = input.reader;
