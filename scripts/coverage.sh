@@ -1,30 +1,54 @@
 #!/usr/bin/env bash
-# Measures which lines and branches of src/ the tests reach.
+# Measures which lines and branches of src/ the tests reach, or the corpora of fuzzing.
 #
-#   scripts/coverage.sh [FOLDER...]
+#   scripts/coverage.sh [-c] [FOLDER...]
 #
 # FOLDER is src/per by default; a line for each of its files and their sum are
-# printed. Needs Clang and LLVM's tools.
+# printed. -c takes the corpora that scripts/fuzz.sh has left in
+# build/fuzz-corpus/. Needs Clang and LLVM's tools.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
+of_corpora=false
+if [[ ${1:-} == -c ]]; then
+  of_corpora=true
+  shift
+fi
 folders=("$@")
 [[ $# -gt 0 ]] || folders=(src/per)
 build=build/coverage
-programs=(kelvra_tests kelvra_fault_tests kelvra_regression_tests)
 
-cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_COMPILER=clang++ \
-  -DCMAKE_CXX_FLAGS="-O1 -fprofile-instr-generate -fcoverage-mapping" \
-  -DKELVRA_BUILD_TESTS=ON -DKELVRA_BUILD_TOOLS=OFF >/dev/null
-cmake --build "$build" --parallel --target "${programs[@]}"
+# Configures with what follows, and builds the programs named in `programs`.
+build_programs() {
+  cmake -G Ninja -S . -B "$build" -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_BUILD_TYPE=Debug \
+    -DCMAKE_CXX_FLAGS="-O1 -fprofile-instr-generate -fcoverage-mapping" \
+    -DKELVRA_BUILD_TOOLS=OFF "$@" >/dev/null
+  cmake --build "$build" --parallel --target "${programs[@]}"
+}
+
+# Runs a program with its arguments, and keeps what it reached.
+run_program() {
+  LLVM_PROFILE_FILE=$build/$1.profraw "$build/bin/$1" "${@:2}"
+}
+
+if $of_corpora; then
+  build=build/coverage-of-corpora
+  programs=(kelvra_fuzz_ras kelvra_fuzz_q931 kelvra_fuzz_h245)
+  build_programs -DKELVRA_BUILD_TESTS=OFF -DKELVRA_FUZZ=ON
+  for program in "${programs[@]}"; do
+    run_program "$program" -runs=0 "build/fuzz-corpus/${program#kelvra_fuzz_}"
+  done
+else
+  programs=(kelvra_tests kelvra_fault_tests kelvra_regression_tests)
+  build_programs -DKELVRA_BUILD_TESTS=ON
+  for program in "${programs[@]}"; do
+    # The faults at every bit add time and no branch.
+    run_program "$program" --gtest_brief=1 --gtest_filter='-*EveryBitFlipped:*EveryOctet*:*AnOctetAdded*'
+  done
+fi
 
 objects=()
-for program in "${programs[@]}"; do
-  # The faults at every bit add time and no branch.
-  LLVM_PROFILE_FILE=$build/$program.profraw "$build/bin/$program" \
-    --gtest_brief=1 --gtest_filter='-*EveryBitFlipped:*AnOctetAdded*'
-  objects+=(-object "$build/bin/$program")
-done
+for program in "${programs[@]}"; do objects+=(-object "$build/bin/$program"); done
 llvm-profdata merge -o "$build/all.profdata" "$build"/*.profraw
 llvm-cov report "${objects[@]:1}" -instr-profile="$build/all.profdata" \
   -show-branch-summary -show-region-summary=false "${folders[@]}"
