@@ -5,7 +5,7 @@
 
 Records have their members in the order of the ASN.1, which is that of the encoding. So a decoder of a SEQUENCE
 must read the presence bits of all its optional members in the order of the record, and then the members
-likewise. No message need tell two presence bits apart for a swap of them to be seen here.
+likewise; and its walk must tell them so. No message need tell two presence bits apart for a swap of them to be seen here.
 
 Flags that follow one another are read at once, as many as there are lines that take one. What may be extended
 is passed over where it is: unknown additions of a SEQUENCE, unknown alternatives of a CHOICE. And every H.225.0
@@ -18,6 +18,7 @@ import sys
 
 TOP = pathlib.Path(__file__).resolve().parent.parent
 SOURCES = sorted((TOP / "src").glob("h2*/**/*.cpp"))
+HEADERS = sorted((TOP / "src").glob("h2*/**/*.h"))
 TABLE = TOP / "docs" / "records.md"
 FUNCTION = re.compile(r"^(Status|void) Decode(\w*)\(([\w:]+)& m, PerReader& r[^)]*\) \{\n(.*?)^\}", re.M | re.S)
 # What tells the decoder of a whole SEQUENCE from one of a part of it.
@@ -27,6 +28,8 @@ PRESENCE = re.compile(r"\bm\.((?:has\w+|\w+Present)) = (?:PerReadBit\(|PerReadAd
 RUN = re.compile(r"\b(\w+) = PerRead(?:Flags|KnownAdditions)\(.*?(\d+)\);$")
 TAKEN = re.compile(r"^ +(\w+)\.\w[\w.]* = (\w+)\.Next\(\);$")
 ALONE = re.compile(r"^ +\w+\.\w[\w.]* = PerRead(?:Bit|AdditionBit)\(")
+NAMESPACE = re.compile(r"namespace kelvra::(\w+)")
+STRUCT = re.compile(r" *(?:struct|union) (\w+) ?[{:]")
 CONDITION = re.compile(r"^\s*if \(m\.[\w.]+\) ?")
 BOOKKEEPING = {"isExtended", "isExtension", "choiceTag", "userDataExtension"}
 
@@ -96,7 +99,7 @@ def complaints(path, table):
     text = path.read_text()
     for at, line in miscounted(text.splitlines()):
         yield f"line {at + 1}: flags miscounted: {line.strip()}"
-    family = re.search(r"namespace kelvra::(\w+)", text)[1]
+    family = NAMESPACE.search(text)[1]
     for status, name, record, body in FUNCTION.findall(text):
         members = table.get(f"{family}::{record}") or table.get(record)
         for lack in lacking(name, status, record, body, members is not None):
@@ -112,9 +115,33 @@ def complaints(path, table):
             yield f"{record}: members {values}, of the record {[name for name in members if name in values]}"
 
 
+def walks(lines):
+    """The name of each record that has a walk, with the lines of it."""
+    structs = []
+    for at, line in enumerate(lines):
+        indent = len(line) - len(line.lstrip())
+        while structs and line.strip() and indent <= structs[-1][0]:
+            structs.pop()
+        if struct := STRUCT.match(line):
+            structs.append((indent, struct[1]))
+        elif line.lstrip().startswith("static void Walk("):
+            yield "::".join(name for _, name in structs), lines[at + 1:lines.index(" " * indent + "}", at)]
+
+
+def complaints_of_walks(path, table):
+    text = path.read_text()
+    family = NAMESPACE.search(text)
+    for record, lines in walks(text.splitlines()) if family else []:
+        members = table.get(f"{family[1]}::{record}", [])
+        told = [name for name in decoded("\n".join(lines)) if name in members]
+        if "choiceTag" not in members and not in_order(told, members):
+            yield f"{record}: walks {told}, of the record {[name for name in members if name in told]}"
+
+
 def main():
     table = records()
     found = [f"{path.relative_to(TOP)}: {what}" for path in SOURCES for what in complaints(path, table)]
+    found += [f"{path.relative_to(TOP)}: {what}" for path in HEADERS for what in complaints_of_walks(path, table)]
     print("\n".join(found) if found else f"order: {len(SOURCES)} files of decoders read as their records stand")
     return 1 if found else 0
 
