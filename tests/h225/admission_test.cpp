@@ -31,7 +31,7 @@ void ExpectTheStandardForm(const Body& m) {
 }
 
 // An AdmissionRequest up to its additions, without optional members but nonStandardData.
-BitWriter Request(bool extended, bool nonStandardData = false) {
+BitWriter BeginAdmissionRequest(bool extended, bool nonStandardData = false) {
   BitWriter w;
   w.Bit(extended).Bits(nonStandardData ? 0b10 : 0, 7).Align().Bits(0, 16).Bits(2, 3);
   w.Bits(0, 7).Align().Bits('E', 16).Length(0);
@@ -41,7 +41,7 @@ BitWriter Request(bool extended, bool nonStandardData = false) {
 }
 
 TEST(AdmissionRequestTest, WithoutOptionalMembers) {
-  Input input(Marked(Request(false)));
+  Input input(Marked(BeginAdmissionRequest(false)));
   Owned<AdmissionRequest> m;
   ASSERT_EQ(DecodeAdmissionRequest(*m, input.reader), kDecoded);
   EXPECT_EQ(+m->requestSeqNum, 1);
@@ -58,7 +58,7 @@ TEST(AdmissionRequestTest, WithoutOptionalMembers) {
 }
 
 TEST(AdmissionRequestTest, AdditionsBehindTheEighteenthAreSkipped) {
-  BitWriter w = Request(true, true);
+  BitWriter w = BeginAdmissionRequest(true, true);
   Additions(w, Addition(0, 20) | Addition(9, 20) | Addition(18, 20) | Addition(19, 20), 20);
   w.OpenType({0x80}).OpenType({0x80}).OpenType({1, 2, 3}).OpenType({4});
   Input input(Marked(w));
@@ -93,7 +93,7 @@ TEST(AdmissionConfirmTest, FrequencyFormAndLanguages) {
 }
 
 // An AdmissionReject up to its rejectReason.
-BitWriter Reject(bool nonStandardData = false) {
+BitWriter BeginAdmissionReject(bool nonStandardData = false) {
   return BitWriter().Bit(false).Bit(nonStandardData).Align().Bits(0, 16);
 }
 
@@ -101,7 +101,7 @@ TEST(AdmissionRejectTest, NumbersToRouteTo) {
   BitWriter numbers;
   numbers.Length(3);
   for (uint32_t digit = 4; digit < 7; ++digit) numbers.Bits(0, 2).Bits(0, 4).Bits(0, 7).Align().Bits(digit, 4);
-  BitWriter w = Reject(true).Bit(true).NormallySmall(4).OpenType(numbers);
+  BitWriter w = BeginAdmissionReject(true).Bit(true).NormallySmall(4).OpenType(numbers);
   NonStandard(w);
   Input input(Marked(w));
   Owned<AdmissionReject> m;
@@ -117,7 +117,7 @@ TEST(AdmissionRejectTest, NumbersToRouteTo) {
 
 TEST(AdmissionRejectTest, OtherReasonsKeepNoContents) {
   for (uint32_t tag = 0; tag < 8; ++tag) {
-    Input input(Marked(Reject().Bits(tag, 4)));
+    Input input(Marked(BeginAdmissionReject().Bits(tag, 4)));
     Owned<AdmissionReject> m;
     ASSERT_EQ(DecodeAdmissionReject(*m, input.reader), kDecoded);
     EXPECT_EQ(+m->rejectReason.choiceTag, tag);
@@ -126,7 +126,7 @@ TEST(AdmissionRejectTest, OtherReasonsKeepNoContents) {
   }
   // aliasesInconsistent with an alias, then the last known alternative and an unknown one.
   for (const uint32_t index : {3U, 9U, 10U}) {
-    Input input(Marked(Reject().Bit(true).NormallySmall(index).OpenType({1, 0x40, 0x00, 0x00, 0x41})));
+    Input input(Marked(BeginAdmissionReject().Bit(true).NormallySmall(index).OpenType({1, 0x40, 0x00, 0x00, 0x41})));
     Owned<AdmissionReject> m;
     ASSERT_EQ(DecodeAdmissionReject(*m, input.reader), kDecoded);
     EXPECT_EQ(+m->rejectReason.choiceTag, index);

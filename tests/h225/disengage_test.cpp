@@ -21,14 +21,15 @@ using test::TextOf;
 using Octets = std::vector<uint8_t>;
 
 // A DisengageRequest up to its disengageReason: endpointIdentifier "E", callReferenceValue 513.
-BitWriter Request(bool extended, bool nonStandardData) {
+BitWriter BeginDisengageRequest(bool extended, bool nonStandardData) {
   BitWriter w;
   w.Bit(extended).Bit(nonStandardData).Align().Bits(6, 16).Bits(0, 7).Align().Bits('E', 16);
   return w.Octets(Rising(0x10, 16)).Bits(513, 16);
 }
 
 TEST(DisengageRequestTest, NonStandardDataTakesTheStandardForm) {
-  BitWriter w = Request(true, true).Bits(1, 3).Bits(1, 2).Bit(false).Octets({181, 0, 0x12, 0x34}).OpenType({7, 8});
+  BitWriter w =
+      BeginDisengageRequest(true, true).Bits(1, 3).Bits(1, 2).Bit(false).Octets({181, 0, 0x12, 0x34}).OpenType({7, 8});
   Additions(w, Addition(5, 14) | Addition(13, 14), 14).OpenType({0x80}).OpenType({1, 2, 3});
   Input input(Marked(w));
   Owned<DisengageRequest> m;
@@ -50,7 +51,7 @@ TEST(DisengageRequestTest, NonStandardDataTakesTheStandardForm) {
 }
 
 TEST(DisengageRequestTest, UndefinedReasonIsMalformed) {
-  Input input(Marked(Request(false, false).Bits(3, 3)));
+  Input input(Marked(BeginDisengageRequest(false, false).Bits(3, 3)));
   Owned<DisengageRequest> m;
   EXPECT_EQ(DecodeDisengageRequest(*m, input.reader), kMalformed);
 }

@@ -21,14 +21,14 @@ using test::TextOf;
 using Octets = std::vector<uint8_t>;
 
 // A GatekeeperRequest up to the members behind endpointType; `optional` are its four presence bits.
-BitWriter Request(bool extended, uint32_t optional = 0, uint16_t coded = 0) {
+BitWriter BeginDiscoveryRequest(bool extended, uint32_t optional = 0, uint16_t coded = 0) {
   BitWriter w;
   w.Bit(extended).Bits(optional, 4).Align().Bits(coded, 16).OpenType(test::ProtocolIdentifier(4));
   return test::EmptyEndpointType(test::IpAddress(w, 1, 1719));
 }
 
 TEST(GatekeeperRequestTest, SequenceNumberIsNotChecked) {
-  Input input(Marked(Request(false, 0, 65535)));
+  Input input(Marked(BeginDiscoveryRequest(false, 0, 65535)));
   Owned<GatekeeperRequest> m;
   ASSERT_EQ(DecodeGatekeeperRequest(*m, input.reader), kDecoded);
   EXPECT_EQ(+m->requestSeqNum, 0);
@@ -37,7 +37,7 @@ TEST(GatekeeperRequestTest, SequenceNumberIsNotChecked) {
 TEST(GatekeeperRequestTest, AliasCountKeepsItsLow8Bits) {
   constexpr struct { uint32_t sent, kept; } kCases[] = {{0, 0}, {2, 2}, {256, 0}, {300, 44}};
   for (const auto& c : kCases) {
-    BitWriter w = Request(false, 0b0001);
+    BitWriter w = BeginDiscoveryRequest(false, 0b0001);
     w.Length(c.sent);
     for (uint32_t i = 0; i < c.kept; ++i) w.Bits(0, 2).Bits(0, 7).Align().Bits(3 + i % 10, 4);
     Input input(Marked(w));
@@ -54,7 +54,7 @@ TEST(GatekeeperRequestTest, AliasCountKeepsItsLow8Bits) {
 }
 
 TEST(GatekeeperRequestTest, SupportsAltGKIsItsFlagAlone) {
-  BitWriter w = Request(true);
+  BitWriter w = BeginDiscoveryRequest(true);
   Additions(w, Addition(7, 8), 8).OpenType({0xFF});
   Input input(Marked(w));
   Owned<GatekeeperRequest> m;
@@ -66,7 +66,7 @@ TEST(GatekeeperRequestTest, SupportsAltGKIsItsFlagAlone) {
 }
 
 TEST(GatekeeperRequestTest, UnknownAdditionsAreSkipped) {
-  BitWriter w = Request(true);
+  BitWriter w = BeginDiscoveryRequest(true);
   Additions(w, Addition(7, 12) | Addition(10, 12) | Addition(11, 12), 12);
   w.OpenType(Octets{}).OpenType({1, 2, 3}).OpenType({4});
   Input input(Marked(w));
@@ -81,7 +81,7 @@ TEST(GatekeeperRequestTest, NestedAdditionsTakeOverTheCountOfUnknownOnes) {
   BitWriter features;
   features.Bit(true).Bits(0, 4);
   Additions(features, 1, 1).OpenType({7});
-  BitWriter w = Request(true);
+  BitWriter w = BeginDiscoveryRequest(true);
   Additions(w, Addition(8, 12) | Addition(10, 12) | Addition(11, 12), 12);
   w.OpenType(features).OpenType({1, 2, 3}).OpenType({0x66});
   Input input(w);
@@ -101,13 +101,13 @@ TEST(GatekeeperRequestTest, FailureInAMemberStopsTheBody) {
 }
 
 // A GatekeeperReject up to its rejectReason.
-BitWriter Reject(bool extended) {
+BitWriter BeginDiscoveryReject(bool extended) {
   return BitWriter().Bit(extended).Bits(0, 2).Align().Bits(0, 16).OpenType(test::ProtocolIdentifier(4));
 }
 
 TEST(GatekeeperRejectTest, Reasons) {
   for (uint32_t tag = 0; tag < 4; ++tag) {
-    Input input(Marked(Reject(false).Bits(tag, 3)));
+    Input input(Marked(BeginDiscoveryReject(false).Bits(tag, 3)));
     Owned<GatekeeperReject> m;
     ASSERT_EQ(DecodeGatekeeperReject(*m, input.reader), kDecoded);
     EXPECT_EQ(+m->rejectReason.choiceTag, tag);
@@ -115,7 +115,7 @@ TEST(GatekeeperRejectTest, Reasons) {
     EXPECT_EQ(input.Next(), kMarker);
   }
   for (const uint32_t tag : {0U, 2U, 3U, 63U, 64U}) {
-    Input input(Marked(Reject(false).Bit(true).NormallySmall(tag).OpenType({1, 2})));
+    Input input(Marked(BeginDiscoveryReject(false).Bit(true).NormallySmall(tag).OpenType({1, 2})));
     Owned<GatekeeperReject> m;
     ASSERT_EQ(DecodeGatekeeperReject(*m, input.reader), kDecoded);
     EXPECT_EQ(+m->rejectReason.choiceTag, tag);
@@ -128,7 +128,7 @@ TEST(GatekeeperRejectTest, AltGKInfoInItsAddition) {
   BitWriter gatekeeper;
   gatekeeper.Bit(false).Length(1).Bits(0, 2);
   test::IpAddress(gatekeeper, 5, 1719).Bit(true).Bits(127, 7).Bit(true);
-  BitWriter w = Reject(true).Bits(3, 3);
+  BitWriter w = BeginDiscoveryReject(true).Bits(3, 3);
   Additions(w, Addition(0, 7) | Addition(6, 7), 7).OpenType(gatekeeper).OpenType({9});
   Input input(Marked(w));
   Owned<GatekeeperReject> m;

@@ -39,7 +39,7 @@ TEST(LocationRequestTest, HopCountHas255Values) {
 }
 
 // A LocationReject up to its rejectReason.
-BitWriter Reject() { return BitWriter().Bits(0, 2).Align().Bits(0, 16); }
+BitWriter BeginLocationReject() { return BitWriter().Bits(0, 2).Align().Bits(0, 16); }
 
 // A PartyNumber: e164Number of unknown type with one digit.
 BitWriter& Number(BitWriter& w, uint8_t digit) {
@@ -51,7 +51,7 @@ TEST(LocationRejectTest, NumbersToRouteTo) {
   numbers.Length(2);
   Number(numbers, 4);
   Number(numbers, 7);
-  Input input(Marked(Reject().Bit(true).NormallySmall(2).OpenType(numbers)));
+  Input input(Marked(BeginLocationReject().Bit(true).NormallySmall(2).OpenType(numbers)));
   Owned<LocationReject> m;
   ASSERT_EQ(DecodeLocationReject(*m, input.reader), kDecoded);
   EXPECT_EQ(+m->rejectReason.choiceTag, 2);
@@ -66,7 +66,8 @@ TEST(LocationRejectTest, NumbersToRouteTo) {
 TEST(LocationRejectTest, OtherReasonsKeepNoContents) {
   // Index 258 keeps the tag of routeCalltoSCN; it is an unknown alternative all the same.
   for (const uint32_t index : {0U, 1U, 7U, 8U, 258U}) {
-    Input input(Marked(Reject().Bit(true).NormallySmall(index).OpenType({1, 0x05, 0x00, 0x40, 0x00, 0x41})));
+    Input input(
+        Marked(BeginLocationReject().Bit(true).NormallySmall(index).OpenType({1, 0x05, 0x00, 0x40, 0x00, 0x41})));
     Owned<LocationReject> m;
     ASSERT_EQ(DecodeLocationReject(*m, input.reader), kDecoded);
     EXPECT_EQ(+m->rejectReason.choiceTag, index & 0xFF);

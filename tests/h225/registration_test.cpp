@@ -25,7 +25,7 @@ using Octets = std::vector<uint8_t>;
 BitWriter& Digit(BitWriter& w, uint32_t number) { return w.Bits(0, 2).Bits(0, 7).Align().Bits(3 + number % 10, 4); }
 
 // A RegistrationRequest up to its additions.
-BitWriter Request(const Octets& protocolIdentifier, bool extended, uint32_t aliases = 0) {
+BitWriter BeginRegistrationRequest(const Octets& protocolIdentifier, bool extended, uint32_t aliases = 0) {
   BitWriter w;
   w.Bit(extended).Bit(false).Bit(aliases != 0).Bit(false).Align().Bits(0, 16).OpenType(protocolIdentifier);
   w.Bit(true).Length(0).Length(0);
@@ -36,14 +36,16 @@ BitWriter Request(const Octets& protocolIdentifier, bool extended, uint32_t alia
 }
 
 // A RegistrationConfirm up to its additions.
-BitWriter Confirm(const Octets& protocolIdentifier, bool extended) {
+BitWriter BeginRegistrationConfirm(const Octets& protocolIdentifier, bool extended) {
   BitWriter w;
   w.Bit(extended).Bits(0, 3).Align().Bits(0, 16).OpenType(protocolIdentifier).Length(0);
   return w.Bits(0, 7).Align().Bits('E', 16);
 }
 
 // A RegistrationReject up to its reason.
-BitWriter Reject() { return BitWriter().Bits(0, 3).Align().Bits(0, 16).OpenType(ProtocolIdentifier(9)); }
+BitWriter BeginRegistrationReject() {
+  return BitWriter().Bits(0, 3).Align().Bits(0, 16).OpenType(ProtocolIdentifier(9));
+}
 
 // A BOOLEAN, as well as AlternateTransportAddresses with an empty annexE.
 const Octets kBooleanOrAddresses = {0x40, 0x00};
@@ -51,7 +53,7 @@ const Octets kTrue = {0x80};
 
 // The additions keepAlive, maintainConnection, the tenth one, multipleCalls and one beyond all known.
 Octets ExtendedRequest(uint8_t version) {
-  BitWriter w = Request(ProtocolIdentifier(version), true);
+  BitWriter w = BeginRegistrationRequest(ProtocolIdentifier(version), true);
   Additions(w, Addition(5, 22) | Addition(8, 22) | Addition(9, 22) | Addition(14, 22) | Addition(21, 22), 22);
   return Marked(w.OpenType(kTrue).OpenType(kTrue).OpenType(kBooleanOrAddresses).OpenType(kTrue).OpenType({1, 2, 3}));
 }
@@ -61,7 +63,7 @@ Octets ConfirmWithPreGrant(uint8_t version) {
   BitWriter grant;
   grant.Bit(true).Bits(0b1010, 4);
   Additions(grant, 0b1111, 4).OpenType({0, 9}).OpenType({0, 7}).OpenType(kBooleanOrAddresses).OpenType({0x40});
-  BitWriter w = Confirm(ProtocolIdentifier(version), true);
+  BitWriter w = BeginRegistrationConfirm(ProtocolIdentifier(version), true);
   return Additions(w, Addition(6, 7), 7).OpenType(grant).Octets({0, 0, 0});
 }
 
@@ -160,13 +162,13 @@ TEST(RegistrationTest, UnknownVersionIsRefusedAtOnce) {
   };
   for (const Octets& identifier : kIdentifiers) {
     SCOPED_TRACE(testing::PrintToString(identifier));
-    Input request(Marked(Request(identifier, false)));
+    Input request(Marked(BeginRegistrationRequest(identifier, false)));
     Owned<RegistrationRequest> m;
     EXPECT_EQ(DecodeRegistrationRequest(*m, request.reader), kUnsupportedVersion);
     EXPECT_TRUE(request.AtExactEnd());
     EXPECT_EQ(+m->discoveryComplete, 0U);
 
-    Input confirm(Marked(Confirm(identifier, false)));
+    Input confirm(Marked(BeginRegistrationConfirm(identifier, false)));
     Owned<RegistrationConfirm> c;
     EXPECT_EQ(DecodeRegistrationConfirm(*c, confirm.reader), kUnsupportedVersion);
     EXPECT_TRUE(confirm.AtExactEnd());
@@ -176,7 +178,7 @@ TEST(RegistrationTest, UnknownVersionIsRefusedAtOnce) {
 
 TEST(RegistrationTest, RejectNamesAnyVersion) {
   ASSERT_TRUE(ReadRequest(ExtendedRequest(4)).complete);
-  Input input(Marked(Reject().Bits(6, 4)));
+  Input input(Marked(BeginRegistrationReject().Bits(6, 4)));
   Owned<RegistrationReject> m;
   ASSERT_EQ(DecodeRegistrationReject(*m, input.reader), kDecoded);
   EXPECT_EQ(+m->rejectReason.choiceTag, 6);
@@ -185,7 +187,7 @@ TEST(RegistrationTest, RejectNamesAnyVersion) {
 }
 
 TEST(RegistrationTest, AliasesBeyond255AreKept) {
-  Input input(Marked(Request(ProtocolIdentifier(4), false, 300)));
+  Input input(Marked(BeginRegistrationRequest(ProtocolIdentifier(4), false, 300)));
   Owned<RegistrationRequest> m;
   ASSERT_EQ(DecodeRegistrationRequest(*m, input.reader), kDecoded);
   ASSERT_EQ(+m->terminalAliasCount, 300U);
@@ -195,7 +197,7 @@ TEST(RegistrationTest, AliasesBeyond255AreKept) {
 }
 
 TEST(RegistrationRejectTest, DuplicateAliasesAreListed) {
-  BitWriter w = Reject().Bits(4, 4).Length(2);
+  BitWriter w = BeginRegistrationReject().Bits(4, 4).Length(2);
   Digit(w, 0);
   Digit(w, 1);
   Input input(Marked(w));
@@ -214,7 +216,7 @@ TEST(RegistrationRejectTest, InvalidTerminalAliases) {
   Digit(aliases, 1).Length(1).Bits(0, 2);
   Digit(aliases, 2);
   Additions(aliases, 1, 1).OpenType({1, 2});
-  Input input(Marked(Reject().Bit(true).NormallySmall(6).OpenType(aliases)));
+  Input input(Marked(BeginRegistrationReject().Bit(true).NormallySmall(6).OpenType(aliases)));
   Owned<RegistrationReject> m;
   ASSERT_EQ(DecodeRegistrationReject(*m, input.reader), kDecoded);
   const auto& invalid = m->rejectReason.invalidTerminalAliases;
@@ -230,7 +232,7 @@ TEST(RegistrationRejectTest, InvalidTerminalAliases) {
 
 TEST(RegistrationRejectTest, OtherExtensionReasonsArePassedOver) {
   for (const uint32_t tag : {0U, 5U, 8U, 9U, 70U}) {
-    Input input(Marked(Reject().Bit(true).NormallySmall(tag).OpenType({1, 2})));
+    Input input(Marked(BeginRegistrationReject().Bit(true).NormallySmall(tag).OpenType({1, 2})));
     Owned<RegistrationReject> m;
     ASSERT_EQ(DecodeRegistrationReject(*m, input.reader), kDecoded);
     EXPECT_EQ(+m->rejectReason.choiceTag, tag);

@@ -18,7 +18,7 @@ using test::OctetsOf;
 using test::Owned;
 using Octets = std::vector<uint8_t>;
 
-constexpr uint32_t kRootBits[] = {4, 5, 3, 4};  // of each class
+constexpr uint32_t kRootBitsOfClass[] = {4, 5, 3, 4};  // of each class
 
 // A NonStandardMessage of h221NonStandard 86/1/1, without additions, up to its data.
 BitWriter& PrivateIdentifier(BitWriter& w, bool isExtended = false) {
@@ -34,7 +34,7 @@ TEST(NonStandardMessageTest, PrivateMessageOfEachClass) {
     Octets data = PrivateData(200, {1, 2, 3});
     data.push_back(0xFF);  // not consumed
     BitWriter w;
-    PrivateIdentifier(w.Bits(messageClass, 3).Bits(0, 1 + kRootBits[messageClass]), true).OpenType(data);
+    PrivateIdentifier(w.Bits(messageClass, 3).Bits(0, 1 + kRootBitsOfClass[messageClass]), true).OpenType(data);
     w.NormallySmall(0).Bit(true).OpenType({7, 7});
     Input input(Marked(w));
     const uint32_t allowance = input.reader.allowance;
