@@ -31,6 +31,8 @@ ALONE = re.compile(r"^ +\w+\.\w[\w.]* = PerRead(?:Bit|AdditionBit)\(")
 NAMESPACE = re.compile(r"namespace kelvra::(\w+)")
 STRUCT = re.compile(r" *(?:struct|union) (\w+) ?[{:]")
 CONDITION = re.compile(r"^\s*if \(m\.[\w.]+\) ?")
+# An ENUMERATED whose extension bit is never read.
+WITHOUT_EXTENSION_BIT = {"ScreeningIndicator"}
 BOOKKEEPING = {"isExtended", "isExtension", "choiceTag", "userDataExtension"}
 
 
@@ -75,8 +77,11 @@ def miscounted(lines):
             yield at + 1, lines[at + 1]
 
 
-def lacking(name, status, record, body, known):
+def lacking(name, status, record, body, members):
     """What a decoder of this record must do and does not."""
+    whole = members is not None and name == record.rpartition("::")[2]
+    if whole and "isExtended" in members and ".isExtended = " not in body and record not in WITHOUT_EXTENSION_BIT:
+        yield "its extension bit is not read"
     unknown_passed = ("PerSkipExtensionAdditions(r);" in body
                       or "PerNoteUnknownAdditions(r, additions);" in body and "PerSkipUnknownAdditions(r);" in body
                       or "PerCountUnknownAdditions(r, additions);" in body and "PerSkipOpenTypes(r, unknown);" in body)
@@ -84,7 +89,7 @@ def lacking(name, status, record, body, known):
         yield "its unknown additions are not passed over"
     if "ReadChoice(m, r" in body and "m.isExtension)" not in body:
         yield "its extension alternatives are not told apart"
-    if status == "Status" and known and name == record.rpartition("::")[2]:
+    if status == "Status" and whole:
         asks = body.startswith("  if (PerAtEnd(r)) return kExhausted;\n")
         if asks != ("::" not in record):
             yield "asks on entry" if asks else "does not ask on entry"
@@ -102,7 +107,7 @@ def complaints(path, table):
     family = NAMESPACE.search(text)[1]
     for status, name, record, body in FUNCTION.findall(text):
         members = table.get(f"{family}::{record}") or table.get(record)
-        for lack in lacking(name, status, record, body, members is not None):
+        for lack in lacking(name, status, record, body, members):
             yield f"Decode{name}: {lack}"
         flags = PRESENCE.findall(body)
         if not members or "choiceTag" in members or not (flags or WHOLE.search(body)):
