@@ -5,7 +5,8 @@
 
 Records have their members in the order of the ASN.1, which is that of the encoding. So a decoder of a SEQUENCE
 must read the presence bits of all its optional members in the order of the record, and then the members
-likewise; and its walk must tell them so. No message need tell two presence bits apart for a swap of them to be seen here.
+likewise; and its walk must tell them so. No message need tell two presence bits apart for a swap of them to be
+seen here.
 
 Flags that follow one another are read at once, as many as there are lines that take one. What may be extended
 is passed over where it is: unknown additions of a SEQUENCE, unknown alternatives of a CHOICE. And every H.225.0
@@ -147,7 +148,7 @@ def main():
     table = records()
     found = [f"{path.relative_to(TOP)}: {what}" for path in SOURCES for what in complaints(path, table)]
     found += [f"{path.relative_to(TOP)}: {what}" for path in HEADERS for what in complaints_of_walks(path, table)]
-    print("\n".join(found) if found else f"order: {len(SOURCES)} files of decoders read as their records stand")
+    print("\n".join(found) if found else f"order: {len(SOURCES)} files of decoders keep to their records")
     return 1 if found else 0
 
 
