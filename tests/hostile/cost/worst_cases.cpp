@@ -1,14 +1,22 @@
 // Decodes and releases each hostile message at growing sizes. By itself it prints the time of each; under
 // callgrind it leaves the instructions of each, which check_cost.py judges.
+//
+//   kelvra_worst_cases [CORPORA]
+//
+// Of the messages that fuzzing has left in CORPORA/FAMILY it prints instead the most that one of them costs.
 #include <valgrind/callgrind.h>
 
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
 
 #include "doubles/message_family.h"
 #include "hostile/hostile_messages.h"
+#include "hostile/message_cost.h"
 
 namespace kelvra::test {
 namespace {
@@ -53,11 +61,8 @@ void CountInstructionsOf(const Message& message, const std::string& name) {
   CALLGRIND_DUMP_STATS_AT(name.c_str());
 }
 
-}  // namespace
-}  // namespace kelvra::test
-
-int main() {
-  using namespace kelvra::test;
+// Each hostile message at each size.
+void MeasureHostileMessages() {
   for (int halved = kHalvings; halved >= 0; --halved) {
     const size_t size = kLargest >> halved;
     for (const Message& message : HostileMessages(size)) {
@@ -68,5 +73,53 @@ int main() {
       }
     }
   }
+}
+
+// Keeps in `most` what is larger of the two, and in `name` whose it is.
+template <class Number>
+void KeepMost(Number& most, Number value, std::string& name, const Message& message) {
+  if (value <= most) return;
+  most = value;
+  name = message.name;
+}
+
+// The most that a message of the folder costs, and its name.
+void MeasureCorpus(Family family, const std::filesystem::path& folder) {
+  size_t messages = 0;
+  MessageCost most{};
+  double milliseconds = 0;
+  double claimedForEach = 0;
+  std::string slowest, rereading, claiming, amplifying;
+  for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+    std::ifstream file(entry.path(), std::ios::binary);
+    const std::vector<uint8_t> octets{std::istreambuf_iterator<char>(file), {}};
+    const Message message{family, entry.path().filename().string(), octets};
+    const MessageCost cost = CostOf(family, octets);
+    KeepMost(most.reread, cost.reread, rereading, message);
+    KeepMost(most.claimed, cost.claimed, claiming, message);
+    KeepMost(claimedForEach, cost.claimed / static_cast<double>(octets.size()), amplifying, message);
+    KeepMost(milliseconds, TimeOf(message), slowest, message);
+    ++messages;
+  }
+  std::printf("%s: %zu messages\n", folder.filename().c_str(), messages);
+  std::printf("  %10u octets read again          %s\n", most.reread, rereading.c_str());
+  std::printf("  %10u octets claimed             %s\n", most.claimed, claiming.c_str());
+  std::printf("  %10.0f octets claimed for each    %s\n", claimedForEach, amplifying.c_str());
+  std::printf("  %10.3f ms                         %s\n", milliseconds, slowest.c_str());
+}
+
+}  // namespace
+}  // namespace kelvra::test
+
+int main(int argc, char** argv) {
+  using namespace kelvra::test;
+  if (argc == 1) {
+    MeasureHostileMessages();
+    return 0;
+  }
+  const std::filesystem::path corpora = argv[1];
+  MeasureCorpus(Family::kRas, corpora / Ras::kName);
+  MeasureCorpus(Family::kQ931, corpora / Q931::kName);
+  MeasureCorpus(Family::kH245, corpora / H245::kName);
   return 0;
 }

@@ -1,0 +1,68 @@
+#include "hostile/message_cost.h"
+
+#include "h225/call/h323_user_information_decode.h"
+#include "h225/call/q931_frame.h"
+#include "h225/ras/ras_message_decode.h"
+#include "h225/release.h"
+#include "h245/messages/h245_message_decode.h"
+#include "h245/release.h"
+#include "per/reader.h"
+
+namespace kelvra::test {
+namespace {
+
+constexpr uint32_t kTpktHeader = 4;
+constexpr uint32_t kElementHeader = 4;  // identifier, length, protocol discriminator
+constexpr uint8_t kUserUser = 0x7E;
+
+// Lets `reader` begin at the user information; false when there is none.
+bool BeginUserInformation(PerReader& reader, const std::vector<uint8_t>& octets) {
+  if (octets.size() <= kTpktHeader) return false;
+  const uint32_t available = static_cast<uint32_t>(octets.size()) - kTpktHeader;
+  const h225::Q931Frame frame{octets.data() + kTpktHeader, available, static_cast<uint16_t>(available)};
+  h225::Q931Element element;
+  if (h225::FindQ931Element(&frame, kUserUser, &element) != h225::kQ931Decoded) return false;
+  const uint32_t first = element.position + kElementHeader;
+  if (first >= available) return false;
+  PerReaderInit(reader, frame.octets + first, element.length + uint32_t{1}, available - first);
+  return true;
+}
+
+// What `decode` takes from the reader.
+template <class Decode>
+MessageCost CostOfDecode(PerReader& reader, Decode decode) {
+  const uint32_t allowance = reader.allowance;
+  decode(reader);
+  return {reader.reread, allowance - reader.allowance};
+}
+
+}  // namespace
+
+MessageCost CostOf(Family family, const std::vector<uint8_t>& octets) {
+  PerReader reader;
+  PerReaderInit(reader, octets.data(), static_cast<uint16_t>(octets.size()));
+  switch (family) {
+    case Family::kRas:
+      return CostOfDecode(reader, [](PerReader& r) {
+        h225::RasMessageRecord record{};
+        static_cast<void>(h225::DecodeRasMessage(record, r));
+        h225::ReleaseRasMessage(&record);
+      });
+    case Family::kQ931:
+      if (!BeginUserInformation(reader, octets)) return {};
+      return CostOfDecode(reader, [](PerReader& r) {
+        h225::H323UserInformation record{};
+        static_cast<void>(h225::DecodeH323UserInformation(record, r));
+        h225::ReleaseH323UserInformation(&record);
+      });
+    case Family::kH245:
+      return CostOfDecode(reader, [](PerReader& r) {
+        h245::H245MessageRecord record{};
+        h245::DecodeMultimediaSystemControlMessage(record, r);
+        h245::ReleaseH245Message(record);
+      });
+  }
+  return {};
+}
+
+}  // namespace kelvra::test

@@ -1,0 +1,19 @@
+// What a message costs, in figures that are the same on every run.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "doubles/message_corpus.h"
+
+namespace kelvra::test {
+
+struct MessageCost {
+  uint32_t reread;   // octets read again
+  uint32_t claimed;  // octets of blocks
+};
+
+// Decodes the octets as the export of the family does, and releases the record.
+MessageCost CostOf(Family family, const std::vector<uint8_t>& octets);
+
+}  // namespace kelvra::test
