@@ -42,6 +42,7 @@ inline void CopyString(uint8_t* to, const uint8_t* from, uint32_t count) {
 
 // The same of `count` octets of which some lie outside the caller's buffer, those as zero.
 [[gnu::noinline]] void TakeOctetsAtEdge(PerReader& reader, uint8_t* octets, uint32_t count) {
+  if (count == 0) return;
   const auto readable =
       reader.position >= reader.readable ? 0 : static_cast<uint32_t>(reader.readable - reader.position);
   CodecCopy(octets, reader.position, Minimum(count, readable));
@@ -242,7 +243,7 @@ uint8_t* PerReadBitString(PerReader& reader, uint32_t count) {
   uint32_t done = 0;
   if (reader.bitOffset == 0) {
     done = Minimum(count / 8, PerOctetsLeft(reader));
-    if (done != 0) TakeOctets(reader, octets, done);
+    TakeOctets(reader, octets, done);
   }
   for (; done < count / 8 && !PerAtEnd(reader); ++done) octets[done] = static_cast<uint8_t>(PerReadBits(reader, 8));
   if (const uint32_t rest = count % 8; rest != 0 && !PerAtEnd(reader)) {

@@ -19,6 +19,7 @@ class TraceTest : public testing::Test {
     PerReaderInit(reader, octets.data(), static_cast<uint32_t>(octets.size()));
     read(reader);
     std::vector<TraceCall> traces = heap_.Traces();
+    heap_.DropLiveBlocks();
     heap_.Reset();
     return traces;
   }
@@ -58,6 +59,19 @@ TEST_F(TraceTest, WhatFailsOtherwiseIsNotTraced) {
   EXPECT_EQ(TracesOf({}, [](PerReader& r) { PerReadBits(r, 1); }), Traces{});
   EXPECT_EQ(TracesOf({0x05}, [](PerReader& r) { PerReadInteger(r); }), Traces{});
   EXPECT_EQ(TracesOf({0x01}, [](PerReader& r) { PerReadOctets(r, 2); }), Traces{});
+  // Aligning takes the reader to its end.
+  EXPECT_EQ(TracesOf({0x01},
+                     [](PerReader& r) {
+                       PerReadBit(r);
+                       PerReadOctets(r, 1);
+                     }),
+            Traces{});
+  EXPECT_EQ(TracesOf({0x01},
+                     [](PerReader& r) {
+                       PerReadBit(r);
+                       PerReadBitString(r, 24);
+                     }),
+            Traces{});
 }
 
 TEST_F(TraceTest, TheQ931FrameTellsItsEntryAndWhatItLacks) {
