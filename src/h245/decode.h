@@ -6,11 +6,11 @@
 
 namespace kelvra::h245 {
 
-// A CHOICE of NULLs: the known extension alternatives hold nothing, so all are passed over alike.
+// A CHOICE of NULLs.
 template <class Names>
 void DecodeNullChoice(NullChoice<Names>& m, PerReader& r) {
-  ReadChoice(m, r, Names::kRoots);
-  if (m.isExtension) PerSkipOpenTypes(r, 1);
+  const uint32_t index = ReadChoice(m, r, Names::kRoots);
+  if (m.isExtension) PerPassOverAlternative(r, index, ExtensionsOf<Names>());
 }
 
 template <class Names>

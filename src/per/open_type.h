@@ -32,6 +32,20 @@ inline void OpenTypeEnd(PerReader& reader) {
 // Passes over `count` open types. A length past the end leaves the reader beyond it.
 void PerSkipOpenTypes(PerReader& reader, int32_t count);
 
+// Passes over an open type that is known to hold nothing, as a NULL. It is entered like any other and takes a
+// slot of the ring, which one that is not known does not.
+inline void PerPassOverOpenType(PerReader& reader) {
+  OpenTypeBegin(reader);
+  OpenTypeEnd(reader);
+}
+
+// Passes over the extension alternative `index` of a CHOICE that knows the first `known`, some of which hold
+// nothing.
+inline void PerPassOverAlternative(PerReader& reader, uint32_t index, uint32_t known) {
+  if (index < known) return PerPassOverOpenType(reader);
+  PerSkipOpenTypes(reader, 1);
+}
+
 // A BOOLEAN in its open type.
 inline uint32_t PerReadOpenBoolean(PerReader& reader) {
   OpenTypeBegin(reader);

@@ -180,21 +180,34 @@ template <class Choice>
   return index;
 }
 
-// Passes over an extension alternative, one that is not known or holds nothing.
+// Passes over an extension alternative that is not known.
 inline Status SkipAlternative(PerReader& r) {
   PerSkipOpenTypes(r, 1);
+  return kDecoded;
+}
+
+// Passes over an extension alternative of a CHOICE that knows the first `known`, some of which hold nothing.
+inline Status PassOverAlternative(PerReader& r, uint32_t index, uint32_t known) {
+  PerPassOverAlternative(r, index, known);
   return kDecoded;
 }
 
 // What a root alternative without contents reports, or an index beyond the `roots` alternatives.
 inline Status NullAlternative(uint32_t index, uint32_t roots) { return index < roots ? kDecoded : kMalformed; }
 
-// A CHOICE of NULLs: the known extension alternatives hold nothing, so all are passed over alike.
+// The alternative `index` of a CHOICE of NULLs.
+template <class Names>
+Status DecodeNull(const NullChoice<Names>& m, PerReader& r, uint32_t index) {
+  if (m.isExtension) return PassOverAlternative(r, index, ExtensionsOf<Names>());
+  return NullAlternative(index, Names::kRoots);
+}
+
+// A CHOICE of NULLs.
 template <class Names>
 Status DecodeNullChoice(NullChoice<Names>& m, PerReader& r) {
   if (PerAtEnd(r)) return kExhausted;
   const uint32_t index = ReadChoice(m, r, Names::kRoots);
-  return m.isExtension ? SkipAlternative(r) : NullAlternative(index, Names::kRoots);
+  return DecodeNull(m, r, index);
 }
 
 // The same for a CHOICE that does not keep the index of an extension alternative.
@@ -301,14 +314,14 @@ Status DecodeOpenSequenceOf(List list, PerReader& r,
   return kDecoded;
 }
 
-// SEQUENCE SIZE (low..high) OF in an open type.
-template <class List, class Returned>
-Status DecodeOpenSizedSequenceOf(List list, PerReader& r, uint32_t low, uint32_t high,
-                                 Returned (*decode)(std::type_identity_t<typename List::Element>&, PerReader&)) {
+// SEQUENCE SIZE (low..high) OF in an open type, which is left also where the list was refused: nothing unwinds
+// where decoders return nothing, and those around this one go on behind it.
+template <class List>
+void DecodeOpenSizedSequenceOf(List list, PerReader& r, uint32_t low, uint32_t high,
+                               void (*decode)(std::type_identity_t<typename List::Element>&, PerReader&)) {
   OpenTypeBegin(r);
-  KELVRA_TRY(DecodeSizedSequenceOf(list, r, low, high, decode));
+  static_cast<void>(DecodeSizedSequenceOf(list, r, low, high, decode));
   OpenTypeEnd(r);
-  return kDecoded;
 }
 
 }  // namespace kelvra

@@ -62,15 +62,20 @@ constexpr uint32_t CountOf(const char* const (&)[kCount]) {
   return kCount;
 }
 
-// Passes a CHOICE of NULLs to a visitor. `Names` lists its alternatives, roots first.
+// How many extension alternatives a CHOICE of NULLs knows. `Names` lists its alternatives, roots first.
+template <class Names>
+constexpr uint32_t ExtensionsOf() {
+  return CountOf(Names::kAlternatives) - Names::kRoots;
+}
+
+// Passes a CHOICE of NULLs to a visitor.
 template <class Names, class Visitor>
 void WalkNullChoice(Visitor& visitor, uint32_t isExtension, uint32_t tag) {
-  constexpr uint32_t kCount = CountOf(Names::kAlternatives);
   if (isExtension == 0) {
     if (tag < Names::kRoots) return visitor.Null(Names::kAlternatives[tag]);
     return visitor.UnknownRoot(tag);
   }
-  if (tag < kCount - Names::kRoots) return visitor.Null(Names::kAlternatives[Names::kRoots + tag]);
+  if (tag < ExtensionsOf<Names>()) return visitor.Null(Names::kAlternatives[Names::kRoots + tag]);
   visitor.UnknownExtension(tag);
 }
 

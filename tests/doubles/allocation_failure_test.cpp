@@ -2,6 +2,8 @@
 #include "api/messages.h"
 #include "doubles/channel_writer.h"
 #include "doubles/fault_test.h"
+#include "h245/messages/h245_message_decode.h"
+#include "h245/release.h"
 
 namespace kelvra::test {
 namespace {
@@ -66,6 +68,24 @@ TEST_F(AllocationFailureTest, RefusalsFromOnePointOnLeaveARecordThatReleasesClea
         EXPECT_EQ(message.Result(), -1) << what;
       }
       ExpectHonestOutcome(original.family, message, what);
+    }
+  }
+}
+
+// A slot of the ring that stayed taken would have those around it resume at a wrong place.
+TEST_F(AllocationFailureTest, H245LeavesEveryOpenTypeThatItEnters) {
+  for (const Message& original : Corpus()) {
+    if (original.family != Family::kH245) continue;
+    const size_t allocations = KindsOf(original).size();
+    for (size_t nth = 1; nth <= allocations; ++nth) {
+      heap_.Reset();
+      heap_.RefuseOnly(nth);
+      PerReader reader;
+      PerReaderInit(reader, original.octets.data(), static_cast<uint32_t>(original.octets.size()));
+      h245::H245MessageRecord record{};
+      h245::DecodeMultimediaSystemControlMessage(record, reader);
+      EXPECT_EQ(reader.openTypes.index, 0U) << original.name << ", allocation " << nth;
+      h245::ReleaseH245Message(record);
     }
   }
 }

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstddef>
 #include <memory>
 #include <string>
@@ -82,6 +83,17 @@ TEST(Q931FrameTest, NullArgumentsAreRefused) {
   Q931Element element{};
   EXPECT_EQ(FindQ931Element(nullptr, 0x7E, &element), kQ931BadArgument);
   EXPECT_EQ(FindQ931Element(&frame, 0x7E, nullptr), kQ931BadArgument);
+}
+
+// With its header of 3 octets the user-user element would not fit in 16 bits.
+TEST(Q931FrameTest, ALengthThatItsHeaderCarriesPast16BitsIsBeyondTheFrame) {
+  for (const uint8_t low : {uint8_t{0xFD}, uint8_t{0xFF}}) {
+    Octets octets = Q931Builder().UserUser().Done();
+    const auto identifier = std::find(octets.begin(), octets.end(), 0x7E);
+    identifier[1] = 0xFF;
+    identifier[2] = low;
+    EXPECT_EQ(Frame(octets).result, kQ931Rejected) << +low;
+  }
 }
 
 TEST(Q931FrameTest, SingleOctetElementsAreNeverFound) {

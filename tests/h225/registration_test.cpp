@@ -132,6 +132,13 @@ TEST(RegistrationTest, AdditionsAreThoseOfTheVersionNamed) {
   }
 }
 
+TEST(RegistrationTest, PreGrantThatEndsBehindItsLengthIsNotOne) {
+  BitWriter w = BeginRegistrationConfirm(ProtocolIdentifier(4), true);
+  Input input(Additions(w, Addition(6, 7), 7).Length(5));
+  Owned<RegistrationConfirm> m;
+  EXPECT_EQ(DecodeRegistrationConfirm(*m, input.reader), kExhausted);
+}
+
 TEST(RegistrationTest, OtherVersionsOnAnotherThreadDoNotMatter) {
   constexpr int kRounds = 20000;
   size_t differences[2] = {0, 0};

@@ -153,6 +153,21 @@ TEST(PerSkipOpenTypes, EndsWithTheInputWhateverTheCount) {
   EXPECT_TRUE(fragmented.AtExactEnd());
 }
 
+// Whether the reader has entered an open type of two octets since.
+bool EnteredTwoOctets(const PerReader& reader) { return reader.openTypes.lengths[1] == 2; }
+
+TEST(PerPassOverAlternative, EntersTheOpenTypeOfOneThatIsKnown) {
+  for (const uint32_t index : {0U, 2U, 3U, 300U}) {
+    SCOPED_TRACE(index);
+    Input input(BitWriter().Bit(true).OpenType({1, 2}).Octets({0x5A}));
+    PerReadBit(input.reader);
+    PerPassOverAlternative(input.reader, index, 3);
+    EXPECT_EQ(EnteredTwoOctets(input.reader), index < 3);
+    EXPECT_EQ(input.reader.openTypes.index, 0U);
+    EXPECT_EQ(ReadOctet(input.reader), 0x5Au);
+  }
+}
+
 TEST(ExtensionAdditions, OfThreeNamedTheTwoUnknownAreSkipped) {
   Input input(BitWriter()
                   .NormallySmall(2)

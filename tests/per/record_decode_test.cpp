@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "h245/decode.h"
+#include "per/bit_writer.h"
 #include "per/input.h"
 
 namespace kelvra::test {
@@ -37,6 +39,35 @@ TEST(ReadChoice, IsAnExtensionBitAndAnIndex) {
         }
       }
     }
+  }
+}
+
+struct Names {
+  static constexpr uint32_t kRoots = 2;
+  static constexpr const char* kAlternatives[] = {"first", "second", "third", "fourth", "fifth"};
+};
+
+// Decodes the extension alternative `index` of a CHOICE that knows three, and tells whether its open type was
+// entered.
+template <class Choice, class Decode>
+bool Enters(uint32_t index, Decode decode) {
+  Input input(BitWriter().Bit(true).NormallySmall(index).OpenType({1, 2}).Octets({0x5A}));
+  Choice m{};
+  decode(m, input.reader);
+  EXPECT_EQ(m.isExtension, 1U);
+  EXPECT_EQ(+m.choiceTag, index);
+  EXPECT_EQ(input.Next(), 0x5AU);
+  return input.reader.openTypes.lengths[1] == 2;
+}
+
+TEST(DecodeNullChoice, EntersTheOpenTypeOfAnAlternativeThatIsKnown) {
+  for (const uint32_t index : {0U, 2U, 3U, 70U}) {
+    SCOPED_TRACE(index);
+    EXPECT_EQ(
+        Enters<NullChoice<Names>>(index, [](auto& m, PerReader& r) { EXPECT_EQ(DecodeNullChoice(m, r), kDecoded); }),
+        index < 3);
+    EXPECT_EQ(Enters<h245::NullChoice<Names>>(index, [](auto& m, PerReader& r) { h245::DecodeNullChoice(m, r); }),
+              index < 3);
   }
 }
 

@@ -42,7 +42,7 @@ Status DecodeCallProceedingUUIE(CallProceedingUUIE& m, PerReader& r) {
   if (m.hasFastStart) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.fastStart), r, DecodeFastStartElement));
   if (m.hasMultipleCalls) m.multipleCalls = PerReadOpenBoolean(r);
   if (m.hasMaintainConnection) m.maintainConnection = PerReadOpenBoolean(r);
-  if (m.hasFastConnectRefused) PerSkipOpenTypes(r, 1);
+  if (m.hasFastConnectRefused) PerPassOverOpenType(r);
   if (m.hasFeatureSet) KELVRA_TRY(DecodeOpen(m.featureSet, r, DecodeFeatureSet));
   PerSkipUnknownAdditions(r);
   return kDecoded;
@@ -75,7 +75,7 @@ Status DecodeProgressUUIE(ProgressUUIE& m, PerReader& r) {
   PerNoteUnknownAdditions(r, additions);
   if (m.hasMultipleCalls) m.multipleCalls = PerReadOpenBoolean(r);
   if (m.hasMaintainConnection) m.maintainConnection = PerReadOpenBoolean(r);
-  if (m.hasFastConnectRefused) PerSkipOpenTypes(r, 1);
+  if (m.hasFastConnectRefused) PerPassOverOpenType(r);
   PerSkipUnknownAdditions(r);
   return kDecoded;
 }
@@ -117,7 +117,7 @@ Status DecodeAlertingUUIE(AlertingUUIE& m, PerReader& r) {
   if (m.hasAlertingAddress) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.alertingAddress), r, DecodeAliasAddress));
   if (m.hasPresentationIndicator) KELVRA_TRY(DecodeOpen(m.presentationIndicator, r, DecodePresentationIndicator));
   if (m.hasScreeningIndicator) KELVRA_TRY(DecodeOpen(m.screeningIndicator, r, DecodeScreeningIndicator));
-  if (m.hasFastConnectRefused) PerSkipOpenTypes(r, 1);
+  if (m.hasFastConnectRefused) PerPassOverOpenType(r);
   if (m.hasServiceControl)
     KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.serviceControl), r, DecodeServiceControlSession));
   if (m.hasCapacity) KELVRA_TRY(DecodeOpen(m.capacity, r, DecodeCallCapacity));
@@ -168,7 +168,7 @@ Status DecodeConnectUUIE(ConnectUUIE& m, PerReader& r) {
   if (m.hasConnectedAddress) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.connectedAddress), r, DecodeAliasAddress));
   if (m.hasPresentationIndicator) KELVRA_TRY(DecodeOpen(m.presentationIndicator, r, DecodePresentationIndicator));
   if (m.hasScreeningIndicator) KELVRA_TRY(DecodeOpen(m.screeningIndicator, r, DecodeScreeningIndicator));
-  if (m.hasFastConnectRefused) PerSkipOpenTypes(r, 1);
+  if (m.hasFastConnectRefused) PerPassOverOpenType(r);
   if (m.hasServiceControl)
     KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.serviceControl), r, DecodeServiceControlSession));
   if (m.hasCapacity) KELVRA_TRY(DecodeOpen(m.capacity, r, DecodeCallCapacity));

@@ -75,7 +75,7 @@ Status DecodeFacilityUUIE(FacilityUUIE& m, PerReader& r) {
   if (m.hasFastStart) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.fastStart), r, DecodeFastStartElement));
   if (m.hasMultipleCalls) m.multipleCalls = PerReadOpenBoolean(r);
   if (m.hasMaintainConnection) m.maintainConnection = PerReadOpenBoolean(r);
-  if (m.hasFastConnectRefused) PerSkipOpenTypes(r, 1);
+  if (m.hasFastConnectRefused) PerPassOverOpenType(r);
   if (m.hasServiceControl)
     KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.serviceControl), r, DecodeServiceControlSession));
   if (m.hasCircuitInfo) KELVRA_TRY(DecodeOpen(m.circuitInfo, r, DecodeCircuitInfo));

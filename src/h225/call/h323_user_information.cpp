@@ -22,7 +22,7 @@ Status DecodeH323MessageBody(H323UUPDU::H323MessageBody& m, PerReader& r) {
       case 3: return DecodeOpen(m.statusInquiry, r, DecodeCallStatusUUIE);
       case 4: return DecodeOpen(m.setupAcknowledge, r, DecodeCallStatusUUIE);
       case 5: return DecodeOpen(m.notify, r, DecodeCallStatusUUIE);
-      default: return SkipAlternative(r);
+      default: return PassOverAlternative(r, index, 6);
     }
   }
   switch (index) {
@@ -101,7 +101,7 @@ Status DecodeH323UUPDU(H323UUPDU& m, PerReader& r) {
   if (m.callLinkagePresent) KELVRA_TRY(DecodeOpen(m.callLinkage, r, DecodeCallLinkage));
   if (m.tunnelledSignallingMessagePresent)
     KELVRA_TRY(DecodeOpen(m.tunnelledSignallingMessage, r, DecodeTunnelledSignallingMessage));
-  if (m.provisionalRespToH245TunnellingPresent) PerSkipOpenTypes(r, 1);
+  if (m.provisionalRespToH245TunnellingPresent) PerPassOverOpenType(r);
   if (m.stimulusControlPresent) KELVRA_TRY(DecodeOpen(m.stimulusControl, r, DecodeStimulusControl));
   if (m.genericDataPresent) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.genericData), r, DecodeGenericData));
   PerSkipUnknownAdditions(r);

@@ -28,7 +28,7 @@ Status DecodeInformationUUIE(InformationUUIE& m, PerReader& r) {
   if (m.hasTokens) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.tokens), r, h235::DecodeClearToken));
   if (m.hasCryptoTokens) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.cryptoTokens), r, DecodeCryptoH323Token));
   if (m.hasFastStart) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.fastStart), r, DecodeFastStartElement));
-  if (m.hasFastConnectRefused) PerSkipOpenTypes(r, 1);
+  if (m.hasFastConnectRefused) PerPassOverOpenType(r);
   if (m.hasCircuitInfo) KELVRA_TRY(DecodeOpen(m.circuitInfo, r, DecodeCircuitInfo));
   PerSkipUnknownAdditions(r);
   return kDecoded;

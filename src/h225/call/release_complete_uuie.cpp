@@ -19,7 +19,7 @@ Status DecodeReleaseCompleteReason(ReleaseCompleteReason& m, PerReader& r) {
     switch (index) {
       case 5: return DecodeOpen(m.nonStandardReason, r, DecodeNonStandardParameter);
       case 6: return DecodeOpen(m.replaceWithConferenceInvite, r, DecodeGloballyUniqueID);
-      default: return SkipAlternative(r);
+      default: return PassOverAlternative(r, index, 11);
     }
   }
   return NullAlternative(index, 12);

@@ -100,7 +100,7 @@ Status DecodeSetupUUIE(SetupUUIE& m, PerReader& r) {
   if (m.hasScreeningIndicator) KELVRA_TRY(DecodeOpen(m.screeningIndicator, r, DecodeScreeningIndicator));
   if (m.hasServiceControl)
     KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.serviceControl), r, DecodeServiceControlSession));
-  if (m.hasSymmetricOperationRequired) PerSkipOpenTypes(r, 1);
+  if (m.hasSymmetricOperationRequired) PerPassOverOpenType(r);
   if (m.hasCapacity) KELVRA_TRY(DecodeOpen(m.capacity, r, DecodeCallCapacity));
   if (m.hasCircuitInfo) KELVRA_TRY(DecodeOpen(m.circuitInfo, r, DecodeCircuitInfo));
   if (m.hasDesiredProtocols)

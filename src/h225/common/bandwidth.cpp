@@ -44,7 +44,7 @@ Status DecodeRTPSession(RTPSession& m, PerReader& r) {
   m.hasMulticast = known.Next();
   m.hasBandwidth = known.Next();
   PerNoteUnknownAdditions(r, additions);
-  if (m.hasMulticast) PerSkipOpenTypes(r, 1);
+  if (m.hasMulticast) PerPassOverOpenType(r);
   if (m.hasBandwidth) m.bandwidth = PerReadOpenNumber<uint32_t>(r, 0, kUnsigned32Maximum);
   PerSkipUnknownAdditions(r);
   return kDecoded;

@@ -6,6 +6,7 @@
 #include "circuits.h"
 #include "crypto_tokens.h"
 #include "endpoint_type.h"
+#include "identifiers.h"
 
 namespace kelvra::h225 {
 
@@ -80,7 +81,7 @@ struct Endpoint {
 struct AlternateGK {
   TransportAddress rasAddress;
   uint32_t hasGatekeeperIdentifier;
-  BMPStringValue gatekeeperIdentifier;
+  GatekeeperIdentifier gatekeeperIdentifier;
   uint32_t needToRegister;
   uint8_t priority;
   uint32_t isExtended;

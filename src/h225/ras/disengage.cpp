@@ -20,7 +20,7 @@ Status DecodeReason(NullChoice<Names>& m, PerReader& r) {
   m.isExtension = PerReadBit(r);
   if (PerAtEnd(r)) return kExhausted;
   const uint32_t index = ReadChoiceIndex(m, r, Names::kRoots);
-  return m.isExtension ? SkipAlternative(r) : NullAlternative(index, Names::kRoots);
+  return DecodeNull(m, r, index);
 }
 
 }  // namespace

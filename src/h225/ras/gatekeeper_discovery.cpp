@@ -51,7 +51,7 @@ Status DecodeGatekeeperRequest(GatekeeperRequest& m, PerReader& r) {
   if (m.hasAlgorithmOIDs) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.algorithmOIDs), r, PerReadObjectIdentifier));
   if (m.hasIntegrity) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.integrity), r, DecodeIntegrityMechanism));
   if (m.hasIntegrityCheckValue) KELVRA_TRY(DecodeOpen(m.integrityCheckValue, r, DecodeICV));
-  if (m.hasSupportsAltGK) PerSkipOpenTypes(r, 1);
+  if (m.hasSupportsAltGK) PerPassOverOpenType(r);
   if (m.hasFeatureSet) KELVRA_TRY(DecodeOpen(m.featureSet, r, DecodeFeatureSet));
   if (m.hasGenericData) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.genericData), r, DecodeGenericData));
   PerSkipUnknownAdditions(r);

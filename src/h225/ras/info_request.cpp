@@ -45,9 +45,9 @@ Status DecodeInfoRequest(InfoRequest& m, PerReader& r) {
   if (m.hasUuiesRequested) KELVRA_TRY(DecodeOpen(m.uuiesRequested, r, DecodeUUIEsRequested));
   if (m.hasCallLinkage) KELVRA_TRY(DecodeOpen(m.callLinkage, r, DecodeCallLinkage));
   if (m.hasUsageInfoRequested) KELVRA_TRY(DecodeOpen(m.usageInfoRequested, r, DecodeRasUsageInfoTypes));
-  if (m.hasSegmentedResponseSupported) PerSkipOpenTypes(r, 1);
+  if (m.hasSegmentedResponseSupported) PerPassOverOpenType(r);
   if (m.hasNextSegmentRequested) m.nextSegmentRequested = PerReadOpenNumber<uint16_t>(r, 0, 65535);
-  if (m.hasCapacityInfoRequested) PerSkipOpenTypes(r, 1);
+  if (m.hasCapacityInfoRequested) PerPassOverOpenType(r);
   if (m.hasGenericData) KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.genericData), r, DecodeGenericData));
   PerSkipUnknownAdditions(r);
   return kDecoded;

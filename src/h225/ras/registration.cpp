@@ -18,6 +18,7 @@ namespace kelvra::h225 {
 namespace {
 
 Status DecodePreGrantedARQ(RegistrationConfirm::PreGrantedARQ& m, PerReader& r, int32_t mode) {
+  if (PerAtEnd(r)) return kExhausted;
   PerFlags flags = PerReadFlags(r, 5);
   m.isExtended = flags.Next();
   m.makeCall = flags.Next();
@@ -67,7 +68,7 @@ Status DecodeRegistrationRejectReason(RegistrationRejectReason& m, PerReader& r)
   const uint32_t index = ReadChoice(m, r, 8);
   if (m.isExtension) {
     if (index == 6) return DecodeOpen(m.invalidTerminalAliases, r, DecodeInvalidTerminalAliases);
-    return SkipAlternative(r);
+    return PassOverAlternative(r, index, 9);
   }
   if (index == 4) return DecodeSequenceOf(ListOf(m.duplicateAlias), r, DecodeAliasAddress);
   return NullAlternative(index, 8);
@@ -135,10 +136,10 @@ Status DecodeRegistrationRequest(RegistrationRequest& m, PerReader& r) {
   if (m.hasVersionThreeBoolean) m.versionThreeBoolean = PerReadOpenBoolean(r);
   if (m.hasAlternateTransportAddresses)
     KELVRA_TRY(DecodeOpen(m.alternateTransportAddresses, r, DecodeAlternateTransportAddresses));
-  if (m.hasAdditiveRegistration) PerSkipOpenTypes(r, 1);
+  if (m.hasAdditiveRegistration) PerPassOverOpenType(r);
   if (m.hasTerminalAliasPattern)
     KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.terminalAliasPattern), r, DecodeAddressPattern));
-  if (m.hasSupportsAltGK) PerSkipOpenTypes(r, 1);
+  if (m.hasSupportsAltGK) PerPassOverOpenType(r);
   if (m.hasUsageReportingCapability) KELVRA_TRY(DecodeOpen(m.usageReportingCapability, r, DecodeRasUsageInfoTypes));
   if (m.hasMultipleCalls) m.multipleCalls = PerReadOpenBoolean(r);
   if (m.hasSupportedH248Packages)
@@ -205,7 +206,7 @@ Status DecodeRegistrationConfirm(RegistrationConfirm& m, PerReader& r) {
   if (m.hasMaintainConnection) m.maintainConnection = PerReadOpenBoolean(r);
   if (m.hasServiceControl)
     KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.serviceControl), r, DecodeServiceControlSession));
-  if (m.hasSupportsAdditiveRegistration) PerSkipOpenTypes(r, 1);
+  if (m.hasSupportsAdditiveRegistration) PerPassOverOpenType(r);
   if (m.hasTerminalAliasPattern)
     KELVRA_TRY(DecodeOpenSequenceOf(KELVRA_LIST(m.terminalAliasPattern), r, DecodeAddressPattern));
   if (m.hasSupportedPrefixes)

@@ -14,7 +14,7 @@ Status DecodeRouteRejectReason(RouteRejectReason<Names>& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, Names::kRoots);
   if (!m.isExtension) return NullAlternative(index, Names::kRoots);
   if (index == Names::kRouteCalltoSCN) return DecodeOpenSequenceOf(ListOf(m.routeCalltoSCN), r, DecodePartyNumber);
-  return SkipAlternative(r);
+  return PassOverAlternative(r, index, ExtensionsOf<Names>());
 }
 
 }  // namespace kelvra::h225

@@ -25,7 +25,7 @@ void DecodeConferenceCapability(ConferenceCapability& m, PerReader& r) {
 
 void DecodeUserInputCapability(UserInputCapability& m, PerReader& r) {
   const uint32_t index = ReadChoice(m, r, 6);
-  if (m.isExtension) return PerSkipOpenTypes(r, 1);
+  if (m.isExtension) return PerPassOverAlternative(r, index, 1);
   switch (index) {
     case 0: KELVRA_OR_STOP(DecodeSizedSequenceOf(ListOf(m.nonStandard), r, 1, 16, DecodeNonStandardParameter)); return;
     default: return;

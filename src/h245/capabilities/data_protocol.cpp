@@ -80,7 +80,7 @@ void DecodeDataProtocolCapability(DataProtocolCapability& m, PerReader& r) {
   if (m.isExtension) {
     switch (index) {
       case 4: return DecodeOpen(m.v76wCompression, r, DecodeV76wCompression);
-      default: return PerSkipOpenTypes(r, 1);
+      default: return PerPassOverAlternative(r, index, 7);
     }
   }
   switch (index) {

@@ -64,8 +64,7 @@ void DecodeMediaPacketizationCapability(MediaPacketizationCapability& m, PerRead
   int32_t additions = PerReadBitmapLength8(r);
   m.hasRtpPayloadType = PerReadAdditionBit(r, additions);
   const int32_t unknown = PerCountUnknownAdditions(r, additions);
-  if (m.hasRtpPayloadType)
-    KELVRA_OR_STOP(DecodeOpenSizedSequenceOf(KELVRA_LIST(m.rtpPayloadType), r, 1, 256, DecodeRTPPayloadType));
+  if (m.hasRtpPayloadType) DecodeOpenSizedSequenceOf(KELVRA_LIST(m.rtpPayloadType), r, 1, 256, DecodeRTPPayloadType);
   PerSkipOpenTypes(r, unknown);
 }
 
@@ -111,8 +110,8 @@ void DecodeH2250Capability(H2250Capability& m, PerReader& r) {
   const int32_t unknown = PerCountUnknownAdditions(r, additions);
   if (m.hasTransportCapability) DecodeOpen(m.transportCapability, r, DecodeTransportCapability);
   if (m.hasRedundancyEncodingCapability)
-    KELVRA_OR_STOP(DecodeOpenSizedSequenceOf(KELVRA_LIST(m.redundancyEncodingCapability), r, 1, 256,
-                                             DecodeRedundancyEncodingCapability));
+    DecodeOpenSizedSequenceOf(KELVRA_LIST(m.redundancyEncodingCapability), r, 1, 256,
+                              DecodeRedundancyEncodingCapability);
   if (m.hasLogicalChannelSwitchingCapability) m.logicalChannelSwitchingCapability = PerReadOpenBoolean(r);
   if (m.hasT120DynamicPortCapability) m.t120DynamicPortCapability = PerReadOpenBoolean(r);
   PerSkipOpenTypes(r, unknown);

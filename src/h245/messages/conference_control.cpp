@@ -51,7 +51,7 @@ void DecodeConferenceIndication(ConferenceIndication& m, PerReader& r) {
       case 2:
         return DecodeOpen(m.terminalYouAreSeeingInSubPictureNumber, r, DecodeTerminalYouAreSeeingInSubPictureNumber);
       case 3: return DecodeOpen(m.videoIndicateCompose, r, DecodeVideoIndicateCompose);
-      default: return PerSkipOpenTypes(r, 1);
+      default: return PerPassOverAlternative(r, index, 4);
     }
   }
   switch (index) {

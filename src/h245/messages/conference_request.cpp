@@ -36,7 +36,7 @@ void DecodeConferenceRequest(ConferenceRequest& m, PerReader& r) {
       case 4: return DecodeOpen(m.makeTerminalBroadcaster, r, DecodeTerminalLabel);
       case 5: return DecodeOpen(m.sendThisSource, r, DecodeTerminalLabel);
       case 7: return DecodeOpen(m.remoteMCRequest, r, DecodeNullChoice);
-      default: return PerSkipOpenTypes(r, 1);
+      default: return PerPassOverAlternative(r, index, 8);
     }
   }
   switch (index) {

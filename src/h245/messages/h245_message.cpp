@@ -43,7 +43,7 @@ void DecodeRequestMessage(RequestMessage& m, PerReader& r) {
       case 1: return DecodeOpen(m.conferenceRequest, r, DecodeConferenceRequest);
       case 3: return DecodeOpen(m.logicalChannelRateRequest, r, DecodeLogicalChannelRate);
       case 4: return DecodeOpen(m.genericRequest, r, DecodeGenericMessage);
-      default: return PerSkipOpenTypes(r, 1);
+      default: return PerPassOverAlternative(r, index, 5);
     }
   }
   switch (index) {
@@ -71,7 +71,7 @@ void DecodeResponseMessage(ResponseMessage& m, PerReader& r) {
       case 3: return DecodeOpen(m.logicalChannelRateAcknowledge, r, DecodeLogicalChannelRate);
       case 4: return DecodeOpen(m.logicalChannelRateReject, r, DecodeLogicalChannelRateReject);
       case 5: return DecodeOpen(m.genericResponse, r, DecodeGenericMessage);
-      default: return PerSkipOpenTypes(r, 1);
+      default: return PerPassOverAlternative(r, index, 6);
     }
   }
   switch (index) {
@@ -107,7 +107,7 @@ void DecodeCommandMessage(CommandMessage& m, PerReader& r) {
       case 2: return DecodeOpen(m.h223MultiplexReconfiguration, r, DecodeH223MultiplexReconfiguration);
       case 3: return DecodeOpen(m.newATMVCCommand, r, DecodeNewATMVCCommand);
       case 5: return DecodeOpen(m.genericCommand, r, DecodeGenericMessage);
-      default: return PerSkipOpenTypes(r, 1);
+      default: return PerPassOverAlternative(r, index, 6);
     }
   }
   switch (index) {
@@ -145,7 +145,7 @@ void DecodeIndicationMessage(IndicationMessage& m, PerReader& r) {
       case 6: return DecodeOpen(m.logicalChannelRateRelease, r, DecodeEmptyBody);
       case 7: return DecodeOpen(m.flowControlIndication, r, DecodeFlowControl);
       case 9: return DecodeOpen(m.genericIndication, r, DecodeGenericMessage);
-      default: return PerSkipOpenTypes(r, 1);
+      default: return PerPassOverAlternative(r, index, 10);
     }
   }
   switch (index) {

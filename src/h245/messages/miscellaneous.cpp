@@ -88,7 +88,7 @@ void DecodeType(MiscellaneousCommand::Type& m, PerReader& r) {
       case 10: return DecodeOpen(m.lostPicture, r, DecodePictureReferenceList);
       case 11: return DecodeOpen(m.lostPartialPicture, r, DecodeLostPartialPicture);
       case 12: return DecodeOpen(m.recoveryReferencePicture, r, DecodePictureReferenceList);
-      default: return PerSkipOpenTypes(r, 1);
+      default: return PerPassOverAlternative(r, index, 13);
     }
   }
   switch (index) {

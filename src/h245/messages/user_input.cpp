@@ -44,7 +44,7 @@ void DecodeSignal(UserInputIndication::Signal& m, PerReader& r) {
   int32_t additions = PerReadBitmapLength8(r);
   m.hasRtpPayloadIndication = PerReadAdditionBit(r, additions);
   const int32_t unknown = PerCountUnknownAdditions(r, additions);
-  if (m.hasRtpPayloadIndication) PerSkipOpenTypes(r, 1);
+  if (m.hasRtpPayloadIndication) PerPassOverOpenType(r);
   PerSkipOpenTypes(r, unknown);
 }
 
