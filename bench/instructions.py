@@ -68,7 +68,10 @@ def print_totals(workloads):
 
 def compare(workloads, baseline):
     """Prints what has risen, and returns whether anything has."""
-    risen = False
+    missing = baseline.keys() - workloads.keys()
+    for name in sorted(missing):
+        print(f"{name}: in the baseline, but not counted")
+    risen = bool(missing)
     for name, counts in workloads.items():
         before = baseline.get(name)
         if before is None or before["messages"] != counts["messages"] or before["octets"] != counts["octets"]:

@@ -17,6 +17,7 @@
 
 #include "codec/memory.h"
 #include "codec_run.h"
+#include "message_text.h"
 
 namespace {
 
@@ -68,16 +69,7 @@ std::vector<uint8_t> Filled(std::string hex, std::mt19937& random) {
   for (char& digit : hex) {
     if (digit == 'x') digit = "0123456789abcdef"[random() % 16];
   }
-  return OctetsOf(hex);
-}
-
-// The value of a string member in one line of JSON; the strings wanted hold no escapes.
-std::string StringMember(const std::string& line, const std::string& name) {
-  const std::string start = "\"" + name + "\": \"";
-  const size_t at = line.find(start);
-  if (at == std::string::npos) throw std::runtime_error("no member " + name);
-  const size_t first = at + start.size();
-  return line.substr(first, line.find('"', first) - first);
+  return test::Hex(hex);
 }
 
 // A decode of RAS is successful only before the end of the buffer.
@@ -92,7 +84,7 @@ void RecordFamily(const std::filesystem::path& file) {
   for (std::string line; std::getline(stream, line);) {
     if (line.empty()) continue;
     const Family family = FamilyOf(name);
-    SaveMessage(std::cout, name, Recorded(family, AsHanded(family, OctetsOf(StringMember(line, "hex")))));
+    SaveMessage(std::cout, name, Recorded(family, AsHanded(family, test::Hex(test::StringMember(line, "hex")))));
   }
 }
 

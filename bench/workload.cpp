@@ -5,19 +5,13 @@
 #include <sstream>
 #include <stdexcept>
 
+#include "message_text.h"
+
 namespace kelvra::bench {
 
 uint64_t Workload::Octets() const {
   uint64_t octets = 0;
   for (const Message& message : messages) octets += message.octets.size();
-  return octets;
-}
-
-std::vector<uint8_t> OctetsOf(const std::string& hex) {
-  std::vector<uint8_t> octets;
-  for (size_t i = 0; i + 1 < hex.size(); i += 2) {
-    octets.push_back(static_cast<uint8_t>(std::stoul(hex.substr(i, 2), nullptr, 16)));
-  }
   return octets;
 }
 
@@ -43,7 +37,7 @@ std::vector<Workload> LoadWorkloads(const std::string& file) {
     std::string name, family, hex;
     words >> name >> family >> hex;
     if (workloads.empty() || workloads.back().name != name) workloads.push_back({name, {}});
-    Message message{FamilyOf(family), OctetsOf(hex), {}};
+    Message message{FamilyOf(family), test::Hex(hex), {}};
     for (int32_t step = 0; words >> step;) message.heapSteps.push_back(step);
     workloads.back().messages.push_back(std::move(message));
   }

@@ -30,7 +30,6 @@ struct Workload {
 void SaveMessage(std::ostream& stream, const std::string& workload, const Message& message);
 std::vector<Workload> LoadWorkloads(const std::string& file);
 
-std::vector<uint8_t> OctetsOf(const std::string& hex);
 Family FamilyOf(const std::string& name);
 
 }  // namespace kelvra::bench

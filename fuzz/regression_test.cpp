@@ -1,7 +1,6 @@
 // The cases that fuzzing found or that were thought of, one message in a file: regressions/FAMILY/NAME.
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iterator>

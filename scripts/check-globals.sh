@@ -3,8 +3,9 @@
 #
 #   scripts/check-globals.sh NM LIBRARY NAME...
 #
-# A NAME is part of the mangled name of a variable of the library. Those of the
-# compiler's and the system's own libraries are not looked at.
+# A NAME is part of the mangled name of a variable of the library. Of the others,
+# those of the namespace kelvra and of anonymous ones are looked at, not those of
+# the compiler's and the system's own libraries.
 set -euo pipefail
 
 nm=$1
@@ -15,7 +16,7 @@ shift 2
 # before the library runs.
 writable=$("$nm" --format=sysv "$library" |
   awk -F'|' '{ gsub(/ /, "", $1); gsub(/ /, "", $7) }
-    $7 ~ /^\.(data|bss|tdata|tbss|tls)(\$.*)?$/ && tolower($1) ~ /kelvra/ { print $1 }')
+    $7 ~ /^\.(data|bss|tdata|tbss|tls)(\$.*)?$/ && tolower($1) ~ /kelvra|_global__n_/ { print $1 }')
 
 for name in "$@"; do
   if ! grep -q -- "$name" <<<"$writable"; then

@@ -58,6 +58,8 @@ def records():
             found[name] = []
         elif name and (row := re.match(r"\| \d+ \| \d+ \| `(\w+)`", line)):
             found[name].append(row[1])
+    if not found:
+        sys.exit(f"order: no record in {TABLE}")
     return found
 
 

@@ -5,7 +5,7 @@
 #
 # FOLDER is src/per by default; a line for each of its files and their sum are
 # printed. -c takes the corpora that scripts/fuzz.sh has left in
-# build/fuzz-corpus/. Needs Clang and LLVM's tools.
+# build/fuzz-corpus/. Needs Clang and LLVM's tools (Debian: clang, llvm).
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 

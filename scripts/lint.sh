@@ -8,4 +8,12 @@ cmake --preset linux-x64 -B build/lint -DKELVRA_BUILD_TESTS=OFF -DKELVRA_BUILD_B
 # The analyzer's deep mode takes five times as long as its shallow one, in which
 # it follows fewer calls. The viewer's sources come joined, by inclusion.
 shallow=(-extra-arg=-Xclang -extra-arg=-analyzer-config -extra-arg=-Xclang -extra-arg=mode=shallow)
-run-clang-tidy -quiet -checks=-bugprone-suspicious-include "${shallow[@]}" -p build/lint 2>/dev/null
+command -v run-clang-tidy >/dev/null || {
+  echo "lint: no run-clang-tidy; scripts/setup.sh lint installs it" >&2
+  exit 1
+}
+# On stderr it counts the warnings of headers that it does not show.
+if ! run-clang-tidy -quiet -checks=-bugprone-suspicious-include "${shallow[@]}" -p build/lint 2>build/lint/stderr.log; then
+  tail -n 20 build/lint/stderr.log >&2
+  exit 1
+fi

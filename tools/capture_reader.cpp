@@ -129,16 +129,26 @@ class PacketReader {
   void OnPacket(const pcap_pkthdr& header, const uint8_t* octets) {
     origin_.frame += 1;
     origin_.microseconds = int64_t{header.ts.tv_sec} * 1'000'000 + header.ts.tv_usec;
-    try {
-      const Packet packet = Dissect(link_type_, std::span(octets, header.caplen));
-      if (packet && IsWhole(*packet)) Distribute(*packet);
-    } catch (const Tins::exception_base&) {
-      // Not a packet of the Internet protocols, or cut off within their headers.
-    }
+    const bool may_be_signalling = Take(std::span(octets, header.caplen));
+    if (may_be_signalling && header.caplen < header.len) ++cut_off_;
   }
-  void Close() { streams_.Close(); }
+  void Close() {
+    streams_.Close();
+    if (cut_off_ > 0) sink_.OnLoss("frames cut off by the capture: " + std::to_string(cut_off_));
+  }
 
  private:
+  // Returns false where the packet is known to hold no signalling.
+  bool Take(std::span<const uint8_t> octets) {
+    try {
+      const Packet packet = Dissect(link_type_, octets);
+      return packet && (!IsWhole(*packet) || Distribute(*packet));
+    } catch (const Tins::exception_base&) {
+      // Not a packet of the Internet protocols, or cut off within their headers.
+      return true;
+    }
+  }
+
   bool IsWhole(Tins::PDU& packet) {
     const auto status = reassembler_.process(packet);
     if (status == Tins::IPv4Reassembler::FRAGMENTED && ++fragments_ > kMostFragments) {
@@ -148,23 +158,21 @@ class PacketReader {
     return status != Tins::IPv4Reassembler::FRAGMENTED;
   }
 
-  void Distribute(Tins::PDU& packet) {
+  bool Distribute(Tins::PDU& packet) {
     const Transport transport = FindTransport(packet);
     origin_.source = transport.source;
     origin_.destination = transport.destination;
-    if (transport.tcp != nullptr) {
-      streams_.OnSegment(*transport.tcp, origin_);
-    } else if (transport.udp != nullptr) {
-      OnDatagram(*transport.udp);
-    }
+    if (transport.tcp != nullptr) return streams_.OnSegment(*transport.tcp, origin_);
+    return transport.udp != nullptr && OnDatagram(*transport.udp);
   }
 
-  void OnDatagram(const Tins::UDP& datagram) {
+  bool OnDatagram(const Tins::UDP& datagram) {
+    if (!ports_.ras.contains(datagram.sport()) && !ports_.ras.contains(datagram.dport())) return false;
     const auto* payload = datagram.find_pdu<Tins::RawPDU>();
-    if (payload == nullptr || payload->payload().empty()) return;
-    if (ports_.ras.contains(datagram.sport()) || ports_.ras.contains(datagram.dport())) {
+    if (payload != nullptr && !payload->payload().empty()) {
       sink_.OnMessage({Family::kRas, payload->payload(), origin_});
     }
+    return true;
   }
 
   int link_type_;
@@ -173,6 +181,7 @@ class PacketReader {
   TcpStreams streams_;
   Tins::IPv4Reassembler reassembler_;
   size_t fragments_ = 0;
+  uint64_t cut_off_ = 0;
   Origin origin_;
 };
 

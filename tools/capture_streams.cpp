@@ -31,9 +31,9 @@ std::optional<Family> TcpStreams::FamilyOf(const Origin& origin) const {
   return std::nullopt;
 }
 
-void TcpStreams::OnSegment(Tins::TCP& segment, const Origin& origin) {
+bool TcpStreams::OnSegment(Tins::TCP& segment, const Origin& origin) {
   const auto family = FamilyOf(origin);
-  if (!family) return;
+  if (!family) return false;
   const Key key(origin.source, origin.destination);
   const auto known = index_.find(key);
   if (known != index_.end() && known->second->direction.IsNewConnection(segment)) {
@@ -51,6 +51,7 @@ void TcpStreams::OnSegment(Tins::TCP& segment, const Origin& origin) {
   entry->held = entry->direction.HeldOctets();
   held_ += entry->held;
   KeepBounds();
+  return true;
 }
 
 void TcpStreams::Join(const Key& key, Family family, const Tins::TCP& segment, bool opposite) {

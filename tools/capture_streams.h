@@ -30,7 +30,8 @@ class TcpStreams {
  public:
   TcpStreams(const CapturePorts& ports, MessageSink& sink) : ports_(ports), addresses_(sink) {}
 
-  void OnSegment(Tins::TCP& segment, const Origin& origin);
+  // Returns whether the connection carries signalling.
+  bool OnSegment(Tins::TCP& segment, const Origin& origin);
   void Close();
 
  private:

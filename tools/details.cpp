@@ -133,6 +133,11 @@ std::string CauseText(const Json& octet) {
   return octet.is_number() ? std::to_string(octet.get<unsigned>() & 0x7F) : std::string();
 }
 
+// Without the flag that tells who allocated it, so that both sides of a call show the same.
+std::string CallReferenceText(const Json& value) {
+  return value.is_number() ? std::to_string(value.get<unsigned>() & 0x7FFF) : std::string();
+}
+
 // Q.931's octet 3a may stand before the digits: one character from U+0080 on, two octets of UTF-8.
 std::string PartyNumber(const Json& element) {
   if (!element.is_string()) return {};
@@ -147,7 +152,7 @@ void AddQ931(const Json& message, DetailList& details) {
     const std::string number = PartyNumber(Find(message, {element}));
     return number.empty() ? FirstOf(body, {member}) : number;
   };
-  details.Add("crv", FirstOf(message, {"callReferenceValue"}));
+  details.Add("crv", CallReferenceText(Find(message, {"callReferenceValue"})));
   details.Add("from", party("callingPartyNumber", "sourceAddress"));
   details.Add("to", party("calledPartyNumber", "destinationAddress"));
   details.Add("reason", FirstOf(body, {"reason"}));

@@ -43,7 +43,7 @@ constexpr std::array<std::pair<unsigned, const char*>, 28> kMessageTypes{{
 
 // What a function that refused a message can have meant by it.
 std::string Refusal(Family family, const std::string& name) {
-  if (family == Family::kH245) return "octets left over";
+  if (family == Family::kH245) return "octets left over, or cut short";
   const bool versioned = name == "registrationRequest" || name == "registrationConfirm";
   return family == Family::kRas && versioned ? "malformed or of an unknown version" : "malformed";
 }
@@ -80,6 +80,7 @@ std::string MessageTitle(Family family, const Decoded& decoded) {
   std::string name = decoded.name.empty() ? "(nothing decoded)" : decoded.name;
   const Json& type = Find(decoded.message, {"messageType"});
   if (family != Family::kQ931 || !type.is_number()) return name;
+  if (!decoded.ok && type == 0) return name;  // a frame without a message type
   const std::string type_name = MessageTypeName(type.get<unsigned>());
   return decoded.name.empty() ? type_name : type_name + " (" + name + ")";
 }

@@ -14,5 +14,5 @@ std::string MessageTypeName(unsigned type);
 // What a reader calls the message: its alternative, for call signalling the message type before it.
 std::string MessageTitle(Family family, const Decoded& decoded);
 
-// "malformed, result -1" or "octets left over, result 0", or empty when the message was decoded.
+// "malformed, result -1" or "octets left over, or cut short, result 0", or empty when the message was decoded.
 std::string Fault(Family family, const Decoded& decoded);

@@ -25,19 +25,26 @@ bool IsCapture(std::span<const uint8_t> start) {
   });
 }
 
+// Text that is mostly hexadecimal: the rest are mistakes, of which the reader can name the line. Comments may hold
+// any octets.
 bool IsHexLines(std::span<const uint8_t> start) {
   bool comment = false;
+  size_t fitting = 0;
+  size_t others = 0;
   for (const uint8_t octet : start) {
     const char character = static_cast<char>(octet);
     if (character == '\n') {
       comment = false;
     } else if (character == '#') {
       comment = true;
-    } else if (!comment && !IsHexText(character)) {
-      return false;
+    } else if (!comment && IsHexText(character)) {
+      ++fitting;
+    } else if (!comment) {
+      if (octet < ' ' || octet > '~') return false;
+      ++others;
     }
   }
-  return true;
+  return others == 0 || others < fitting;
 }
 
 }  // namespace
@@ -65,6 +72,7 @@ void ReadHexLines(ByteSource& source, Family family, MessageSink& sink) {
 void ReadRaw(ByteSource& source, Family family, MessageSink& sink) {
   Message message{family, std::vector<uint8_t>(kLongestRaw + 1), std::nullopt};
   message.octets.resize(source.Read(message.octets.data(), message.octets.size()));
+  if (message.octets.empty()) throw InputError(source.Name() + ": the input is empty");
   if (message.octets.size() > kLongestRaw) {
     throw InputError(source.Name() + ": too long for one message");
   }

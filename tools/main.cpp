@@ -30,6 +30,7 @@ class Printer : public MessageSink {
       : formatter_(MakeFormatter(format)), form_(format == Format::kJson ? Form::kText : Form::kTree) {}
 
   std::vector<Endpoint> OnMessage(const Message& message) override {
+    any_ = true;
     const Decoded decoded = Decode(message.family, message.octets, form_);
     all_decoded_ = all_decoded_ && decoded.ok;
     const std::string text = formatter_->Print(message, decoded);
@@ -41,11 +42,14 @@ class Printer : public MessageSink {
   }
 
   void OnLoss(const std::string& what) override {
+    any_ = true;
     all_decoded_ = false;
     Complain(what);
   }
 
   bool AllDecoded() const { return all_decoded_; }
+  // Whether there was a message, or a loss that can have been one.
+  bool Any() const { return any_; }
 
  private:
   // Only a capture has connections to be found, and few of its messages announce one.
@@ -61,11 +65,13 @@ class Printer : public MessageSink {
   Form form_;
   bool flush_ = OutputIsTerminal();
   bool all_decoded_ = true;
+  bool any_ = false;
 };
 
 Family RequiredFamily(const Options& options) {
   if (!options.family) {
-    throw std::runtime_error("--as ras, q931 or h245 must name the family of single messages");
+    throw std::runtime_error(
+        "--as ras, q931 or h245 must name the family of single messages; the input is neither pcap nor pcapng");
   }
   return *options.family;
 }
@@ -81,6 +87,7 @@ void Run(const Options& options, Printer& printer) {
         "options --ras-port, --call-port and --h245-port");
   }
   ReadCapture(source, options.ports, printer);
+  if (!printer.Any()) Complain("no message found; see --ras-port, --call-port and --h245-port");
 }
 
 int RunProgram(int count, char** arguments) {

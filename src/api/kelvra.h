@@ -5,8 +5,8 @@
 // record first, so every absent member, count and pointer is zero. The buffer is only read, and only
 // within its length. A record that was decoded, in whole or in part, is released once it is no longer
 // needed; releasing it again does nothing. Between calls nothing of a message is kept but the H.225.0 version
-// that it named, by which later messages that name none are read. Different threads may decode at the same
-// time, each into a record of its own.
+// that it named, on which no decode depends. Different threads may decode at the same time, each into a record
+// of its own.
 #pragma once
 
 #include <stdint.h>

@@ -1,21 +1,11 @@
 // Short messages of the three families, for tests of the exports.
 #pragma once
 
-#include <stdint.h>
-
 #include <string_view>
-#include <vector>
+
+#include "message_text.h"
 
 namespace kelvra::test {
-
-inline std::vector<uint8_t> Hex(std::string_view digits) {
-  const auto nibble = [](char digit) { return static_cast<uint32_t>(digit <= '9' ? digit - '0' : digit - 'a' + 10); };
-  std::vector<uint8_t> octets;
-  for (size_t i = 0; i + 1 < digits.size(); i += 2) {
-    octets.push_back(static_cast<uint8_t>(nibble(digits[i]) << 4 | nibble(digits[i + 1])));
-  }
-  return octets;
-}
 
 // gatekeeperReject 33143, protocol 0.0.8.2250.0.4, invalidRevision; ends inside its last octet.
 inline constexpr std::string_view kReject = "08008176060008914a000440";

@@ -5,32 +5,17 @@
 #include <fstream>
 #include <stdexcept>
 
+#include "message_text.h"
+
 namespace kelvra::test {
 namespace {
-
-// The value of a string member in one line of JSON; the strings wanted hold no escapes.
-std::string StringMember(const std::string& line, const std::string& name) {
-  const std::string start = "\"" + name + "\": \"";
-  const size_t at = line.find(start);
-  if (at == std::string::npos) throw std::runtime_error("no member " + name);
-  const size_t first = at + start.size();
-  return line.substr(first, line.find('"', first) - first);
-}
-
-std::vector<uint8_t> OctetsOf(const std::string& hex) {
-  std::vector<uint8_t> octets;
-  for (size_t i = 0; i + 1 < hex.size(); i += 2) {
-    octets.push_back(static_cast<uint8_t>(std::stoul(hex.substr(i, 2), nullptr, 16)));
-  }
-  return octets;
-}
 
 void Load(std::vector<Message>& messages, Family family, const std::string& file) {
   std::ifstream stream(KELVRA_TEST_DATA "/" + file);
   size_t number = 0;
   for (std::string line; std::getline(stream, line);) {
     const std::string name = file + ":" + std::to_string(++number) + " " + StringMember(line, "alt");
-    messages.push_back({family, name, OctetsOf(StringMember(line, "hex"))});
+    messages.push_back({family, name, Hex(StringMember(line, "hex"))});
   }
   if (number == 0) throw std::runtime_error("no messages in " + file);
 }
@@ -50,6 +35,7 @@ const std::vector<Message>& Corpus() {
     Load(messages, Family::kRas, "ras.jsonl");
     Load(messages, Family::kQ931, "q931.jsonl");
     Load(messages, Family::kH245, "h245.jsonl");
+    Load(messages, Family::kH245, "aligned-h245.jsonl");
     return messages;
   }();
   return corpus;
