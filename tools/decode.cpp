@@ -80,8 +80,9 @@ Decoded Decode(Family family, std::span<const uint8_t> octets, Form form) {
 std::vector<Decoded> DecodeTunnelled(const Json& message) {
   std::vector<Decoded> decoded;
   const Json& pdu = Find(message, {"h323-UserInformation", "h323-uu-pdu"});
-  for (const char* member : {"h245Control", "parallelH245Control"}) {
-    for (const Json& element : Find(pdu, {member})) {
+  const Json& body = Chosen(UserInformationBody(message));
+  for (const Json* list : {&Find(pdu, {"h245Control"}), &Find(body, {"parallelH245Control"})}) {
+    for (const Json& element : *list) {
       decoded.push_back(Decode(Family::kH245, FromHex(element.get_ref<const std::string&>())));
     }
   }

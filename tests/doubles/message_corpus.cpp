@@ -35,7 +35,7 @@ const std::vector<Message>& Corpus() {
     Load(messages, Family::kRas, "ras.jsonl");
     Load(messages, Family::kQ931, "q931.jsonl");
     Load(messages, Family::kH245, "h245.jsonl");
-    Load(messages, Family::kH245, "aligned-h245.jsonl");
+    Load(messages, Family::kH245, "private-h245.jsonl");
     return messages;
   }();
   return corpus;

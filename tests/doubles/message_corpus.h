@@ -20,7 +20,7 @@ struct Message {
   std::vector<uint8_t> octets;  // of a RAS message without the spare octet behind it
 };
 
-// Every message of tests/data.
+// Every message of tests/data but those of aligned-h245.jsonl, which were altered by hand.
 const std::vector<Message>& Corpus();
 
 class DecodedMessage {

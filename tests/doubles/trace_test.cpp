@@ -3,6 +3,7 @@
 
 #include "doubles/heap_double.h"
 #include "doubles/message_corpus.h"
+#include "h225/call/q931_frame.h"
 #include "per/primitives.h"
 
 namespace kelvra::test {
@@ -80,6 +81,22 @@ TEST_F(TraceTest, TheQ931FrameTellsItsEntryAndWhatItLacks) {
   EXPECT_EQ(TracesOf(Family::kQ931, {3, 0, 0, 9, 8, 2, 0, 0, 5}), (Traces{entry, {2, 4, 64, 38, 0}}));
   const std::vector<uint8_t> emptyElement = {3, 0, 0, 13, 8, 2, 0, 0, 5, 0x7E, 0, 1, 5};
   EXPECT_EQ(TracesOf(Family::kQ931, emptyElement), (Traces{entry, {2, 4, 512, 38, 0}}));
+}
+
+TEST_F(TraceTest, AnUnknownAlternativeIsToldWhenItIsReleased) {
+  const TraceCall unknown{64, 4, 4, 36, 0};
+  EXPECT_EQ(TracesOf(Family::kRas, {0x89, 2, 0xAA, 0xBB, 0}), Traces{unknown});
+  // An index beyond the root: the decode releases what it refuses, and the caller releases it again.
+  EXPECT_EQ(TracesOf(Family::kRas, {0x7C, 0}), (Traces{unknown, unknown}));
+}
+
+TEST_F(TraceTest, ASearchWithoutArgumentsIsTold) {
+  h225::Q931Element element{};
+  h225::FindQ931Element(nullptr, 0x7E, &element);
+  ASSERT_EQ(heap_.Traces().size(), 1U);
+  TraceCall trace = heap_.Traces()[0];
+  trace.line = 0;
+  EXPECT_EQ(trace, (TraceCall{2, 4, 32, 38, 0}));
 }
 
 }  // namespace

@@ -41,6 +41,13 @@ TEST(GenericIdentifierTest, StandardHasAConstrainedAndAnUnboundedForm) {
   EXPECT_EQ(input.Next(), kMarker);
 }
 
+TEST(GenericIdentifierTest, TheUnboundedFormHasASign) {
+  Input input(Marked(BitWriter().Bits(0, 3).Bit(true).OpenType({0x80})));
+  Owned<GenericIdentifier> id;
+  ASSERT_EQ(DecodeGenericIdentifier(*id, input.reader), kDecoded);
+  EXPECT_EQ(+id->standard, 0xFFFFFF80U);
+}
+
 TEST(GenericIdentifierTest, IndicesBeyondTheRoot) {
   Input unknown(Marked(BitWriter().Bit(true).NormallySmall(7).OpenType({1, 2})));
   Owned<GenericIdentifier> skipped;

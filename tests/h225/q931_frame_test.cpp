@@ -254,5 +254,32 @@ TEST(Q931FrameTest, FailedUserInformationIsReleased) {
   EXPECT_EQ(Frame(Q931Builder().UserUser(connect).Done()).result, kQ931Rejected);
 }
 
+// The numbers are those that callers in other languages know.
+TEST(Q931FrameTest, EachElementHasItsBit) {
+  constexpr struct {
+    uint8_t identifier;
+    uint32_t bit;
+  } kBits[] = {{0x70, 0x1},    {0x6C, 0x2},    {0x08, 0x4},   {0x04, 0x10},  {0x14, 0x40},
+               {0x29, 0x80},   {0x2C, 0x100},  {0x27, 0x200}, {0x1E, 0x400}, {0x34, 0x1000},
+               {0x10, 0x2000}, {0x71, 0x4000}, {0x6D, 0x8000}};
+  for (const auto& c : kBits) {
+    EXPECT_EQ(+Frame(Q931Builder().Element(c.identifier, {0x81, '1'}).UserUser().Done()).m.presenceMask, c.bit | 0x8)
+        << +c.identifier;
+  }
+}
+
+TEST(Q931FrameTest, SingleOctetElementsArePassedOverFromTheFirstIdentifierAndHoweverMany) {
+  for (const int identifier : {0x80, 0x90, 0xA1, 0xFF}) {
+    const Octets octets(300, static_cast<uint8_t>(identifier));
+    EXPECT_EQ(Frame(Q931Builder().Octets(octets).UserUser().Done()).result, kQ931Decoded) << identifier;
+  }
+}
+
+TEST(Q931FrameTest, AFrameWithoutOctetsHasNoElements) {
+  const Q931Frame frame{nullptr, 0, 9};
+  Q931Element element{};
+  EXPECT_EQ(FindQ931Element(&frame, 0x7E, &element), kQ931BadArgument);
+}
+
 }  // namespace
 }  // namespace kelvra::h225

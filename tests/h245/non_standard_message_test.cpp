@@ -65,6 +65,16 @@ TEST(NonStandardMessageTest, PrivateMessageWithoutPayloadAndWithAdditions) {
   EXPECT_EQ(input.Next(), kMarker);
 }
 
+TEST(NonStandardMessageTest, PayloadMayEndWithItsData) {
+  BitWriter w;
+  Input input(Marked(PrivateIdentifier(w).OpenType(PrivateData(1, {2, 3}))));
+  Owned<H245NonStandardMessageRecord> m;
+  DecodeNonStandardMessage(*m, input.reader);
+  EXPECT_EQ(+m->privateMessageDecoded, 1U);
+  EXPECT_EQ(OctetsOf(m->privateMessage.payload), (Octets{2, 3}));
+  EXPECT_EQ(input.Next(), kMarker);
+}
+
 TEST(NonStandardMessageTest, NoDataIsNoPrivateMessage) {
   BitWriter w;
   PrivateIdentifier(w, true).Length(0).NormallySmall(0).Bit(true).OpenType({7, 7});

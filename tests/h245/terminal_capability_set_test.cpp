@@ -7,6 +7,7 @@
 #include "h245/capabilities/multiplex_capability_decode.h"
 #include "h245/capabilities/stream_capability_decode.h"
 #include "h245/capabilities/terminal_capability_set_decode.h"
+#include "h245/capabilities/video_capability_decode.h"
 
 namespace kelvra::h245 {
 namespace {
@@ -167,6 +168,36 @@ TEST(TerminalCapabilitySetTest, RefusedListKeepsItsCountAndEndsTheDecode) {
     } else {
       EXPECT_TRUE(PerAtEnd(input.reader)) << c.allowance;
     }
+  }
+}
+
+// VideoCapabilities, each but the last an extendedVideoCapability of the next one.
+void NestedVideo(BitWriter& w, uint32_t levels) {
+  if (levels == 1) {
+    w.Bit(true).NormallySmall(9).OpenType({});
+    return;
+  }
+  BitWriter extended;
+  extended.Bits(0b00, 2).Length(1);
+  NestedVideo(extended, levels - 1);
+  w.Bit(true).NormallySmall(1).OpenType(extended);
+}
+
+TEST(VideoCapabilityTest, DepthIsBounded) {
+  for (const uint32_t levels : {kMaximumDepth, kMaximumDepth + 1}) {
+    BitWriter w;
+    NestedVideo(w, levels);
+    Input input(Marked(w));
+    Owned<VideoCapability> capability;
+    DecodeVideoCapability(*capability, input.reader);
+    const VideoCapability* inner = &*capability;
+    for (uint32_t i = 1; i < levels; ++i) {
+      ASSERT_NE(+inner->extendedVideoCapability, nullptr) << i;
+      inner = inner->extendedVideoCapability->videoCapability;
+      ASSERT_NE(inner, nullptr) << i;
+    }
+    EXPECT_EQ(+inner->choiceTag, levels > kMaximumDepth ? 0 : 9) << "beyond the bound nothing is read";
+    EXPECT_EQ(input.reader.depth, 0U);
   }
 }
 

@@ -202,6 +202,16 @@ TEST(PerReadOctets, AlignsAndReadsToTheVeryEnd) {
   EXPECT_TRUE(input.AtExactEnd());
 }
 
+// Short strings are copied in ways that depend on their size.
+TEST(PerReadOctets, CopiesEveryOctetOfAnyCount) {
+  for (uint32_t count = 1; count <= 64; ++count) {
+    Octets octets;
+    for (uint32_t i = 1; i <= count; ++i) octets.push_back(static_cast<uint8_t>(i));
+    Input input(octets);
+    EXPECT_EQ(Taken(PerReadOctets(input.reader, count), count), Numbers(octets.begin(), octets.end())) << count;
+  }
+}
+
 TEST(PerReadOctets, RefusesMoreThanAreLeft) {
   Input input({1, 2});
   EXPECT_EQ(PerReadOctets(input.reader, 3), nullptr);

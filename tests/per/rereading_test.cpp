@@ -156,5 +156,17 @@ TEST(PerBounds, DoNotBringBackAReaderThatHasReadTooMuchAgain) {
   EXPECT_TRUE(input.AtExactEnd());
 }
 
+TEST(PerBounds, ForgetHowFarAReaderGotThatStoppedWithinThem) {
+  Input input(BitWriter().Octets(std::vector<uint8_t>(40, 0)));
+  OpenTypeBegin(input.reader);
+  {
+    const PerBounds bounds(input.reader, 10);
+    PerMoveToEnd(input.reader);
+  }
+  while (!PerAtEnd(input.reader)) input.Next();
+  OpenTypeEnd(input.reader);
+  EXPECT_EQ(input.reader.reread, 39U);
+}
+
 }  // namespace
 }  // namespace kelvra::test

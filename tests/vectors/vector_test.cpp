@@ -106,6 +106,8 @@ void ExpectH245(const std::string& file) {
 
 TEST(Vectors, H245MessagesHoldTheirValues) { ExpectH245("h245.jsonl"); }
 
+TEST(Vectors, PrivateH245MessagesHoldTheirValues) { ExpectH245("private-h245.jsonl"); }
+
 // A number of 256 values is aligned, one of 255 is not: these stand inside an octet, and are not small.
 TEST(Vectors, NumbersThatFillAnOctetAreAligned) { ExpectH245("aligned-h245.jsonl"); }
 

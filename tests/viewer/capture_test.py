@@ -1,0 +1,240 @@
+#!/usr/bin/env python3
+"""Tests of what kelvra-dump finds in captures.
+
+Usage: capture_test.py KELVRA_DUMP [EMULATOR...]
+"""
+import struct
+import sys
+import unittest
+
+from viewer_test import (CHANNEL_ACK, DATA, GATEKEEPER_CONFIRM, READS_CAPTURES, RELEASE_COMPLETE, SAMPLE, SYN, capture,
+                         ethernet, ipv4, ipv6, objects, run, segments, tcp, tpkt, udp)
+
+RAS = bytes.fromhex(GATEKEEPER_CONFIRM)
+CALL = bytes.fromhex(RELEASE_COMPLETE)
+END = 2 ** 32  # where sequence numbers wrap
+
+
+def answer(sequence, payload):
+    """A segment of the answering side."""
+    packet = struct.pack(">HHIIBBHHH", 1720, 40000, sequence, 1, 0x50, DATA, 8192, 0, 0) + payload
+    return ethernet(struct.pack(">BBHHHBBHII", 0x45, 0, 20 + len(packet), 0, 0, 64, 6, 0,
+                                0xC0000202, 0xC0000201) + packet)
+
+
+def capture_at(*timed):
+    """A capture of (second, frame)."""
+    records = (struct.pack("<IIII", second, 0, len(f), len(f)) + f for second, f in timed)
+    return struct.pack("<IHHIIII", 0xA1B2C3D4, 2, 4, 0, 0, 65535, 1) + b"".join(records)
+
+
+@unittest.skipIf(READS_CAPTURES, "reads captures")
+class WithoutCaptures(unittest.TestCase):
+    def test_capture_is_refused(self):
+        self.assertEqual(run(data=SAMPLE).returncode, 2)
+
+
+@unittest.skipUnless(READS_CAPTURES, "reads no captures")
+class Captures(unittest.TestCase):
+    def names(self, data, *arguments, status=0):
+        result = run("--format", "json", *arguments, "-", data=data)
+        self.assertEqual(result.returncode, status, result.stderr)
+        return [o["name"] for o in objects(result)]
+
+    def test_registration_lines(self):
+        lines = run(data=SAMPLE).stdout.decode()
+        for line in (
+                'registrationRequest +seq 2  gk "GK-1"  alias "4001", "Alice Weber"'
+                '  at 192.0.2.10:1720  ras 192.0.2.10:1719  ttl 300  keepAlive no',
+                'registrationConfirm +seq 2  gk "GK-1"  endpoint "2130_ep"  alias "4001"  at 192.0.2.1:1720  ttl 300',
+                'unregistrationRequest +seq 5  gk "GK-1"  endpoint "2130_ep"  at 192.0.2.10:1720'):
+            self.assertRegex(lines, line)
+
+    def test_sample_call(self):
+        printed = objects(run("--format", "json", data=SAMPLE))
+        self.assertEqual(len(printed), 31)
+        self.assertEqual([printed[6][k] for k in ("frame", "time", "source", "destination", "name")],
+                         [10, "2023-11-14T22:13:20.130000Z", "192.0.2.10:50001", "192.0.2.20:1720", "setup"])
+        self.assertEqual(sum(o["family"] == "h245" for o in printed), 15)
+        result = run(data=SAMPLE)
+        self.assertEqual(result.returncode, 0)
+        summary = result.stdout.decode()
+        for details in ("receive g711Ulaw64k, g711Alaw64k, g7231, dtmf, h261VideoCapability\n",
+                        "channel 101  forward g729AnnexA  media 192.0.2.10:5006/192.0.2.10:5007\n",
+                        'input "5"  for 200 ms\n', "decision slave\n", "channel 101  by user\n", "end disconnect\n"):
+            self.assertIn(details, summary)
+        self.assertRegex(summary, r"Connect \(connect\) +crv 4711  ")
+        self.assertIn('from "4001"  to "4002"  media 192.0.2.10:5004/192.0.2.10:5005', summary)
+        self.assertEqual(summary.count("+ H.245"), 2)
+
+    def test_link_types_and_protocols(self):
+        datagram = ipv4(17, udp(RAS))
+        over6 = ipv6(17, udp(RAS))
+        frames = ((1, ethernet(datagram)), (1, ethernet(datagram, vlan=True)), (1, ethernet(over6)), (101, over6),
+                  (0, b"\x02\0\0\0" + datagram), (0, b"\x1e\0\0\0" + over6), (113, bytes(14) + b"\x08\0" + datagram),
+                  (276, b"\x08\0" + bytes(18) + datagram), (276, b"\x86\xdd" + bytes(18) + over6))
+        for link_type, frame in frames:
+            self.assertEqual(self.names(capture([frame], link_type)), ["gatekeeperConfirm"], link_type)
+        result = run("-", data=capture([b"x"], 147))
+        self.assertEqual(result.returncode, 2)
+        self.assertIn(b"link type", result.stderr)
+
+    def test_fragments(self):
+        datagram = udp(RAS)
+        frames = [ethernet(ipv4(17, datagram[16:], 7, 2)), ethernet(ipv4(17, datagram[:16], 7, 0x2000))]
+        self.assertEqual(self.names(capture(frames)), ["gatekeeperConfirm"])
+
+    def test_ports(self):
+        data = capture([ethernet(ipv4(17, udp(RAS, 5000))), ethernet(ipv4(6, tcp(1, CALL, DATA, 5001)))])
+        self.assertEqual(self.names(data), [])
+        self.assertIn(b"no message found", run("-", data=data).stderr)
+        self.assertNotIn(b"no message", run("-", "--call-port", "5001", data=data).stderr)
+        self.assertEqual(self.names(data, "--ras-port", "5000", "--call-port", "5001"),
+                         ["gatekeeperConfirm", "releaseComplete"])
+        self.assertEqual(run("--as", "ras", data=data).returncode, 2)
+
+    def test_segments_in_any_order(self):
+        two, end = CALL * 2, 2 ** 32
+        expected = ["releaseComplete"] * 2
+        for first in (1000, end - 30):
+            def piece(start, stop, first=first):
+                return ((first + start) % end, two[start:stop])
+            opening = ((first - 1) % end, b"", SYN)
+            for order in ([(0, 102)], [(0, 2), (2, 60), (60, 102)], [(60, 102), (2, 60), (0, 2)], [(0, 60), (40, 102)]):
+                with self.subTest(first=first, order=order):
+                    self.assertEqual(self.names(segments(opening, *(piece(*o) for o in order))), expected)
+            for order in ([(0, 30), (60, 102), (30, 60)], [(30, 102), (0, 30)], [(0, 102), (0, 102)]):
+                with self.subTest(first=first, joined=order):
+                    self.assertEqual(self.names(segments(*(piece(*o) for o in order))), expected)
+
+    def test_missing_segment(self):
+        data = segments((0, b"", SYN), (1, CALL), (52, CALL[:20]), (103, CALL))
+        self.assertEqual(self.names(data, status=1), ["releaseComplete"] * 2)
+
+    def test_out_of_step(self):
+        for wrong in (b"\x04\0\0\x33", b"\x03\0\0\x05", b"\x03\0\0\x00"):
+            data = segments((0, b"", SYN), (1, CALL + wrong + CALL), (107, CALL), (158, CALL))
+            result = run("--format", "json", "-", data=data)
+            self.assertEqual((result.returncode, len(objects(result))), (1, 1), wrong)
+            self.assertEqual(result.stderr.count(b"out of step"), 1)
+
+    def test_truncated_capture(self):
+        data = capture([ethernet(ipv4(17, udp(RAS)))] * 2)
+        self.assertEqual(self.names(data[:-5], status=2), ["gatekeeperConfirm"])
+
+    def test_frames_cut_off_by_the_capture(self):
+        signalling = [ethernet(ipv4(17, udp(RAS))), ethernet(ipv4(6, tcp(1, CALL)))]
+        media = ethernet(ipv4(17, udp(bytes(160), 5004)))
+        for longest, cut_off in ((65535, 0), (60, 2), (40, 3)):
+            result = run("-", data=capture([*signalling, media], longest=longest))
+            self.assertEqual(result.returncode, 1 if cut_off else 0, longest)
+            self.assertEqual(b"cut off by the capture: %d\n" % cut_off in result.stderr, cut_off > 0, result.stderr)
+
+    def test_either_port_tells_the_family(self):
+        for source, destination in ((40000, 1718), (1718, 40000), (40000, 1719), (1719, 40000)):
+            datagram = struct.pack(">HHHH", source, destination, 8 + len(RAS), 0) + RAS
+            self.assertEqual(self.names(capture([ethernet(ipv4(17, datagram))])), ["gatekeeperConfirm"],
+                             (source, destination))
+
+    def test_ports_stand_beside_the_usual_ones(self):
+        data = capture([ethernet(ipv4(17, udp(RAS))), ethernet(ipv4(6, tcp(1, CALL)))])
+        self.assertEqual(self.names(data, "--ras-port", "5000", "--call-port", "5001"),
+                         ["gatekeeperConfirm", "releaseComplete"])
+
+    def test_h245_port(self):
+        message = bytes.fromhex(CHANNEL_ACK)
+        data = capture([ethernet(ipv4(6, tcp(1, tpkt(message), DATA, 5002)))])
+        self.assertEqual(self.names(data), [])
+        self.assertEqual(self.names(data, "--h245-port", "5002"), ["openLogicalChannelAck"])
+
+    def test_file_formats(self):
+        frame = ethernet(ipv4(17, udp(RAS)))
+        padding = bytes(-len(frame) % 4)
+        enhanced = struct.pack("<IIIII", 0, *divmod(1700000000000001, END), len(frame), len(frame)) + frame + padding
+        blocks = ((0x0A0D0D0A, struct.pack("<IHHq", 0x1A2B3C4D, 1, 0, -1)), (1, struct.pack("<HHI", 1, 0, 65535)),
+                  (6, enhanced))
+        files = [b"".join(struct.pack("<II", kind, 12 + len(body)) + body + struct.pack("<I", 12 + len(body))
+                          for kind, body in blocks)]
+        for order in "<>":
+            for magic, fraction in ((0xA1B2C3D4, 1), (0xA1B23C4D, 1000)):
+                files.append(struct.pack(order + "IHHIIII", magic, 2, 4, 0, 0, 65535, 1) +
+                             struct.pack(order + "IIII", 1700000000, fraction, len(frame), len(frame)) + frame)
+        for data in files:
+            (printed,) = objects(run("--format", "json", data=data))
+            self.assertEqual((printed["name"], printed["time"][-8:]), ("gatekeeperConfirm", ".000001Z"), data[:4])
+
+    def test_more_link_types(self):
+        datagram, over6 = ipv4(17, udp(RAS)), ipv6(17, udp(RAS))
+        for link_type, frame in ((108, b"\0\0\0\2" + datagram), (228, datagram), (229, over6),
+                                 (276, b"\x81\0" + bytes(18) + b"\0\5\x08\0" + datagram)):
+            self.assertEqual(self.names(capture([frame], link_type)), ["gatekeeperConfirm"], link_type)
+
+    def test_addresses(self):
+        def source(packet):
+            (printed,) = objects(run("--format", "json", data=capture([ethernet(packet)])))
+            return printed["source"]
+        for address, text in (("20010db8000000000001000000000001", "2001:db8::1:0:0:1"),
+                              ("20010db8000000010000000000000abc", "2001:db8:0:1::abc"),
+                              ("00000000000000000000000000000001", "::1"),
+                              ("fe800001000200030004000500060000", "fe80:1:2:3:4:5:6:0"),
+                              ("20010000000000000000000000000000", "2001::")):
+            packet = ipv6(17, udp(RAS))
+            self.assertEqual(source(packet[:8] + bytes.fromhex(address) + packet[24:]), f"[{text}]:40000")
+        self.assertEqual(source(ipv6(4, ipv4(17, udp(RAS)))), "192.0.2.1:40000")
+        self.assertEqual(source(ipv4(41, ipv6(17, udp(RAS)))), "[2001::]:40000")
+
+    def test_answers_are_joined_where_the_acknowledgement_says(self):
+        data = capture([ethernet(ipv4(6, struct.pack(">HHIIBBHHH", 40000, 1720, 1, 1000, 0x50, 0x10, 8192, 0, 0))),
+                        answer(1000 + len(CALL), CALL), answer(1000, CALL)])
+        self.assertEqual(self.names(data), ["releaseComplete"] * 2)
+
+    def test_ports_used_again(self):
+        self.assertEqual(self.names(segments((0, b"", SYN), (1, CALL), (500, b"", SYN), (501, CALL))),
+                         ["releaseComplete"] * 2)
+        self.assertEqual(self.names(segments((1, CALL), (0x40000000, CALL))), ["releaseComplete"] * 2)
+
+    def test_gap_is_waited_for_a_minute(self):
+        def call(sequence):
+            return ethernet(ipv4(6, tcp(sequence, CALL)))
+        ras = ethernet(ipv4(17, udp(RAS)))
+        for second, expected in ((60, ["releaseComplete", "gatekeeperConfirm", "releaseComplete", "releaseComplete"]),
+                                 (61, ["releaseComplete"] * 3 + ["gatekeeperConfirm"])):
+            data = capture_at((1000, call(1)), (1000, call(103)), (1000 + second, call(154)), (1000 + second, ras))
+            self.assertEqual(self.names(data, status=1), expected, second)
+
+    def test_keep_alive(self):
+        alive = b"\x03\0\0\x04"
+        self.assertEqual(self.names(segments((0, b"", SYN), (1, alive + CALL + alive))), ["releaseComplete"])
+
+    def test_shortest_and_longer_packets(self):
+        data = segments((0, b"", SYN), (1, CALL + b"\x03\0\0\x06" + CALL))
+        self.assertEqual(self.names(data, status=1), ["releaseComplete"])
+        long = CALL[4:9] + b"\x2f\xfa" + bytes(250) + CALL[9:]
+        data = segments((0, b"", SYN), (1, tpkt(long) + CALL))
+        self.assertEqual(self.names(data), ["releaseComplete"] * 2)
+
+    def test_step_is_looked_for_until_a_message_was_found(self):
+        self.assertEqual(self.names(segments((1, b"\x03"), (2, b"\0\0\1"), (5, CALL)), status=1), ["releaseComplete"])
+        self.assertEqual(self.names(segments((1, CALL + b"\x04..."), (56, CALL)), status=1), ["releaseComplete"])
+
+    def test_gap_where_numbers_wrap(self):
+        data = segments((END - 133, b"", SYN), (END - 132, CALL), (21, CALL), (END - 30, CALL))
+        self.assertEqual(self.names(data, status=1), ["releaseComplete"] * 3)
+
+    def test_tree_of_the_sample(self):
+        tree = run("--format", "tree", data=SAMPLE).stdout.decode()
+        for part in ("frame 4  2023-11-14T22:13:20.052000Z  192.0.2.1:1719 -> 192.0.2.10:1719"
+                     "  RAS registrationConfirm, 65 octets\n",
+                     "\n    callSignalAddress: 1 element\n      [0] ipAddress  (192.0.2.1:1720)\n"
+                     "        ip: \"C0000201\"\n",
+                     "\n      [0] dialedDigits: \"4001\"\n      [1] h323-ID: \"Alice Weber\"\n",
+                     "\n  tunnelled H.245 userInput\n    indication\n      userInput\n        alphanumeric: \"12#\"\n"):
+            self.assertIn(part, tree)
+        summary = run(data=SAMPLE).stdout.decode()
+        self.assertIn("22:13:20.078000  ", summary)
+        self.assertRegex(summary, r"Facility \(facility\) +crv 4711  reason undefinedReason\n"
+                                  r" +\+ H\.245  userInput +input \"12#\"\n")
+
+
+if __name__ == "__main__":
+    unittest.main(argv=sys.argv[:1])
