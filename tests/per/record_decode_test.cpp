@@ -54,7 +54,7 @@ bool Enters(uint32_t index, Decode decode) {
   Input input(BitWriter().Bit(true).NormallySmall(index).OpenType({1, 2}).Octets({0x5A}));
   Choice m{};
   decode(m, input.reader);
-  EXPECT_EQ(m.isExtension, 1U);
+  EXPECT_EQ(+m.isExtension, 1U);
   EXPECT_EQ(+m.choiceTag, index);
   EXPECT_EQ(input.Next(), 0x5AU);
   return input.reader.openTypes.lengths[1] == 2;
