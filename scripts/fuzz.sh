@@ -4,8 +4,8 @@
 #   scripts/fuzz.sh [-e ENGINE] [-t SECONDS] [FAMILY...]
 #
 # ENGINE is x64 (libFuzzer, the default), x86 (libFuzzer on the 32-bit library)
-# or afl (AFL++, Debian: afl++). The families, by default all, run one after the other for
-# SECONDS each, four hours by default. Corpora are kept in
+# or afl (AFL++, Debian: afl++). The families, by default all, run one after
+# the other for SECONDS each, four hours by default. Corpora are kept in
 # build/fuzz-corpus/FAMILY, which all engines share; finds are left in
 # build/fuzz-finds/FAMILY. Fails when there is a find.
 set -euo pipefail

@@ -28,7 +28,7 @@
 namespace kelvra::h245 {
 namespace {
 
-// The multilink alternatives of the classes are passed over like those that are not known.
+// The multilink alternatives of the classes are passed over like NULLs.
 
 void DecodeNonStandard(H245NonStandardMessageRecord& m, PerReader& r, MessageClass messageClass) {
   m.messageClass = messageClass;
