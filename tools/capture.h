@@ -11,6 +11,8 @@ struct CapturePorts {
   std::set<uint16_t> ras;              // UDP
   std::set<uint16_t> call_signalling;  // TCP
   std::set<uint16_t> h245;             // TCP, beside the addresses that are announced
+
+  bool AreRas(uint16_t source, uint16_t destination) const { return ras.contains(source) || ras.contains(destination); }
 };
 
 // Throws InputError, also after messages, when the capture cannot be read on.

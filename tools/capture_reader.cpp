@@ -3,7 +3,6 @@
 #include <tins/ethernetII.h>
 #include <tins/exceptions.h>
 #include <tins/ip.h>
-#include <tins/ip_reassembler.h>
 #include <tins/ipv6.h>
 #include <tins/rawpdu.h>
 #include <tins/sll.h>
@@ -16,11 +15,11 @@
 #include <memory>
 
 #include "capture.h"
+#include "capture_fragments.h"
 #include "capture_streams.h"
 
 namespace {
 
-constexpr size_t kMostFragments = 1024;
 constexpr int kCookedV2 = 276;  // LINKTYPE_LINUX_SLL2
 constexpr int kVlan = 0x8100;   // the EtherType of IEEE 802.1Q
 
@@ -124,7 +123,7 @@ Transport FindTransport(Tins::PDU& packet) {
 class PacketReader {
  public:
   PacketReader(int link_type, const CapturePorts& ports, MessageSink& sink)
-      : link_type_(link_type), ports_(ports), sink_(sink), streams_(ports, sink) {}
+      : link_type_(link_type), ports_(ports), sink_(sink), streams_(ports, sink), fragments_(ports) {}
 
   void OnPacket(const pcap_pkthdr& header, const uint8_t* octets) {
     origin_.frame += 1;
@@ -134,28 +133,24 @@ class PacketReader {
   }
   void Close() {
     streams_.Close();
-    if (cut_off_ > 0) sink_.OnLoss("frames cut off by the capture: " + std::to_string(cut_off_));
+    TellLoss("packets that lack a fragment: ", fragments_.Incomplete());
+    TellLoss("frames cut off by the capture: ", cut_off_);
   }
 
  private:
+  void TellLoss(const char* what, uint64_t count) {
+    if (count > 0) sink_.OnLoss(what + std::to_string(count));
+  }
+
   // Returns false where the packet is known to hold no signalling.
   bool Take(std::span<const uint8_t> octets) {
     try {
       const Packet packet = Dissect(link_type_, octets);
-      return packet && (!IsWhole(*packet) || Distribute(*packet));
+      return packet && (!fragments_.Join(*packet) || Distribute(*packet));
     } catch (const Tins::exception_base&) {
       // Not a packet of the Internet protocols, or cut off within their headers.
       return true;
     }
-  }
-
-  bool IsWhole(Tins::PDU& packet) {
-    const auto status = reassembler_.process(packet);
-    if (status == Tins::IPv4Reassembler::FRAGMENTED && ++fragments_ > kMostFragments) {
-      reassembler_.clear_streams();
-      fragments_ = 0;
-    }
-    return status != Tins::IPv4Reassembler::FRAGMENTED;
   }
 
   bool Distribute(Tins::PDU& packet) {
@@ -167,7 +162,7 @@ class PacketReader {
   }
 
   bool OnDatagram(const Tins::UDP& datagram) {
-    if (!ports_.ras.contains(datagram.sport()) && !ports_.ras.contains(datagram.dport())) return false;
+    if (!ports_.AreRas(datagram.sport(), datagram.dport())) return false;
     const auto* payload = datagram.find_pdu<Tins::RawPDU>();
     if (payload != nullptr && !payload->payload().empty()) {
       sink_.OnMessage({Family::kRas, payload->payload(), origin_});
@@ -179,8 +174,7 @@ class PacketReader {
   const CapturePorts& ports_;
   MessageSink& sink_;
   TcpStreams streams_;
-  Tins::IPv4Reassembler reassembler_;
-  size_t fragments_ = 0;
+  FragmentedPackets fragments_;
   uint64_t cut_off_ = 0;
   Origin origin_;
 };

@@ -84,6 +84,24 @@ class Captures(unittest.TestCase):
         frames = [ethernet(ipv4(17, datagram[16:], 7, 2)), ethernet(ipv4(17, datagram[:16], 7, 0x2000))]
         self.assertEqual(self.names(capture(frames)), ["gatekeeperConfirm"])
 
+    def test_fragments_that_are_missing(self):
+        def fragment(of, payload, place, protocol=17):
+            return ethernet(ipv4(protocol, payload, of, place))
+        datagram, most, more = udp(RAS), 1024, 0x2000
+        begin, end = fragment(7, datagram[:16], more), fragment(7, datagram[16:], 2)
+        def ended_after(frames, whole, lacking):
+            result = run("--format", "json", "-", data=capture([*frames, end]))
+            self.assertEqual([o["name"] for o in objects(result)], ["gatekeeperConfirm"] * whole)
+            self.assertEqual(result.stderr.partition(b"lack a fragment: ")[2].split()[:1], [b"%d" % lacking] * (lacking > 0))
+            self.assertEqual(result.returncode, 1 if lacking else 0)
+        others = [fragment(1000 + n, udp(RAS)[:16], more) for n in range(most)]
+        ended_after([begin, *others[1:]], 1, most - 1)
+        ended_after([begin, *others], 0, most + 2)  # both halves of what was given up
+        ended_after([begin, end] * most + [begin], most + 1, 0)
+        # What holds no RAS is not missed: TCP, and the ports of the first fragment.
+        ended_after([begin, fragment(8, CALL[:16], more, 6), fragment(8, udp(RAS, 5004)[:16], more)], 1, 0)
+        ended_after([begin, fragment(8, datagram[16:], 2), fragment(9, datagram[:8], more, 6)], 1, 1)
+
     def test_ports(self):
         data = capture([ethernet(ipv4(17, udp(RAS, 5000))), ethernet(ipv4(6, tcp(1, CALL, DATA, 5001)))])
         self.assertEqual(self.names(data), [])
@@ -146,6 +164,18 @@ class Captures(unittest.TestCase):
         data = capture([ethernet(ipv4(6, tcp(1, tpkt(message), DATA, 5002)))])
         self.assertEqual(self.names(data), [])
         self.assertEqual(self.names(data, "--h245-port", "5002"), ["openLogicalChannelAck"])
+
+    def test_latest_announced_h245_addresses_are_kept(self):
+        def announcement(port):
+            return bytes.fromhex("0300002d08024ee46e3401e47003813432a17e0018050340060008914a0004"
+                                 f"3a0000d7cca30100c0000202{port:04x}")
+        first, most = 5000, 4096
+        channel = ethernet(ipv4(6, tcp(1, tpkt(bytes.fromhex(CHANNEL_ACK)), DATA, first)))
+        for count, is_known in ((most, True), (most + 1, False)):
+            stream = b"".join(announcement(first + i) for i in range(count))
+            calls = [ethernet(ipv4(6, tcp(1 + i, stream[i:i + 1000]))) for i in range(0, len(stream), 1000)]
+            self.assertEqual(self.names(capture([*calls, channel])),
+                             ["alerting"] * count + ["openLogicalChannelAck"] * is_known)
 
     def test_file_formats(self):
         frame = ethernet(ipv4(17, udp(RAS)))

@@ -214,6 +214,11 @@ class SingleMessages(unittest.TestCase):
         self.assertRegex(summary(b"\x6c\x05\x814001"), rb'crv 4711  from "4001"')
         self.assertRegex(summary(b"\x08\x02\x80\x90"), rb'cause 16\n')
 
+    def test_digits_of_each_kind_of_party_number(self):
+        data, public, private = "8303102078", "8303000288", "8303300298"
+        request = f"4800fffe03{data}{public}{private}1044bea5dd00000040"
+        self.assertIn(b'to "45", "55", "65"', run("--as", "ras", data=request.encode()).stdout)
+
     def test_details_of_h245(self):
         lines = run("--as", "h245", data="\n".join(v["hex"] for v in vectors("h245")).encode()).stdout
         self.assertTrue(b"both h261VideoCapability" in lines)
