@@ -169,13 +169,15 @@ class Captures(unittest.TestCase):
         def announcement(port):
             return bytes.fromhex("0300002d08024ee46e3401e47003813432a17e0018050340060008914a0004"
                                  f"3a0000d7cca30100c0000202{port:04x}")
+        def channel(port):
+            return ethernet(ipv4(6, tcp(1, tpkt(bytes.fromhex(CHANNEL_ACK)), DATA, port)))
+
         first, most = 5000, 4096
-        channel = ethernet(ipv4(6, tcp(1, tpkt(bytes.fromhex(CHANNEL_ACK)), DATA, first)))
-        for count, is_known in ((most, True), (most + 1, False)):
-            stream = b"".join(announcement(first + i) for i in range(count))
-            calls = [ethernet(ipv4(6, tcp(1 + i, stream[i:i + 1000]))) for i in range(0, len(stream), 1000)]
-            self.assertEqual(self.names(capture([*calls, channel])),
-                             ["alerting"] * count + ["openLogicalChannelAck"] * is_known)
+        stream = b"".join(announcement(first + i) for i in range(most + 1))
+        calls = [ethernet(ipv4(6, tcp(1 + i, stream[i:i + 1000]))) for i in range(0, len(stream), 1000)]
+        printed = objects(run("--format", "json", data=capture([*calls, channel(first), channel(first + 1)])))
+        self.assertEqual([o["name"] for o in printed], ["alerting"] * (most + 1) + ["openLogicalChannelAck"])
+        self.assertEqual(printed[-1]["destination"], f"192.0.2.2:{first + 1}")
 
     def test_file_formats(self):
         frame = ethernet(ipv4(17, udp(RAS)))
