@@ -15,7 +15,7 @@ class FragmentedPackets {
 
   // Returns whether the packet is whole; the last of its fragments makes it so.
   bool Join(Tins::PDU& packet);
-  // How many packets that may hold RAS lack a fragment. What TCP lacks is told by its streams.
+  // How many packets that may hold RAS lack a fragment; the gaps of TCP are told by its streams.
   uint64_t Incomplete() const;
 
  private:

@@ -85,22 +85,27 @@ class Captures(unittest.TestCase):
         self.assertEqual(self.names(capture(frames)), ["gatekeeperConfirm"])
 
     def test_fragments_that_are_missing(self):
+        datagram, most, more = udp(RAS), 1024, 0x2000
+
         def fragment(of, payload, place, protocol=17):
             return ethernet(ipv4(protocol, payload, of, place))
-        datagram, most, more = udp(RAS), 1024, 0x2000
-        begin, end = fragment(7, datagram[:16], more), fragment(7, datagram[16:], 2)
-        def ended_after(frames, whole, lacking):
-            result = run("--format", "json", "-", data=capture([*frames, end]))
-            self.assertEqual([o["name"] for o in objects(result)], ["gatekeeperConfirm"] * whole)
-            self.assertEqual(result.stderr.partition(b"lack a fragment: ")[2].split()[:1], [b"%d" % lacking] * (lacking > 0))
+
+        def check(frames, found, lacking):
+            result = run("--format", "json", "-", data=capture(frames))
+            self.assertEqual([o["name"] for o in objects(result)], found)
             self.assertEqual(result.returncode, 1 if lacking else 0)
-        others = [fragment(1000 + n, udp(RAS)[:16], more) for n in range(most)]
-        ended_after([begin, *others[1:]], 1, most - 1)
-        ended_after([begin, *others], 0, most + 2)  # both halves of what was given up
-        ended_after([begin, end] * most + [begin], most + 1, 0)
-        # What holds no RAS is not missed: TCP, and the ports of the first fragment.
-        ended_after([begin, fragment(8, CALL[:16], more, 6), fragment(8, udp(RAS, 5004)[:16], more)], 1, 0)
-        ended_after([begin, fragment(8, datagram[16:], 2), fragment(9, datagram[:8], more, 6)], 1, 1)
+            self.assertRegex(result.stderr, b"lack a fragment: %d\n$" % lacking if lacking else b"^$")
+
+        begin, end = fragment(7, datagram[:16], more), fragment(7, datagram[16:], 2)
+        others = [fragment(1000 + n, datagram[:16], more) for n in range(most)]
+        check([begin, *others[1:], end], ["gatekeeperConfirm"], most - 1)
+        check([begin, *others, end], [], most + 2)  # the oldest was given up, and its end then waits alone
+        check([begin, end] * (most + 1), ["gatekeeperConfirm"] * (most + 1), 0)
+        # What holds no RAS is not missed: TCP, and datagrams of which the first fragment tells other ports.
+        other_port, tcp_begin = fragment(8, udp(RAS, 5004)[:16], more), fragment(8, CALL[:16], more, 6)
+        check([begin, tcp_begin, other_port, end], ["gatekeeperConfirm"], 0)
+        no_begin, tcp_at_ras_port = fragment(8, datagram[16:], 2), fragment(9, datagram[:8], more, 6)
+        check([begin, no_begin, tcp_at_ras_port, end], ["gatekeeperConfirm"], 1)
 
     def test_ports(self):
         data = capture([ethernet(ipv4(17, udp(RAS, 5000))), ethernet(ipv4(6, tcp(1, CALL, DATA, 5001)))])
@@ -169,6 +174,7 @@ class Captures(unittest.TestCase):
         def announcement(port):
             return bytes.fromhex("0300002d08024ee46e3401e47003813432a17e0018050340060008914a0004"
                                  f"3a0000d7cca30100c0000202{port:04x}")
+
         def channel(port):
             return ethernet(ipv4(6, tcp(1, tpkt(bytes.fromhex(CHANNEL_ACK)), DATA, port)))
 
