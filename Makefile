@@ -8,7 +8,7 @@ BUILD := build/linux-x64
 DUMP := $(BUILD)/bin/kelvra-dump
 CXX_FILES = $(shell find src tools tests fuzz bench -name '*.cpp' -o -name '*.h')
 
-.PHONY: all demo test fuzz records format lint bench bench-check bench-baseline clean
+.PHONY: all demo test fuzz records digests format lint bench bench-check bench-baseline clean
 
 # The library and the viewer.
 all:
@@ -38,6 +38,15 @@ fuzz:
 records:
 	scripts/setup.sh test
 	scripts/records.py write
+
+# The digests of the records that messages with faults decode into, after a change that is meant to show in them.
+digests:
+	scripts/setup.sh test
+	for target in linux-x86 linux-x64; do \
+	  cmake --preset $$target; \
+	  cmake --build --preset $$target --parallel --target kelvra_fault_tests; \
+	  KELVRA_RENEW_DIGESTS=1 build/$$target/bin/kelvra_fault_tests --gtest_brief=1 --gtest_filter='ExhaustiveFaults*'; \
+	done
 
 format:
 	scripts/setup.sh lint
