@@ -4,23 +4,29 @@ set -euo pipefail
 
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 export WINEPREFIX=${WINEPREFIX:-$top/build/wine-prefix}
-export WINEDEBUG=${WINEDEBUG:--all}
+# Its errors are shown, what it has not implemented is not.
+export WINEDEBUG=${WINEDEBUG:-fixme-all}
 # Neither .NET nor a browser engine: Wine would ask to download them.
 export WINEDLLOVERRIDES=${WINEDLLOVERRIDES:-mscoree,mshtml=}
 # No test opens a window.
 unset DISPLAY WAYLAND_DISPLAY
 
-ready=$WINEPREFIX/.ready
-if [[ ! -e $ready ]]; then
-  # Programs that start together must not all set the prefix up.
-  mkdir -p "$WINEPREFIX"
-  (
-    flock 9
-    if [[ ! -e $ready ]]; then
-      wineboot -i >&2
-      touch "$ready"
-    fi
-  ) 9>"$WINEPREFIX.lock"
-fi
+# The server and its services are started by themselves and stay for a minute after the last program. They would
+# share the output of a program that started them, and who reads it would wait for their end; a program that starts
+# while they end may fail.
+start_server() {
+  local ready=$WINEPREFIX/.ready log=$WINEPREFIX.log
+  if wineserver -p60 2>/dev/null || [[ ! -e $ready ]]; then  # else one runs
+    wine wineboot --init </dev/null >"$log" 2>&1 || { cat "$log" >&2; return 1; }
+    touch "$ready"
+  fi
+}
+
+mkdir -p "$WINEPREFIX"
+# Programs that start together must not all start it.
+exec 9>"$WINEPREFIX.lock"
+flock 9
+start_server 9>&-
+exec 9>&-
 
 exec wine "$@"

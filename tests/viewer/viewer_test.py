@@ -11,6 +11,7 @@ import sys
 import unittest
 
 COMMAND = [*sys.argv[2:], sys.argv[1]]
+EMULATED = len(sys.argv) > 2
 # As the viewer was configured, which its build may not have heeded.
 READS_CAPTURES = os.environ.get("KELVRA_CAPTURE", "ON") == "ON"
 TOP = os.path.dirname(os.path.dirname(os.path.dirname(os.path.abspath(__file__))))
@@ -26,7 +27,23 @@ SYN, DATA = 0x02, 0x18
 
 
 def run(*arguments, data=b""):
-    return subprocess.run([*COMMAND, *arguments], input=data, capture_output=True, timeout=120)
+    """The viewer's status and what it printed.
+
+    Very rarely Wine ends with status 1 before the program has begun; then it is started once more, so that a viewer
+    at fault fails all the same."""
+    def start():
+        return subprocess.run([*COMMAND, *arguments], input=data, capture_output=True, timeout=120)
+
+    result = start()
+    if EMULATED and ended_before_the_viewer(result):
+        print(f"started again: {result}", file=sys.stderr)
+        result = start()
+    return result
+
+
+def ended_before_the_viewer(result):
+    """The viewer prints a message or complains before it ends with status 1."""
+    return result.returncode == 1 and not result.stdout and b"kelvra-dump: " not in result.stderr
 
 
 def objects(result):
