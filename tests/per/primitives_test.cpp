@@ -325,7 +325,7 @@ TEST(PerReadBitString, AlignsOnlyBeyondSixteenBits) {
 }
 
 TEST(PerReadBitString, KeepsTheLastBitsUppermost) {
-  for (const uint32_t offset : {0U, 2U}) {
+  for (uint32_t offset = 0; offset < 8; ++offset) {
     Input input(BitWriter().Bits(0, offset).Bits(0xA5, 8).Bits(0x16, 5).Bits(7, 3));
     PerReadBits(input.reader, offset);
     EXPECT_EQ(Taken(PerReadBitString(input.reader, 13), 2), (Numbers{0xA5, 0xB0}));
