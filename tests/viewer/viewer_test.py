@@ -26,13 +26,13 @@ CHANNEL_ACK = "22c000640480101c0000c0000214177600c00002141777"
 SYN, DATA = 0x02, 0x18
 
 
-def run(*arguments, data=b""):
+def run(*arguments, data=b"", stdout=subprocess.PIPE):
     """The viewer's status and what it printed.
 
     Very rarely Wine ends with status 1 before the program has begun; then it is started once more, so that a viewer
     at fault fails all the same."""
     def start():
-        return subprocess.run([*COMMAND, *arguments], input=data, capture_output=True, timeout=120)
+        return subprocess.run([*COMMAND, *arguments], input=data, stdout=stdout, stderr=subprocess.PIPE, timeout=120)
 
     result = start()
     if EMULATED and ended_before_the_viewer(result):
@@ -203,8 +203,7 @@ class SingleMessages(unittest.TestCase):
     def test_unwritable_output(self):
         with open("/dev/full", "wb") as full:
             for text in (GATEKEEPER_CONFIRM, "\n".join([GATEKEEPER_CONFIRM] * 2000)):
-                result = subprocess.run([*COMMAND, "--as", "ras", "--format", "json"], input=text.encode(), stdout=full,
-                                        stderr=subprocess.PIPE)
+                result = run("--as", "ras", "--format", "json", data=text.encode(), stdout=full)
                 self.assertEqual((result.returncode, b"cannot be written" in result.stderr), (2, True))
 
     def printed_identifier(self, units):
