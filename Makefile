@@ -39,7 +39,8 @@ records:
 	scripts/setup.sh test
 	scripts/records.py write
 
-# The digests of the records that messages with faults decode into, after a change that is meant to show in them.
+# Renews the digests of the records that messages with faults decode into, after a change that is meant to show in
+# them, and prints which messages changed.
 digests:
 	scripts/setup.sh test
 	for target in linux-x86 linux-x64; do \

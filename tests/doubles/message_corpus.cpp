@@ -14,8 +14,9 @@ void Load(std::vector<Message>& messages, Family family, const std::string& file
   std::ifstream stream(KELVRA_TEST_DATA "/" + file);
   size_t number = 0;
   for (std::string line; std::getline(stream, line);) {
-    const std::string name = file + ":" + std::to_string(++number) + " " + StringMember(line, "alt");
-    messages.push_back({family, name, Hex(StringMember(line, "hex"))});
+    const std::string alternative = StringMember(line, "alt");
+    const std::string name = file + ":" + std::to_string(++number) + " " + alternative;
+    messages.push_back({family, name, Hex(StringMember(line, "hex")), alternative});
   }
   if (number == 0) throw std::runtime_error("no messages in " + file);
 }

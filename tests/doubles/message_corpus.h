@@ -17,7 +17,8 @@ enum class Family { kRas, kQ931, kH245 };
 struct Message {
   Family family;
   std::string name;
-  std::vector<uint8_t> octets;  // of a RAS message without the spare octet behind it
+  std::vector<uint8_t> octets;   // of a RAS message without the spare octet after it
+  std::string alternative = {};  // of a carried message
 };
 
 // Every message of tests/data but those of aligned-h245.jsonl, which were altered by hand.
