@@ -39,7 +39,7 @@ if $of_corpora; then
     run_program "$program" -runs=0 "build/fuzz-corpus/${program#kelvra_fuzz_}"
   done
 else
-  programs=(kelvra_tests kelvra_fault_tests kelvra_regression_tests)
+  programs=(kelvra_tests kelvra_per_tests kelvra_fault_tests kelvra_regression_tests)
   build_programs -DKELVRA_BUILD_TESTS=ON
   for program in "${programs[@]}"; do
     # The faults at every bit add time and no branch.

@@ -14,7 +14,8 @@ namespace kelvra::test {
 
 class Input {
  public:
-  explicit Input(const std::vector<uint8_t>& octets) : octets_(new uint8_t[octets.size()]) {
+  // Inlined, and built with a sanitizer, GCC takes the copy of no octets for one past its block.
+  [[gnu::noinline]] explicit Input(const std::vector<uint8_t>& octets) : octets_(new uint8_t[octets.size()]) {
     CodecCopy(octets_.get(), octets.data(), octets.size());
     PerReaderInit(reader, octets_.get(), static_cast<uint32_t>(octets.size()));
   }

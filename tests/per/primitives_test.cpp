@@ -131,9 +131,18 @@ TEST(PerReadLength, ReadsOneOrTwoOctets) {
                 PerReadLength);
 }
 
-TEST(PerReadLength, RefusesFragmentsAndWhatIsCutShort) {
-  ExpectNumbers({{{0xC1, 0x00, 0x00}, 0, 24}, {{0xC4, 0x00}, 0, 16}, {{0xFF}, 0, 8}, {{0x8A}, 0, 8}, {{}, 0, 0}},
-                PerReadLength);
+TEST(PerReadLength, RefusesWhatIsCutShort) { ExpectNumbers({{{0x8A}, 0, 8}, {{}, 0, 0}}, PerReadLength); }
+
+TEST(PerReadLength, RefusesFragmentsOfEverySize) {
+  for (uint32_t first = 0xC0; first <= 0xFF; ++first) {
+    for (size_t octets = 1; octets <= 4; ++octets) {
+      Octets message = {static_cast<uint8_t>(first), 1, 2, 3};
+      message.resize(octets);
+      Input input(message);
+      EXPECT_EQ(PerReadLength(input.reader), 0u) << first;
+      EXPECT_TRUE(input.AtExactEnd()) << first << " with " << octets << " octets";
+    }
+  }
 }
 
 TEST(PerReadLength, AlignsFirst) {

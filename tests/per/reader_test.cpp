@@ -3,9 +3,14 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <utility>
 
 #include "per/bit_writer.h"
 #include "per/input.h"
+
+#ifndef __OPTIMIZE__
+#error "The library reads a count that the compiler knows by paths that only optimised code has."
+#endif
 
 namespace kelvra::test {
 namespace {
@@ -71,6 +76,31 @@ TEST(PerReadBits, ReadsEveryWidthFromALongBuffer) {
       EXPECT_EQ(PerReadBits(input.reader, width), (kPattern << offset) >> (64 - width));
     }
   }
+}
+
+template <uint32_t kCount>
+void ExpectBitsOfAKnownCount(const std::vector<uint8_t>& octets, uint32_t offset) {
+  Input together(octets);
+  Input alone(octets);
+  PerSkipBits(together.reader, offset);
+  PerSkipBits(alone.reader, offset);
+  uint32_t bits = 0;
+  for (uint32_t i = 0; i < kCount; ++i) bits = bits << 1 | PerReadBit(alone.reader);
+  EXPECT_EQ(PerReadBits(together.reader, kCount), bits) << kCount << " bits from " << offset;
+  EXPECT_EQ(together.Bit(), alone.Bit());
+}
+
+template <uint32_t... kCountsLessOne>
+void ExpectBitsOfKnownCounts(std::integer_sequence<uint32_t, kCountsLessOne...>) {
+  const std::vector<uint8_t> octets(8, 0xFF);
+  for (uint32_t offset = 0; offset < 8; ++offset) {
+    (ExpectBitsOfAKnownCount<kCountsLessOne + 1>(octets, offset), ...);
+  }
+}
+
+// The fewer bits the compiler knows there are, the fewer octets are loaded for them.
+TEST(PerReadBits, ReadsEveryKnownCountFromEveryOffset) {
+  ExpectBitsOfKnownCounts(std::make_integer_sequence<uint32_t, 32>());
 }
 
 TEST(PerReadBits, RefusesWhatIsNotThereAsAWhole) {
