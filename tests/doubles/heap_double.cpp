@@ -39,6 +39,7 @@ void HeapDouble::Reset() {
   octetsGranted_ = 0;
   firstRefused_ = 0;
   lastRefused_ = 0;
+  between_ = nullptr;
 }
 
 void HeapDouble::DropLiveBlocks() {
@@ -65,6 +66,10 @@ std::vector<const void*> HeapDouble::LiveBlocks() const {
 }
 
 void* HeapDouble::Allocate(size_t size) {
+  if (const std::function<void()> between = std::exchange(between_, nullptr)) {
+    between();
+    between_ = between;
+  }
   ++requests_;
   if (firstRefused_ != 0 && requests_ >= firstRefused_ && requests_ <= lastRefused_) {
     ++refusals_;

@@ -4,8 +4,10 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace kelvra::test {
@@ -35,8 +37,10 @@ class HeapDouble {
   void DropLiveBlocks();
   // Refuses the n-th allocation from now on, counted from 1.
   void RefuseOnly(size_t nth);
-  // Refuses the n-th allocation and all behind it.
+  // Refuses the n-th allocation and all after it.
   void RefuseFrom(size_t nth);
+  // Calls `between` before each allocation, but not from within itself.
+  void OnAllocation(std::function<void()> between) { between_ = std::move(between); }
 
   size_t Requests() const { return requests_; }
   size_t Refusals() const { return refusals_; }
@@ -65,6 +69,7 @@ class HeapDouble {
   uint64_t octetsGranted_ = 0;
   size_t firstRefused_ = 0;
   size_t lastRefused_ = 0;
+  std::function<void()> between_;
 };
 
 }  // namespace kelvra::test

@@ -42,6 +42,24 @@ const std::vector<Message>& Corpus() {
   return corpus;
 }
 
+std::vector<Message> EarlierRegistrations() {
+  constexpr uint8_t kProtocolIdentifier[] = {0x06, 0x00, 0x08, 0x91, 0x4A, 0x00, 0x04};
+  std::vector<Message> messages;
+  for (const Message& message : Corpus()) {
+    if (message.family != Family::kRas || message.alternative.find("registration") != 0) continue;
+    Message earlier = message;
+    const auto found = std::search(earlier.octets.begin(), earlier.octets.end(), std::begin(kProtocolIdentifier),
+                                   std::end(kProtocolIdentifier));
+    if (found == earlier.octets.end()) continue;
+    for (const uint8_t version : {uint8_t{2}, uint8_t{3}}) {
+      found[sizeof kProtocolIdentifier - 1] = version;
+      messages.push_back(earlier);
+    }
+  }
+  if (messages.empty()) throw std::runtime_error("no registrations");
+  return messages;
+}
+
 DecodedMessage::DecodedMessage(Family family, const std::vector<uint8_t>& octets)
     : family_(family), buffer_(new uint8_t[octets.size()]) {
   std::copy(octets.begin(), octets.end(), buffer_.get());

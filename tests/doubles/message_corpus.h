@@ -24,6 +24,9 @@ struct Message {
 // Every message of tests/data but those of aligned-h245.jsonl, which were altered by hand.
 const std::vector<Message>& Corpus();
 
+// The registrations among them as of versions 2 and 3 of H.225.0: the version decides how a registration is read.
+std::vector<Message> EarlierRegistrations();
+
 class DecodedMessage {
  public:
   // Decodes from a heap block of the very size, into a record that held other values before.

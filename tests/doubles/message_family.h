@@ -3,9 +3,11 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <vector>
 
 #include "api/kelvra.h"
 #include "doubles/message_corpus.h"
+#include "doubles/record_digest.h"
 
 namespace kelvra::test {
 
@@ -46,5 +48,17 @@ struct H245 {
   static bool MayReturn(int64_t result) { return result == 0 || result == 1; }
   static bool MayOwnBlocks(int64_t) { return true; }
 };
+
+// Of the result, the record and what is left after the release.
+template <class MessageFamily>
+uint64_t DigestOf(const std::vector<uint8_t>& octets) {
+  typename MessageFamily::Record record;
+  Digest digest;
+  digest.AddWord(static_cast<uint64_t>(MessageFamily::Decode(&record, octets.data(), octets.size())));
+  BlocksOf(record).AddTo(digest, &record, sizeof record);
+  MessageFamily::Release(&record);
+  digest.AddWord(BlocksOf(record).Blocks().size());
+  return digest.Value();
+}
 
 }  // namespace kelvra::test

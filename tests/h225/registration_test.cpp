@@ -1,8 +1,6 @@
 // Registration: what a message means by its additions depends on the H.225.0 version that it names.
 #include <gtest/gtest.h>
 
-#include <thread>
-
 #include "h225/common/protocol_version.h"
 #include "h225/decoding.h"
 #include "h225/ras/registration_decode.h"
@@ -137,25 +135,6 @@ TEST(RegistrationTest, PreGrantThatEndsBehindItsLengthIsNotOne) {
   Input input(Additions(w, Addition(6, 7), 7).Length(5));
   Owned<RegistrationConfirm> m;
   EXPECT_EQ(DecodeRegistrationConfirm(*m, input.reader), kExhausted);
-}
-
-TEST(RegistrationTest, OtherVersionsOnAnotherThreadDoNotMatter) {
-  constexpr int kRounds = 20000;
-  size_t differences[2] = {0, 0};
-  const auto decode = [&](size_t thread) {
-    const auto& v = kVersions[2 + thread];
-    const Octets request = ExtendedRequest(v.version);
-    const Octets confirm = ConfirmWithPreGrant(v.version);
-    for (int round = 0; round < kRounds; ++round) {
-      if (!(ReadRequest(request) == v.request)) ++differences[thread];
-      if (!(ReadGrant(confirm) == v.grant)) ++differences[thread];
-    }
-  };
-  std::thread other(decode, 1);
-  decode(0);
-  other.join();
-  EXPECT_EQ(differences[0], 0U);
-  EXPECT_EQ(differences[1], 0U);
 }
 
 TEST(RegistrationTest, UnknownVersionIsRefusedAtOnce) {

@@ -2,27 +2,13 @@
 // own. Built with ThreadSanitizer too, which reports what they share.
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <thread>
 
 #include "doubles/message_corpus.h"
 #include "doubles/message_family.h"
-#include "doubles/record_digest.h"
 
 namespace kelvra::test {
 namespace {
-
-// Of the result, the record and what is left after the release.
-template <class MessageFamily>
-uint64_t DigestOf(const std::vector<uint8_t>& octets) {
-  typename MessageFamily::Record record;
-  Digest digest;
-  digest.AddWord(static_cast<uint64_t>(MessageFamily::Decode(&record, octets.data(), octets.size())));
-  BlocksOf(record).AddTo(digest, &record, sizeof record);
-  MessageFamily::Release(&record);
-  digest.AddWord(BlocksOf(record).Blocks().size());
-  return digest.Value();
-}
 
 uint64_t DecodeAndRelease(const Message& message) {
   switch (message.family) {
@@ -32,28 +18,10 @@ uint64_t DecodeAndRelease(const Message& message) {
   }
 }
 
-// The registrations among the messages once more, as of earlier versions of H.225.0: the version decides
-// how a registration is read, and must be that of the message itself.
-void AddEarlierVersions(std::vector<Message>& messages) {
-  constexpr uint8_t kProtocolIdentifier[] = {0x06, 0x00, 0x08, 0x91, 0x4A, 0x00, 0x04};
-  const size_t count = messages.size();
-  for (size_t i = 0; i < count; ++i) {
-    if (messages[i].family != Family::kRas || messages[i].name.find("registration") == std::string::npos) continue;
-    Message earlier = messages[i];
-    const auto found = std::search(earlier.octets.begin(), earlier.octets.end(), std::begin(kProtocolIdentifier),
-                                   std::end(kProtocolIdentifier));
-    if (found == earlier.octets.end()) continue;
-    for (const uint8_t version : {uint8_t{2}, uint8_t{3}}) {
-      found[sizeof kProtocolIdentifier - 1] = version;
-      messages.push_back(earlier);
-    }
-  }
-  EXPECT_GT(messages.size(), count);
-}
-
 TEST(Threads, SixteenDecodeAsEachDoesAlone) {
   std::vector<Message> messages = Corpus();
-  AddEarlierVersions(messages);
+  const std::vector<Message> earlier = EarlierRegistrations();
+  messages.insert(messages.end(), earlier.begin(), earlier.end());
   std::vector<uint64_t> alone;
   for (const Message& message : messages) alone.push_back(DecodeAndRelease(message));
 

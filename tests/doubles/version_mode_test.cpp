@@ -1,0 +1,40 @@
+// A registration goes by the version that it names itself, whatever is decoded between two steps of its own.
+#include "codec/memory.h"
+#include "doubles/fault_test.h"
+#include "doubles/message_family.h"
+#include "h225/common/protocol_version.h"
+
+namespace kelvra::test {
+namespace {
+
+using VersionModeTest = FaultTest;
+
+// What another thread does that decodes a message of this version.
+void NameVersion(uint8_t version) {
+  const uint8_t identifier[] = {0x06, 0x00, 0x08, 0x91, 0x4A, 0x00, version};
+  PerReader reader;
+  PerReaderInit(reader, identifier, sizeof identifier);
+  ObjectIdentifierValue value{};
+  h225::ReadProtocolIdentifier(value, reader);
+  CodecFree(&value.arcs, "test", 0);
+}
+
+TEST_F(VersionModeTest, OfAnotherMessageDoesNotMatterToARegistration) {
+  std::vector<Message> registrations = EarlierRegistrations();
+  for (const Message& message : Corpus()) {
+    if (message.alternative.find("registration") == 0) registrations.push_back(message);
+  }
+  for (const Message& message : registrations) {
+    const std::vector<uint8_t> octets = WithSpare(message.family, message.octets);
+    heap_.Reset();
+    const uint64_t alone = DigestOf<Ras>(octets);
+    for (const uint8_t version : {uint8_t{2}, uint8_t{3}, uint8_t{4}}) {
+      heap_.Reset();
+      heap_.OnAllocation([version] { NameVersion(version); });
+      EXPECT_EQ(DigestOf<Ras>(octets), alone) << message.name << ", among messages of version " << +version;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace kelvra::test
