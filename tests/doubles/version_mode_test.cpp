@@ -1,4 +1,7 @@
-// A registration goes by the version that it names itself, whatever is decoded between two steps of its own.
+// The version mode of the process: which messages set it, and that a registration goes by the version that it names
+// itself, whatever is decoded between two steps of its own.
+#include <set>
+
 #include "codec/memory.h"
 #include "doubles/fault_test.h"
 #include "doubles/message_family.h"
@@ -9,7 +12,7 @@ namespace {
 
 using VersionModeTest = FaultTest;
 
-// What another thread does that decodes a message of this version.
+// As a message of this version does that another thread decodes.
 void NameVersion(uint8_t version) {
   const uint8_t identifier[] = {0x06, 0x00, 0x08, 0x91, 0x4A, 0x00, version};
   PerReader reader;
@@ -34,6 +37,22 @@ TEST_F(VersionModeTest, OfAnotherMessageDoesNotMatterToARegistration) {
       EXPECT_EQ(DigestOf<Ras>(octets), alone) << message.name << ", among messages of version " << +version;
     }
   }
+}
+
+// They name version 4.
+TEST_F(VersionModeTest, StaysAsItIsWhateverOtherRasMessagesName) {
+  const std::set<std::string> others = {"gatekeeperRequest",          "gatekeeperConfirm",
+                                        "gatekeeperReject",           "registrationReject",
+                                        "resourcesAvailableIndicate", "resourcesAvailableConfirm"};
+  std::set<std::string> seen;
+  for (const Message& message : Corpus()) {
+    if (others.count(message.alternative) == 0) continue;
+    NameVersion(3);
+    DigestOf<Ras>(WithSpare(message.family, message.octets));
+    EXPECT_EQ(h225::ProtocolVersionMode(), h225::kVersion3Mode) << message.name;
+    seen.insert(message.alternative);
+  }
+  EXPECT_EQ(seen, others);
 }
 
 }  // namespace

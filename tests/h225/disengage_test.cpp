@@ -50,7 +50,7 @@ TEST(DisengageRequestTest, NonStandardDataTakesTheStandardForm) {
   EXPECT_EQ(input.Next(), kMarker);
 }
 
-TEST(DisengageRequestTest, UndefinedReasonIsMalformed) {
+TEST(DisengageRequestTest, ReasonPastTheAlternativesIsMalformed) {
   Input input(Marked(BeginDisengageRequest(false, false).Bits(3, 3)));
   Owned<DisengageRequest> m;
   EXPECT_EQ(DecodeDisengageRequest(*m, input.reader), kMalformed);

@@ -111,6 +111,20 @@ TEST(InfoRequestResponseTest, CallsWithTheirMessages) {
   EXPECT_EQ(input.Next(), kMarker);
 }
 
+TEST(InfoRequestResponseTest, UnknownStatusesArePassedOver) {
+  for (const uint32_t index : {0U, 2U, 258U}) {  // 2 is the tag of segment
+    BitWriter w = ResponseWith(BitWriter().Length(0), true);
+    Additions(w, Addition(5, 8), 8).OpenType(BitWriter().Bit(true).NormallySmall(index).OpenType({1, 2}));
+    Input input(Marked(w));
+    Owned<InfoRequestResponse> m;
+    ASSERT_EQ(DecodeInfoRequestResponse(*m, input.reader), kDecoded) << index;
+    EXPECT_EQ(+m->irrStatus.isExtension, 1U);
+    EXPECT_EQ(uint32_t{m->irrStatus.choiceTag}, index & 0xFF);
+    EXPECT_EQ(+m->irrStatus.segment, 0);
+    EXPECT_EQ(input.Next(), kMarker);
+  }
+}
+
 TEST(InfoRequestResponseTest, ReportedSetupSetsTheVersionMode) {
   constexpr struct {
     uint8_t version;

@@ -49,6 +49,17 @@ TEST(ResourcesAvailableTest, CountOfProtocolsIs8Bits) {
   }
 }
 
+TEST(ResourcesAvailableTest, LaterAdditionsOfTheConfirmAreSkipped) {
+  BitWriter w = Body(true, 0, 4).OpenType(test::ProtocolIdentifier(2));
+  Additions(w, 0b11, 2).OpenType(BitWriter().Length(1).Bits(0, 6).Align().Bits(7, 16)).OpenType({1, 2});
+  Input input(Marked(w));
+  Owned<ResourcesAvailableConfirm> m;
+  ASSERT_EQ(DecodeResourcesAvailableConfirm(*m, input.reader), kDecoded);
+  ASSERT_EQ(+m->genericDataCount, 1);
+  EXPECT_EQ(+m->genericData[0].id.standard, 7U);
+  EXPECT_EQ(input.Next(), kMarker);
+}
+
 TEST(RequestInProgressTest, AllAdditionsArePassedOver) {
   BitWriter w = Body(true, 0, 4).Bits(9999, 16);
   Additions(w, 0b111, 3).OpenType({1}).OpenType({2, 3}).OpenType(Octets{});

@@ -41,8 +41,8 @@ BitWriter BeginRegistrationConfirm(const Octets& protocolIdentifier, bool extend
 }
 
 // A RegistrationReject up to its reason.
-BitWriter BeginRegistrationReject() {
-  return BitWriter().Bits(0, 3).Align().Bits(0, 16).OpenType(ProtocolIdentifier(9));
+BitWriter BeginRegistrationReject(uint8_t version = 9) {
+  return BitWriter().Bits(0, 3).Align().Bits(0, 16).OpenType(ProtocolIdentifier(version));
 }
 
 // A BOOLEAN, as well as AlternateTransportAddresses with an empty annexE.
@@ -164,12 +164,14 @@ TEST(RegistrationTest, UnknownVersionIsRefusedAtOnce) {
 
 TEST(RegistrationTest, RejectNamesAnyVersion) {
   ASSERT_TRUE(ReadRequest(ExtendedRequest(4)).complete);
-  Input input(Marked(BeginRegistrationReject().Bits(6, 4)));
-  Owned<RegistrationReject> m;
-  ASSERT_EQ(DecodeRegistrationReject(*m, input.reader), kDecoded);
-  EXPECT_EQ(+m->rejectReason.choiceTag, 6);
-  EXPECT_EQ(input.Next(), kMarker);
-  EXPECT_EQ(ProtocolVersionMode(), kVersion4Mode);
+  for (const uint8_t version : {uint8_t{2}, uint8_t{9}}) {
+    Input input(Marked(BeginRegistrationReject(version).Bits(6, 4)));
+    Owned<RegistrationReject> m;
+    ASSERT_EQ(DecodeRegistrationReject(*m, input.reader), kDecoded);
+    EXPECT_EQ(+m->rejectReason.choiceTag, 6);
+    EXPECT_EQ(input.Next(), kMarker);
+    EXPECT_EQ(ProtocolVersionMode(), kVersion4Mode);
+  }
 }
 
 TEST(RegistrationTest, AliasesBeyond255AreKept) {
@@ -217,11 +219,12 @@ TEST(RegistrationRejectTest, InvalidTerminalAliases) {
 }
 
 TEST(RegistrationRejectTest, OtherExtensionReasonsArePassedOver) {
-  for (const uint32_t tag : {0U, 5U, 8U, 9U, 70U}) {
-    Input input(Marked(BeginRegistrationReject().Bit(true).NormallySmall(tag).OpenType({1, 2})));
+  for (const uint32_t tag : {0U, 5U, 8U, 9U, 70U, 262U}) {  // 262 has the tag of invalidTerminalAliases
+    Input input(Marked(BeginRegistrationReject().Bit(true).NormallySmall(tag).OpenType({0xFF, 2})));
     Owned<RegistrationReject> m;
     ASSERT_EQ(DecodeRegistrationReject(*m, input.reader), kDecoded);
-    EXPECT_EQ(+m->rejectReason.choiceTag, tag);
+    EXPECT_EQ(uint32_t{m->rejectReason.choiceTag}, tag & 0xFF);
+    EXPECT_EQ(+m->rejectReason.invalidTerminalAliases.isExtended, 0U);
     EXPECT_EQ(input.Next(), kMarker);
   }
 }
