@@ -151,6 +151,36 @@ TEST(ParameterValueTest, Numbers) {
   }
 }
 
+// Generic parameters, each but the last with the next one in its value and with an empty list `supersedes`.
+void NestedParameter(BitWriter& w, uint32_t levels) {
+  w.Bits(0b01, 2).Bits(0, 3).Bits(127, 7);  // standard 127
+  if (levels == 1) {
+    w.Bits(0, 4);  // logical
+  } else {
+    NestedParameter(w.Bits(7, 4).Length(1), levels - 1);
+  }
+  w.Length(0);
+}
+
+TEST(GenericParameterTest, NestsToTheMaximumDepthAndWhatFollowsATooDeepOneIsEmpty) {
+  for (const uint32_t levels : {kMaximumDepth, kMaximumDepth + 1}) {
+    BitWriter w;
+    NestedParameter(w, levels);
+    Input input(Marked(w));
+    Owned<GenericParameter> m;
+    DecodeGenericParameter(*m, input.reader);
+    const GenericParameter* inner = &*m;
+    for (uint32_t level = 1; level < levels; ++level) {
+      EXPECT_EQ(+inner->supersedesCount, 0) << level;
+      ASSERT_EQ(+inner->parameterValue.genericParameter.count, 1) << level;
+      inner = inner->parameterValue.genericParameter.elements;
+    }
+    EXPECT_EQ(+inner->parameterIdentifier.standard, levels > kMaximumDepth ? 0 : 127);
+    EXPECT_EQ(PerAtEnd(input.reader), levels > kMaximumDepth);
+    EXPECT_EQ(input.reader.depth, 0U);
+  }
+}
+
 TEST(ParameterValueTest, ListCountKeepsItsLow8Bits) {
   Input input(Marked(BitWriter().Bits(7, 4).Length(257).Bits(0, 2).Bits(0, 3).Bits(127, 7).Bits(0, 4)));
   Owned<ParameterValue> m;

@@ -27,6 +27,24 @@ void NestedElement(BitWriter& w, uint32_t levels) {
   w.Bit(true);  // untilClosingFlag
 }
 
+// Of an element that nests `levels` deep, the one `levels` - 1 levels down.
+const MultiplexElement& ElementOf(const MultiplexElement& element, uint32_t levels) {
+  return levels == 1 ? element : ElementOf(element.type.subElementList.elements[0], levels - 1);
+}
+
+TEST(MultiplexEntrySendTest, WhatFollowsATooDeepElementIsEmpty) {
+  BitWriter w;
+  w.Bit(false).Align().Bits(9, 8).Bits(1 - 1, 4);
+  w.Bit(true).Bits(3 - 1, 4).Align().Bits(1 - 1, 8);
+  NestedElement(w, kMaximumDepth + 1);
+  Input input(w);
+  Owned<MultiplexEntrySend> send;
+  DecodeMultiplexEntrySend(*send, input.reader);
+  const MultiplexElement& around = ElementOf(*send->multiplexEntryDescriptors->elementList, kMaximumDepth);
+  EXPECT_EQ(+around.repeatCount.choiceTag, 0);
+  EXPECT_EQ(+around.repeatCount.finite, 1) << "the least value";
+}
+
 TEST(MultiplexEntrySendTest, ElementsNestToTheMaximumDepth) {
   for (const uint32_t levels : {kMaximumDepth, kMaximumDepth + 1}) {
     BitWriter w;
@@ -51,20 +69,22 @@ TEST(MultiplexEntrySendTest, ElementsNestToTheMaximumDepth) {
 
 constexpr uint32_t kMultiplePayloadStreamMode = 3;
 constexpr uint32_t kFecMode = 4;
+constexpr uint32_t kUnknownMode = 9;
 
-// ModeElementTypes, each but the last one an extension alternative that holds the next.
+// ModeElementTypes, each but the last one an extension alternative that holds the next; the last is unknown.
 void NestedType(BitWriter& w, uint32_t alternative, uint32_t levels) {
   if (levels == 1) {
-    w.Bits(0b0'100, 4).Bits(0b01, 2);  // encryptionMode: h233Encryption
+    w.Bit(true).NormallySmall(kUnknownMode).OpenType({});
     return;
   }
   BitWriter value;
   if (alternative == kFecMode) {
     value.Bits(0b00, 2).Bits(0b01, 2).Bits(0b01, 2).Bit(false);  // rfc2733Mode, separateStream, samePort
   } else {
-    value.Bit(false).Length(1).Bit(false);  // one element
+    value.Bit(false).Length(2).Bit(false);  // two elements, alike
   }
   NestedType(value, alternative, levels - 1);
+  if (alternative == kMultiplePayloadStreamMode) NestedType(value.Bit(false), alternative, 1);
   w.Bit(true).NormallySmall(alternative).OpenType(value);
 }
 
@@ -87,10 +107,22 @@ TEST(ModeElementTypeTest, NestsToTheMaximumDepth) {
       const ModeElementType* innermost = &*type;
       for (; Inner(*innermost) != nullptr; ++found) innermost = Inner(*innermost);
       EXPECT_EQ(found, levels) << alternative;
-      EXPECT_EQ(+innermost->choiceTag, levels > kMaximumDepth ? 0 : 4) << "beyond the bound nothing is read";
+      EXPECT_EQ(+innermost->choiceTag, levels > kMaximumDepth ? 0 : kUnknownMode) << "beyond the bound nothing is read";
       EXPECT_EQ(input.reader.depth, 0U);
     }
   }
+}
+
+TEST(ModeElementTypeTest, WhatFollowsATooDeepTypeIsEmpty) {
+  BitWriter w;
+  NestedType(w, kMultiplePayloadStreamMode, kMaximumDepth + 1);
+  Input input(w);
+  Owned<ModeElementType> type;
+  DecodeModeElementType(*type, input.reader);
+  const ModeElementType* around = &*type;
+  for (uint32_t level = 1; level < kMaximumDepth; ++level) around = Inner(*around);
+  EXPECT_EQ(+around->multiplePayloadStreamMode.elementsCount, 2);
+  EXPECT_EQ(+around->multiplePayloadStreamMode.elements[1].isExtended, 0U);
 }
 
 // A message whose blocks have reached the allowance gets no more.

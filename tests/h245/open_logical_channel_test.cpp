@@ -194,6 +194,19 @@ TEST(H2250LogicalChannelParametersTest, TerminalLabelsAndAdditions) {
   EXPECT_EQ(input.Next(), kMarker);
 }
 
+TEST(H2250LogicalChannelParametersTest, BitmapOf256AdditionsCountsAsNone) {
+  BitWriter w = H2250(0, true).Align().Bits(1, 8).NormallySmall(255);
+  Input input(Marked(w));
+  Owned<H2250LogicalChannelParameters> m;
+  DecodeH2250LogicalChannelParameters(*m, input.reader);
+  EXPECT_EQ(input.Next(), kMarker);
+
+  Input ack(Marked(BitWriter().Bits(0b100000, 6).NormallySmall(255)));
+  Owned<H2250LogicalChannelAckParameters> acknowledged;
+  DecodeH2250LogicalChannelAckParameters(*acknowledged, ack.reader);
+  EXPECT_EQ(ack.Next(), kMarker);
+}
+
 // RedundancyEncodingElement: nullData with a payload type.
 BitWriter& Element(BitWriter& w, uint32_t payloadType) { return NullData(w.Bits(0b01, 2)).Bits(payloadType, 7); }
 

@@ -4,6 +4,7 @@
 
 #include "h225/decoding.h"
 #include "h245/capabilities/capability_decode.h"
+#include "h245/capabilities/h2250_capability_decode.h"
 #include "h245/capabilities/multiplex_capability_decode.h"
 #include "h245/capabilities/stream_capability_decode.h"
 #include "h245/capabilities/terminal_capability_set_decode.h"
@@ -105,6 +106,22 @@ TEST(H2250CapabilityTest, RfcNumberBeyondItsRange) {
   EXPECT_EQ(input.Next(), kMarker);
 }
 
+TEST(H2250CapabilityTest, BitmapsOf256AdditionsCountAsNone) {
+  BitWriter w;
+  w.Bit(true).Align().Bits(0, 16);
+  for (int i = 0; i < 3; ++i) w.Bits(0, 3).Length(0);  // no media distribution
+  w.Bits(0, 3).Bit(false);
+  w.Bits(0b10, 2).NormallySmall(255);  // mediaPacketizationCapability
+  w.NormallySmall(255).Octets(Octets(40, 0xFF));
+  Input input(w);
+  Owned<H2250Capability> m;
+  DecodeH2250Capability(*m, input.reader);
+  EXPECT_EQ(+m->mediaPacketizationCapability.isExtended, 1U);
+  EXPECT_EQ(+m->mediaPacketizationCapability.hasRtpPayloadType, 0U);
+  EXPECT_EQ(+m->hasTransportCapability, 0U);
+  EXPECT_EQ(PerOctetsLeft(input.reader), 40U);
+}
+
 TEST(TerminalCapabilitySetTest, TablesOf256Elements) {
   BitWriter w = Set(0b011);
   Count(w, 256);
@@ -178,8 +195,9 @@ void NestedVideo(BitWriter& w, uint32_t levels) {
     return;
   }
   BitWriter extended;
-  extended.Bits(0b00, 2).Length(1);
+  extended.Bits(0b01, 2).Length(1);  // one videoCapability
   NestedVideo(extended, levels - 1);
+  extended.Length(0);  // no videoCapabilityExtension
   w.Bit(true).NormallySmall(1).OpenType(extended);
 }
 
@@ -193,6 +211,7 @@ TEST(VideoCapabilityTest, DepthIsBounded) {
     const VideoCapability* inner = &*capability;
     for (uint32_t i = 1; i < levels; ++i) {
       ASSERT_NE(+inner->extendedVideoCapability, nullptr) << i;
+      EXPECT_EQ(+inner->extendedVideoCapability->videoCapabilityExtensionCount, 0) << "also after one too deep";
       inner = inner->extendedVideoCapability->videoCapability;
       ASSERT_NE(inner, nullptr) << i;
     }
