@@ -10,7 +10,8 @@ namespace kelvra {
 namespace {
 
 TEST(CodecAlloc, GivesZeroedBlocks) {
-  for (const size_t size : {size_t{1}, size_t{5}, size_t{8}, size_t{63}, size_t{4096}}) {
+  // Small ones are cleared in ways that depend on their size.
+  for (size_t size = 1; size <= 1100; ++size) {
     // Twice, because a heap likes to hand out again what it has just got back.
     for (int round = 0; round < 2; ++round) {
       auto* block = static_cast<uint8_t*>(CodecAlloc(size));

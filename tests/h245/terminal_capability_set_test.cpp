@@ -191,7 +191,7 @@ TEST(TerminalCapabilitySetTest, RefusedListKeepsItsCountAndEndsTheDecode) {
 // VideoCapabilities, each but the last an extendedVideoCapability of the next one.
 void NestedVideo(BitWriter& w, uint32_t levels) {
   if (levels == 1) {
-    w.Bit(true).NormallySmall(9).OpenType({});
+    w.Bit(true).NormallySmall(9).OpenType({1, 2, 3});
     return;
   }
   BitWriter extended;
