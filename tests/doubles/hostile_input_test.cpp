@@ -11,61 +11,6 @@ namespace {
 
 using HostileInputTest = FaultTest;
 
-void WriteStandardIdentifier(BitWriter& writer) {
-  writer.Bits(0b000, 3);  // standard
-  writer.Bit(false);      // within the root of its range
-  writer.Align().Bits(0x004D, 16);
-}
-
-// A GenericData with as many parameters below each other, each holding the next GenericData.
-void WriteGenericData(BitWriter& writer, uint32_t parameters) {
-  writer.Bit(false).Bit(parameters != 0);
-  WriteStandardIdentifier(writer);
-  if (parameters == 0) return;
-  writer.Align().Bits(0, 16);  // one parameter
-  writer.Bits(0b01, 2);        // with content
-  WriteStandardIdentifier(writer);
-  writer.Bits(0b01011, 5);  // nested
-  writer.Bits(0, 4);        // one element
-  WriteGenericData(writer, parameters - 1);
-}
-
-// A gatekeeperRequest whose genericData holds one such value, with the spare octet.
-std::vector<uint8_t> GatekeeperRequestWith(uint32_t nestedParameters) {
-  BitWriter genericData;
-  genericData.Length(1);
-  WriteGenericData(genericData, nestedParameters);
-  BitWriter message;
-  message.Bits(0b000000, 6);                               // gatekeeperRequest
-  message.Bits(0b10000, 5);                                // extended
-  message.Align().Bits(1, 16);                             // requestSeqNum 2
-  message.OpenType({0x00, 0x08, 0x91, 0x4A, 0x00, 0x04});  // protocolIdentifier
-  message.Bits(0b0000, 4);                                 // rasAddress: ipAddress
-  message.Octets({192, 0, 2, 1}).Bits(1719, 16);
-  message.Bits(0, 9);                               // endpointType
-  message.NormallySmall(9).Bits(0b0000000001, 10);  // genericData alone
-  message.OpenType(genericData).Align().Bits(0, 8);
-  return message.Done();
-}
-
-TEST_F(HostileInputTest, GenericDataNestsToTheMaximumDepth) {
-  const std::vector<uint8_t> octets = GatekeeperRequestWith(kMaximumDepth);
-  DecodedMessage message(Family::kRas, octets);
-  EXPECT_EQ(message.Result(), static_cast<int64_t>(octets.size()) - 1);
-  // The protocolIdentifier, the IP address, the list of genericData, and two lists a level.
-  EXPECT_EQ(heap_.Granted().size(), 3 + 2 * kMaximumDepth);
-  ExpectOwnership(Family::kRas, message, "deepest");
-  ExpectCleanRelease(message, "deepest");
-}
-
-TEST_F(HostileInputTest, GenericDataBeyondTheMaximumDepthIsRefused) {
-  for (const uint32_t depth : {kMaximumDepth + 1, kMaximumDepth + 2, 1000U}) {
-    DecodedMessage message(Family::kRas, GatekeeperRequestWith(depth));
-    EXPECT_EQ(message.Result(), -1) << depth;
-    EXPECT_TRUE(heap_.LiveBlocks().empty()) << depth;
-  }
-}
-
 // The value of the innermost parameter, or 0 where the lists end before it.
 uint32_t InnermostValue(const DecodedMessage& message) {
   const auto& dataType = message.H245().request.openLogicalChannel.forwardLogicalChannelParameters.dataType;

@@ -33,17 +33,6 @@ BitWriter InternetName(uint32_t length, const std::string& text) {
   return BitWriter().Bits(length - 1, 16).Octets(Octets(text.begin(), text.end()));
 }
 
-TEST(AliasAddressTest, DialedDigitsStayCodes) {
-  Input input(Marked(BitWriter().Bits(0, 2).Bits(7, 7).Octets({0x45, 0x60, 0x12, 0x3C})));
-  Owned<AliasAddress> alias;
-  ASSERT_EQ(DecodeAliasAddress(*alias, input.reader), kDecoded);
-  EXPECT_EQ(+alias->choiceTag, 0);
-  EXPECT_EQ(+alias->isExtension, 0U);
-  EXPECT_EQ(+alias->dialedDigits.length, 8U);
-  EXPECT_EQ(OctetsOf(alias->dialedDigits), (Octets{4, 5, 6, 0, 1, 2, 3, 12}));
-  EXPECT_EQ(input.Next(), kMarker);
-}
-
 TEST(AliasAddressTest, OddDigitsLeaveTheReaderInsideAnOctet) {
   Input input(BitWriter().Bits(0, 2).Bits(2, 7).Octets({0x45, 0x6F}));
   Owned<AliasAddress> alias;

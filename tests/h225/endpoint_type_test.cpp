@@ -11,7 +11,6 @@
 namespace kelvra::h225 {
 namespace {
 
-using test::Addition;
 using test::Additions;
 using test::BitWriter;
 using test::Input;

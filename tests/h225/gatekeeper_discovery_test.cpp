@@ -17,7 +17,6 @@ using test::kMarker;
 using test::Marked;
 using test::OctetsOf;
 using test::Owned;
-using test::TextOf;
 using Octets = std::vector<uint8_t>;
 
 // A GatekeeperRequest up to the members behind endpointType; `optional` are its four presence bits.

@@ -16,7 +16,6 @@ using test::Marked;
 using test::OctetsOf;
 using test::Owned;
 using test::Rising;
-using test::TextOf;
 using Octets = std::vector<uint8_t>;
 
 // GenericIdentifier: standard, in its constrained form.
@@ -58,23 +57,6 @@ TEST(GenericIdentifierTest, IndicesBeyondTheRoot) {
   Input malformed(BitWriter().Bits(3, 3).Octets(Rising(1, 16)));
   Owned<GenericIdentifier> id;
   EXPECT_EQ(DecodeGenericIdentifier(*id, malformed.reader), kMalformed);
-}
-
-TEST(ContentTest, Numbers) {
-  constexpr struct {
-    uint32_t index, octetsLess1, octets, value;
-  } kCases[] = {{4, 0, 1, 0xFE}, {5, 0, 2, 0xFEDC}, {6, 0, 1, 0x7F}, {6, 2, 3, 0xFEDCBA}, {6, 3, 4, 0xFEDCBA98}};
-  for (const auto& c : kCases) {
-    BitWriter w = ContentOf(c.index);
-    if (c.index == 6) w.Bits(c.octetsLess1, 2);
-    w.Align().Bits(c.value, c.octets * 8);
-    Input input(Marked(w));
-    Owned<Content> content;
-    ASSERT_EQ(DecodeContent(*content, input.reader), kDecoded);
-    const uint32_t value = c.index == 4 ? content->number8 : c.index == 5 ? content->number16 : content->number32;
-    EXPECT_EQ(value, c.value);
-    EXPECT_EQ(input.Next(), kMarker);
-  }
 }
 
 TEST(ContentTest, IndicesBeyondTheRoot) {

@@ -23,23 +23,6 @@ using test::Rising;
 using test::TextOf;
 using Octets = std::vector<uint8_t>;
 
-TEST(InfoRequestTest, SegmentedResponse) {
-  BitWriter w;
-  w.Bit(true).Bits(0, 2).Align().Bits(0, 16).Bits(0xFFFE, 16);
-  Additions(w, Addition(7, 11) | Addition(8, 11) | Addition(9, 11), 11);
-  w.OpenType({0xFF}).OpenType({0xFF, 0xFF}).OpenType(Octets{});
-  Input input(Marked(w));
-  Owned<InfoRequest> m;
-  ASSERT_EQ(DecodeInfoRequest(*m, input.reader), kDecoded);
-  EXPECT_EQ(+m->callReferenceValue, 0xFFFE);
-  EXPECT_EQ(+m->hasSegmentedResponseSupported, 1U);
-  EXPECT_EQ(+m->segmentedResponseSupported, 0);
-  EXPECT_EQ(+m->nextSegmentRequested, 0xFFFF);
-  EXPECT_EQ(+m->hasCapacityInfoRequested, 1U);
-  EXPECT_EQ(+m->hasGenericData, 0U);
-  EXPECT_EQ(input.Next(), kMarker);
-}
-
 TEST(NonStandardMessageTest, EndsBehindItsDataWithoutAdditions) {
   Input input(
       Marked(BitWriter().Bit(false).Align().Bits(0, 16).Bits(1, 2).Bit(false).Octets({181, 0, 0, 9}).OpenType({7, 8})));

@@ -41,28 +41,6 @@ TEST(LocationRequestTest, HopCountHas255Values) {
 // A LocationReject up to its rejectReason.
 BitWriter BeginLocationReject() { return BitWriter().Bits(0, 2).Align().Bits(0, 16); }
 
-// A PartyNumber: e164Number of unknown type with one digit.
-BitWriter& Number(BitWriter& w, uint8_t digit) {
-  return w.Bits(0, 2).Bits(0, 4).Bits(0, 7).Align().Bits(digit + 3U, 4);
-}
-
-TEST(LocationRejectTest, NumbersToRouteTo) {
-  BitWriter numbers;
-  numbers.Length(2);
-  Number(numbers, 4);
-  Number(numbers, 7);
-  Input input(Marked(BeginLocationReject().Bit(true).NormallySmall(2).OpenType(numbers)));
-  Owned<LocationReject> m;
-  ASSERT_EQ(DecodeLocationReject(*m, input.reader), kDecoded);
-  EXPECT_EQ(+m->rejectReason.choiceTag, 2);
-  EXPECT_EQ(+m->rejectReason.isExtension, 1U);
-  const auto& route = m->rejectReason.routeCalltoSCN;
-  ASSERT_EQ(+route.count, 2);
-  EXPECT_EQ(OctetsOf(route.elements[0].e164Number.publicNumberDigits), Octets{4 + 3});
-  EXPECT_EQ(OctetsOf(route.elements[1].e164Number.publicNumberDigits), Octets{7 + 3});
-  EXPECT_EQ(input.Next(), kMarker);
-}
-
 TEST(LocationRejectTest, OtherReasonsKeepNoContents) {
   // Index 258 keeps the tag of routeCalltoSCN; it is an unknown alternative all the same.
   for (const uint32_t index : {0U, 1U, 7U, 8U, 258U}) {

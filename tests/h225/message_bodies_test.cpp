@@ -27,25 +27,6 @@ using test::SetupRoot;
 using test::TextOf;
 using Octets = std::vector<uint8_t>;
 
-TEST(SetupTest, ThreeAdditionsAtMost) {
-  BitWriter address;
-  test::IpAddress(address, 3, 1720);
-  BitWriter w = SetupRoot(true);
-  Additions(w, 0b111, 3).OpenType(address).OpenType(BitWriter().Bits(0, 2).Bits(0, 7).Align().Bits(4, 4));
-  w.OpenType(BitWriter().Bit(false).Octets(Rising(1, 16)));
-  Input input(Marked(w));
-  Owned<SetupUUIE> m;
-  ASSERT_EQ(DecodeSetupUUIE(*m, input.reader), kDecoded);
-  EXPECT_EQ(+m->activeMC, 1U);
-  EXPECT_EQ(OctetsOf(m->conferenceID), Rising(0x60, 16));
-  EXPECT_EQ(OctetsOf(m->sourceCallSignalAddress.ipAddress.ip), (Octets{10, 1, 2, 3}));
-  EXPECT_EQ(OctetsOf(m->remoteExtensionAddress.dialedDigits), Octets{4});
-  EXPECT_EQ(OctetsOf(m->callIdentifier.guid), Rising(1, 16));
-  EXPECT_EQ(+m->hasH245SecurityCapability, 0U);
-  EXPECT_EQ(+m->hasFastStart, 0U);
-  EXPECT_EQ(input.Next(), kMarker);
-}
-
 TEST(SetupTest, FastStartElementsAreOpenTypes) {
   BitWriter list;
   list.Length(2).OpenType(NullChannel(11).Octets({0xEE, 0xEE, 0xEE})).OpenType(NullChannel(12));
@@ -191,29 +172,6 @@ TEST(AlertingTest, MaintainConnectionFollowsItsOwnFlag) {
   Owned<AlertingUUIE> m;
   ASSERT_EQ(DecodeAlertingUUIE(*m, input.reader), kDecoded);
   EXPECT_EQ(+m->maintainConnection, 1U);
-  EXPECT_EQ(input.Next(), kMarker);
-}
-
-TEST(CallTerminationCauseTest, BothAlternatives) {
-  {
-    Input input(Marked(BitWriter().Bits(0, 2).Bits(11, 5)));
-    Owned<CallTerminationCause> m;
-    ASSERT_EQ(DecodeCallTerminationCause(*m, input.reader), kDecoded);
-    EXPECT_EQ(+m->releaseCompleteReason.choiceTag, 11);
-    EXPECT_EQ(input.Next(), kMarker);
-  }
-  for (const uint32_t length : {2U, 32U}) {
-    Input input(Marked(BitWriter().Bits(1, 2).Bits(length - 2, 5).Octets(Rising(1, length))));
-    Owned<CallTerminationCause> m;
-    ASSERT_EQ(DecodeCallTerminationCause(*m, input.reader), kDecoded);
-    EXPECT_EQ(+m->choiceTag, 1);
-    EXPECT_EQ(OctetsOf(m->releaseCompleteCauseIE), Rising(1, length));
-    EXPECT_EQ(input.Next(), kMarker);
-  }
-  Input input(Marked(BitWriter().Bit(true).NormallySmall(1).OpenType({1})));
-  Owned<CallTerminationCause> m;
-  ASSERT_EQ(DecodeCallTerminationCause(*m, input.reader), kDecoded);
-  EXPECT_EQ(+m->isExtension, 1U);
   EXPECT_EQ(input.Next(), kMarker);
 }
 

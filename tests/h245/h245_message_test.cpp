@@ -133,24 +133,6 @@ TEST(FunctionNotUnderstoodTest, FourthIndexDecodesNothing) {
   EXPECT_EQ(input.Bit(), 10U);
 }
 
-TEST(ParameterValueTest, Numbers) {
-  constexpr struct {
-    uint32_t index, value;
-  } kCases[] = {{1, 0x80}, {2, 0xFFFF}, {3, 0x0102}, {4, 0xFFFFFFFF}, {5, 0x80000000}};
-  for (const auto& c : kCases) {
-    BitWriter w;
-    w.Bits(c.index, 4);
-    if (c.index > 3) w.Bits(3, 2);
-    w.Align().Bits(c.value, c.index == 1 ? 8 : c.index > 3 ? 32 : 16);
-    Input input(Marked(w));
-    Owned<ParameterValue> m;
-    DecodeParameterValue(*m, input.reader);
-    const uint32_t value = c.index == 1 ? m->booleanArray : c.index > 3 ? m->unsigned32Min : m->unsignedMin;
-    EXPECT_EQ(value, c.value);
-    EXPECT_EQ(input.Next(), kMarker);
-  }
-}
-
 // Generic parameters, each but the last with the next one in its value and with an empty list `supersedes`.
 void NestedParameter(BitWriter& w, uint32_t levels) {
   w.Bits(0b01, 2).Bits(0, 3).Bits(127, 7);  // standard 127

@@ -117,24 +117,6 @@ TEST(OpenLogicalChannelTest, BitmapOf256AdditionsCountsAsNone) {
   EXPECT_EQ(input.Next(), kMarker);
 }
 
-TEST(OpenLogicalChannelTest, ReverseParameters) {
-  BitWriter w;
-  w.Bits(0b01, 2).Align().Bits(6, 16).Bits(0, 2);
-  NoParameters(NullData(w));
-  w.Bits(0b11, 2);
-  NullData(w).Bit(true).NormallySmall(0).OpenType(H2250(0).Align().Bits(3, 8));
-  Additions(w, 0b11, 2).OpenType(Number(8)).OpenType(Number(9));
-  Input input(Marked(w));
-  Owned<OpenLogicalChannel> channel;
-  DecodeOpenLogicalChannel(*channel, input.reader);
-  const auto& reverse = channel->reverseLogicalChannelParameters;
-  EXPECT_EQ(+channel->hasReverseLogicalChannelParameters, 1U);
-  EXPECT_EQ(+reverse.multiplexParameters.h2250LogicalChannelParameters.sessionID, 3);
-  EXPECT_EQ(+reverse.reverseLogicalChannelDependency, 8);
-  EXPECT_EQ(+reverse.replacementFor, 9);
-  EXPECT_EQ(input.Next(), kMarker);
-}
-
 TEST(H2250LogicalChannelParametersTest, NonStandardCountKeepsItsLow8Bits) {
   for (const uint32_t count : {1U, 256U, 257U}) {
     BitWriter w = H2250(kNonStandard | kAssociatedSessionID);

@@ -131,15 +131,5 @@ TEST(MediaAddressTest, TruncatedNetworkMovesTheReaderToItsEnd) {
   EXPECT_TRUE(PerAtEnd(input.reader));
 }
 
-TEST(MediaAddressTest, Multicast) {
-  Input input(Marked(BitWriter().Bits(1, 2).Bits(0, 2).Bit(false).Octets({224, 0, 0, 9}).Bits(5004, 16)));
-  Owned<TransportAddress> address;
-  DecodeTransportAddress(*address, input.reader);
-  EXPECT_EQ(+address->choiceTag, 1);
-  EXPECT_EQ(OctetsOf(address->multicastAddress.iPAddress.network), (Octets{224, 0, 0, 9}));
-  EXPECT_EQ(+address->multicastAddress.iPAddress.tsapIdentifier, 5004);
-  EXPECT_EQ(input.Next(), kMarker);
-}
-
 }  // namespace
 }  // namespace kelvra::h245
