@@ -16,13 +16,15 @@ constexpr size_t kLongest = 65535;
 
 using WorstCases = FaultTest;
 
-TEST_F(WorstCases, ReadNoMoreAgainThanTheBound) {
+TEST_F(WorstCases, ClaimNoMoreThanTheBoundAndStopWhereTheyReadTooMuchAgain) {
   size_t stopped = 0;
   for (const size_t size : {kLongest / 4, kLongest / 2, kLongest}) {
     for (const Message& message : HostileMessages(size)) {
+      heap_.Reset();
       const MessageCost cost = CostOf(message.family, message.octets);
-      EXPECT_LE(cost.reread, kMaximumRereading + 1) << message.name;
-      EXPECT_LE(cost.claimed, kMaximumMessageMemory) << message.name;
+      // What the heap has counted: the reader's own figure cannot pass its bound.
+      EXPECT_LE(heap_.OctetsGranted(), kMaximumMessageMemory) << message.name;
+      EXPECT_EQ(heap_.OctetsGranted(), cost.claimed) << message.name;
       if (cost.reread > kMaximumRereading) ++stopped;
       if (size == kLongest) {
         printf("%-32s %6zu octets, %6u read again, %9u claimed\n", message.name.c_str(), message.octets.size(),
