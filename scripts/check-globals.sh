@@ -12,21 +12,27 @@ nm=$1
 library=$2
 shift 2
 
+fail() {
+  printf 'globals: %s\n' "$*" >&2
+  exit 1
+}
+
+# The section and the name of each symbol of the library's own.
+symbols=$("$nm" --format=sysv "$library" |
+  awk -F'|' '{ gsub(/ /, "", $1); gsub(/ /, "", $7) }
+    tolower($1) ~ /kelvra|_global__n_/ { print $7, $1 }')
+functions=$(grep -c '^\.text' <<<"$symbols" || true)
+[[ $functions -gt 0 ]] || fail "$library has no function of the library; is it the right one?"
+
 # Constants that hold addresses lie in .data.rel.ro, which is made read-only
 # before the library runs.
-writable=$("$nm" --format=sysv "$library" |
-  awk -F'|' '{ gsub(/ /, "", $1); gsub(/ /, "", $7) }
-    $7 ~ /^\.(data|bss|tdata|tbss|tls)(\$.*)?$/ && tolower($1) ~ /kelvra|_global__n_/ { print $1 }')
-
+writable=$(awk '$1 ~ /^\.(data|bss|tdata|tbss|tls)(\$.*)?$/ { print $2 }' <<<"$symbols")
 for name in "$@"; do
-  if ! grep -q -- "$name" <<<"$writable"; then
-    printf 'globals: %s has no %s; is it the right library?\n' "$library" "$name" >&2
-    exit 1
-  fi
+  grep -q -- "$name" <<<"$writable" || fail "$library has no $name; is it the right library?"
   writable=$(grep -v -- "$name" <<<"$writable" || true)
 done
 if [[ -n $writable ]]; then
-  printf 'globals: %s has writable variables:\n%s\n' "$library" "$writable" >&2
-  exit 1
+  fail "$library has writable variables:"$'\n'"$writable"
 fi
-printf 'globals: no writable variable but %s\n' "$*"
+printf 'globals: %d symbols of the library, %d of them functions; no writable variable but %s\n' \
+  "$(wc -l <<<"$symbols")" "$functions" "$*"

@@ -53,5 +53,5 @@ for header in "$@"; do
   done
 done
 
-printf 'headers: %d compilations, %d failed\n' "$checks" "$failures"
+printf 'headers: %d of them, %d compilations, %d failed\n' "$#" "$checks" "$failures"
 [[ $failures -eq 0 ]]
