@@ -59,7 +59,7 @@ void TcpDirection::Deliver() {
   auto& payload = flow_.payload();
   if (seeking_ && !payload.empty()) seeking_ = !framer_.MayStart(payload);
   if (!seeking_) framer_.Add(payload);
-  payload.clear();
+  payload = Tins::TCPIP::Flow::payload_type();  // clear() would keep the memory
   while (auto packet = framer_.Next()) Emit(std::move(*packet));
   if (framer_.OutOfStep()) LoseStep();
 }

@@ -8,19 +8,21 @@ size_t PacketOctets(std::span<const uint8_t> header) { return static_cast<size_t
 
 }  // namespace
 
-void TpktFramer::Add(std::span<const uint8_t> octets) {
-  octets_.erase(octets_.begin(), octets_.begin() + static_cast<std::ptrdiff_t>(used_));
-  used_ = 0;
-  octets_.insert(octets_.end(), octets.begin(), octets.end());
-}
+void TpktFramer::Add(std::span<const uint8_t> octets) { octets_.insert(octets_.end(), octets.begin(), octets.end()); }
 
 std::optional<std::vector<uint8_t>> TpktFramer::Next() {
   const auto rest = Rest();
-  if (rest.size() < kTpktHeaderOctets || !MayStart(rest)) return std::nullopt;
-  const size_t length = PacketOctets(rest);
-  if (rest.size() < length) return std::nullopt;
-  used_ += length;
-  return std::vector<uint8_t>(rest.begin(), rest.begin() + static_cast<std::ptrdiff_t>(length));
+  if (!StartsWithPacket(rest)) {
+    ReleaseUsed();
+    return std::nullopt;
+  }
+  const auto packet = rest.first(PacketOctets(rest));
+  used_ += packet.size();
+  return std::vector<uint8_t>(packet.begin(), packet.end());
+}
+
+bool TpktFramer::StartsWithPacket(std::span<const uint8_t> octets) const {
+  return octets.size() >= kTpktHeaderOctets && MayStart(octets) && octets.size() >= PacketOctets(octets);
 }
 
 bool TpktFramer::MayStart(std::span<const uint8_t> octets) const {
@@ -32,6 +34,13 @@ bool TpktFramer::MayStart(std::span<const uint8_t> octets) const {
 }
 
 void TpktFramer::Clear() {
-  octets_.clear();
+  used_ = octets_.size();
+  ReleaseUsed();
+}
+
+void TpktFramer::ReleaseUsed() {
+  if (used_ == 0) return;
+  const auto rest = Rest();
+  octets_ = std::vector<uint8_t>(rest.begin(), rest.end());
   used_ = 0;
 }

@@ -28,6 +28,9 @@ class TpktFramer {
 
  private:
   std::span<const uint8_t> Rest() const { return std::span(octets_).subspan(used_); }
+  bool StartsWithPacket(std::span<const uint8_t> octets) const;
+  // A new vector in place of the old one, which would keep its memory.
+  void ReleaseUsed();
 
   size_t shortest_;
   std::vector<uint8_t> octets_;
