@@ -19,17 +19,20 @@ constexpr int32_t kImplausibleJump = 0x1000000;
 
 bool Opens(const Tins::TCP& segment) { return (segment.flags() & Tins::TCP::SYN) != 0; }
 
-// The payload starts in the middle of a packet.
+// An opening takes a sequence number before its payload (RFC 793, 3.4).
+uint32_t PayloadStart(const Tins::TCP& segment) { return segment.seq() + (Opens(segment) ? 1 : 0); }
+
+// The payload starts in the middle of a packet, which that of an opening never does.
 bool IsMidPacket(const Tins::TCP& segment, const TpktFramer& framer) {
+  if (Opens(segment)) return false;
   const auto* payload = segment.find_pdu<Tins::RawPDU>();
   return payload != nullptr && !framer.MayStart(payload->payload());
 }
 
 uint32_t StartOf(const Tins::TCP& first, bool opposite, bool mid_packet) {
   if (opposite) return first.ack_seq();
-  if (Opens(first)) return first.seq() + 1;
   // The packet's start may follow yet.
-  return mid_packet ? first.seq() - kReorderingOctets : first.seq();
+  return mid_packet ? first.seq() - kReorderingOctets : PayloadStart(first);
 }
 
 // Sequence numbers wrap round.
@@ -44,11 +47,14 @@ TcpDirection::TcpDirection(Family family, const Tins::TCP& first, bool opposite,
       joined_(opposite || !Opens(first)),
       start_(StartOf(first, opposite, IsMidPacket(first, framer_))),
       flow_(Tins::IPv4Address(), 0, start_),
-      seeking_(joined_ && !opposite && IsMidPacket(first, framer_)) {}
+      seeking_(!opposite && IsMidPacket(first, framer_)) {}
 
 void TcpDirection::OnSegment(Tins::TCP& segment, const Origin& origin) {
   if (stopped_) return;
   origin_ = origin;
+  // The flow starts where the payload does, and takes each segment for payload alone.
+  segment.seq(PayloadStart(segment));
+  segment.set_flag(Tins::TCP::SYN, 0);
   flow_.process_packet(segment);
   Deliver();
   if (seeking_) ResumeBehindGap();
@@ -126,7 +132,7 @@ void TcpDirection::Stop() {
 }
 
 bool TcpDirection::IsNewConnection(const Tins::TCP& segment) const {
-  if (Opens(segment)) return segment.seq() + 1 != start_;
+  if (Opens(segment)) return PayloadStart(segment) != start_;
   const int32_t jump = Distance(flow_.sequence_number(), segment.seq());
   return segment.find_pdu<Tins::RawPDU>() != nullptr && (jump > kImplausibleJump || jump < -kImplausibleJump);
 }

@@ -231,6 +231,25 @@ class Captures(unittest.TestCase):
                          ["releaseComplete"] * 2)
         self.assertEqual(self.names(segments((1, CALL), (0x40000000, CALL))), ["releaseComplete"] * 2)
 
+    def test_payload_of_an_opening(self):
+        start, rest = CALL[:20], CALL[20:]
+        for first in (0, END - 1):
+            at = (first + 1) % END
+            for pieces in ([(first, CALL, SYN)], [(first, start, SYN), (at + 20, rest)],
+                           [(first, start, SYN)] * 2 + [(at + 20, rest)]):
+                with self.subTest(pieces=pieces):
+                    self.assertEqual(self.names(segments(*pieces)), ["releaseComplete"])
+        data = segments((0, b"\x04" + CALL, SYN), (53, CALL))
+        result = run("--format", "json", "-", data=data)
+        self.assertEqual((result.returncode, objects(result)), (1, []))
+        self.assertIn(b"out of step", result.stderr)
+
+    def test_opening_seen_again_or_late(self):
+        opening, start, rest = (0, b"", SYN), (1, CALL[:20]), (21, CALL[20:])
+        for pieces in ((opening, start, opening, rest), (start, opening, rest), (start, rest, opening)):
+            with self.subTest(pieces=pieces):
+                self.assertEqual(self.names(segments(*pieces)), ["releaseComplete"])
+
     def test_gap_is_waited_for_a_minute(self):
         def call(sequence):
             return ethernet(ipv4(6, tcp(sequence, CALL)))
