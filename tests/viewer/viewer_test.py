@@ -86,10 +86,15 @@ def ethernet(packet, vlan=False):
     return bytes(12) + tag + (b"\x86\xdd" if packet[0] >> 4 == 6 else b"\x08\x00") + packet
 
 
+def capture_pieces(frames, link_type=1, longest=65535):
+    """What a capture of the frames consists of, one by one: it may be large."""
+    yield struct.pack("<IHHIIII", 0xA1B2C3D4, 2, 4, 0, 0, 65535, link_type)
+    for n, f in enumerate(frames):
+        yield struct.pack("<IIII", 1700000000, n, len(f[:longest]), len(f)) + f[:longest]
+
+
 def capture(frames, link_type=1, longest=65535):
-    records = (struct.pack("<IIII", 1700000000, n, len(f[:longest]), len(f)) + f[:longest]
-               for n, f in enumerate(frames))
-    return struct.pack("<IHHIIII", 0xA1B2C3D4, 2, 4, 0, 0, 65535, link_type) + b"".join(records)
+    return b"".join(capture_pieces(frames, link_type, longest))
 
 
 def segments(*pieces):
