@@ -13,7 +13,7 @@ import tempfile
 import unittest
 
 from viewer_test import (COMMAND, DATA, GATEKEEPER_CONFIRM, READS_CAPTURES, RELEASE_COMPLETE, SAMPLE, SYN, capture,
-                         capture_pieces, ethernet, ipv4, run, segments, tcp, udp)
+                         capture_pieces, ethernet, ipv4, run, segments, tcp, tpkt, udp)
 
 RAS = bytes.fromhex(GATEKEEPER_CONFIRM)
 CALL = bytes.fromhex(RELEASE_COMPLETE)
@@ -135,6 +135,17 @@ class HostileCaptures(unittest.TestCase):
 
     def test_many_connections(self):
         self.assert_bounded(connection(i, 0, b"\x03\0\xff\xff" + bytes(500), SYN) for i in range(100_000))
+
+    def test_connections_of_many_octets(self):
+        most, size = 4_000, 60_000
+        for stream, complaint in ((b"\x03\0\xff\xff" + bytes(size - 4), b"ends within a message"),
+                                  (bytes(size), b"out of step"),
+                                  (tpkt(b"\x08" + bytes(size - 6)) + b"\x03", b"ends within a message")):
+            riding = (connection(i, 0, stream, SYN) for i in range(most))
+            following = (f for i in range(most) for f in (connection(i, 0, b"", SYN), connection(i, 1, stream)))
+            for frames in (riding, following):
+                with self.subTest(complaint=complaint, start=stream[:5], riding=frames is riding):
+                    self.assertEqual(self.assert_bounded(frames).count(complaint), most)
 
     def test_fragments_that_never_make_a_packet(self):
         frames = [ethernet(ipv4(17, bytes(1000), i & 0xFFFF, 0x2000)) for i in range(60_000)]
