@@ -133,6 +133,11 @@ class SingleMessages(unittest.TestCase):
         self.assertEqual(printed["message"]["gatekeeperRequest"]["rasAddress"], {"ipSourceRoute": {
             "ip": "C0000201", "port": 1719, "route": ["0A000001"], "routing": {"extension-2": None}}})
 
+    def test_null_alternatives_that_have_no_name(self):
+        for text, name in (("27800160", "unknown-3"), ("278001800100", "extension-0")):
+            (printed,) = objects(decode_hex("h245", text))
+            self.assertEqual(printed["message"]["response"]["requestModeReject"]["cause"], {name: None})
+
     def test_q931_and_h245(self):
         for family, text, expected in (("q931", RELEASE_COMPLETE, ("releaseComplete", 0, True)),
                                        ("h245", CHANNEL_ACK, ("openLogicalChannelAck", 1, True))):
