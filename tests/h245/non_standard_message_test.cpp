@@ -104,7 +104,9 @@ TEST(NonStandardMessageTest, OtherIdentifiersKeepTheirData) {
 TEST(NonStandardMessageTest, FailedPrivateMessageEndsTheMessage) {
   const Octets noPayload = {0x40, 1};
   const Octets shortPayload = {0x40, 1, 3, 9, 9};
-  for (const Octets& data : {Octets{0x00}, noPayload, shortPayload}) {
+  const Octets shortLength = {0x40, 1, 0x80};
+  const Octets fragments = {0x40, 1, 0xC1, 2, 3, 9};
+  for (const Octets& data : {Octets{0x00}, noPayload, shortPayload, shortLength, fragments}) {
     BitWriter w;
     PrivateIdentifier(w, true).OpenType(data).NormallySmall(0).Bit(true).OpenType({7, 7});
     Input input(w);
@@ -113,6 +115,19 @@ TEST(NonStandardMessageTest, FailedPrivateMessageEndsTheMessage) {
     EXPECT_EQ(+m->privateMessageDecoded, 0U);
     EXPECT_EQ(+m->privateMessage.payload.data, nullptr);
     EXPECT_TRUE(input.AtExactEnd()) << data.size();
+  }
+}
+
+TEST(NonStandardMessageTest, PayloadMayBeEmpty) {
+  for (const Octets& data : {Octets{0x40, 1, 0}, {0x40, 1, 0x80, 0}}) {
+    BitWriter w;
+    Input input(Marked(PrivateIdentifier(w).OpenType(data)));
+    Owned<H245NonStandardMessageRecord> m;
+    DecodeNonStandardMessage(*m, input.reader);
+    EXPECT_EQ(+m->privateMessageDecoded, 1U);
+    EXPECT_EQ(+m->privateMessage.hasPayload, 1U);
+    EXPECT_EQ(+m->privateMessage.payload.length, 0U);
+    EXPECT_EQ(input.Next(), kMarker);
   }
 }
 

@@ -4,9 +4,11 @@
 namespace kelvra::h245 {
 namespace {
 
-// Unlike elsewhere, octets that are missing are a failure.
+// Unlike elsewhere, octets that are missing are a failure, those of the length included; so is a length in
+// fragments. After `messageType` the reader stands at an octet.
 Status DecodePayload(OctetStringValue& m, PerReader& r) {
-  if (PerAtEnd(r)) return kMalformed;
+  const uint8_t first = PerPeekOctet(r, 0);
+  if (first >= 0xC0 || PerOctetsLeft(r) < (first < 0x80 ? 1U : 2U)) return kMalformed;
   const uint32_t length = PerReadLength(r);
   if (length > PerOctetsLeft(r)) return kMalformed;
   PerReadOctets(m, r, length);
