@@ -56,7 +56,7 @@ struct PerReader {
   uint32_t depth;                 // recursive types entered
   uint32_t allowance;             // octets that blocks may still claim
   uint32_t reread;                // octets read or looked at a second time so far
-  const uint8_t* stoppedAt;       // at the end only: how far it had read when it moved there; null: all the way
+  const uint8_t* stoppedAt;       // at the end only: the octet boundary it had read to before it moved; null: the end
 };
 
 // Over `length` octets at `buffer`, with fresh decoding state.
@@ -86,8 +86,14 @@ inline uint32_t PerOctetsInside(const PerReader& reader) {
   return reader.position >= reader.octetLimit ? 0 : static_cast<uint32_t>(reader.octetLimit - reader.position);
 }
 
+// The next octet boundary after the position and `offset`, the reader's own; the position itself where it is one.
+inline const uint8_t* PerBoundary(const PerReader& reader, BitOffset offset) {
+  return reader.position + (offset + 7) / 8;
+}
+inline const uint8_t* PerBoundary(const PerReader& reader) { return PerBoundary(reader, reader.bitOffset); }
+
 inline void PerMoveToEnd(PerReader& reader) {
-  if (!PerAtEnd(reader)) reader.stoppedAt = reader.position;
+  if (!PerAtEnd(reader)) reader.stoppedAt = PerBoundary(reader);
   reader.position = reader.end;
   reader.bitOffset = 0;
 }
@@ -137,12 +143,6 @@ inline uint32_t PerLoad32(const uint8_t* octets) { return PerLoad16(octets) << 1
   reader.bitOffset = (offset + count) % 8;
   return bits >> (32 - count);
 }
-
-// The next octet boundary behind the position and `offset`, the reader's own; the position itself where it is one.
-inline const uint8_t* PerBoundary(const PerReader& reader, BitOffset offset) {
-  return reader.position + (offset + 7) / 8;
-}
-inline const uint8_t* PerBoundary(const PerReader& reader) { return PerBoundary(reader, reader.bitOffset); }
 
 // The next bit, at `offset`, the reader's own.
 inline bool PerPeekBit(const PerReader& reader, BitOffset offset) {

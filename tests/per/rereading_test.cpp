@@ -60,6 +60,17 @@ TEST(Rereading, OfARefusedValueReachesNoFurtherThanItRead) {
   EXPECT_EQ(input.reader.reread, 999U);
 }
 
+TEST(Rereading, OfARefusedValueCountsTheOctetThatItReadInPart) {
+  Input input(BitWriter().OpenType(std::vector<uint8_t>{}).Octets({0xFF, 0xFF}));
+  OpenTypeBegin(input.reader);
+  PerReadBit(input.reader);
+  PerReadBits(input.reader, 16);  // one bit more than there is
+  EXPECT_TRUE(PerAtEnd(input.reader));
+  OpenTypeEnd(input.reader);
+  EXPECT_EQ(input.reader.reread, 1U);
+  EXPECT_EQ(input.Bit(), 8U);
+}
+
 TEST(Rereading, CountsABitmapThatIsReadToTheEnd) {
   Input input(BitWriter().OpenType(BitWriter().NormallySmall(0x7FFFFFFE)).Octets(std::vector<uint8_t>(500, 0xFF)));
   OpenTypeBegin(input.reader);
