@@ -43,9 +43,7 @@ inline void CopyString(uint8_t* to, const uint8_t* from, uint32_t count) {
 // The same of `count` octets of which some lie outside the caller's buffer, those as zero.
 [[gnu::noinline]] void TakeOctetsAtEdge(PerReader& reader, uint8_t* octets, uint32_t count) {
   if (count == 0) return;
-  const auto readable =
-      reader.position >= reader.readable ? 0 : static_cast<uint32_t>(reader.readable - reader.position);
-  CodecCopy(octets, reader.position, Minimum(count, readable));
+  CodecCopy(octets, reader.position, Minimum(count, PerReadableOctets(reader)));
   PerSkipBits(reader, count * 8);
 }
 

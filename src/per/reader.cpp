@@ -12,10 +12,6 @@ enum RefusalLine : int32_t { kSkipAtEnd = 85, kSkipPastEnd = 101, kReadPastEnd =
   CodecTrace(kTraceDecoder, kTraceError, kReasonDecode, kSourceReader, line);
 }
 
-uint32_t ReadableOctets(const PerReader& reader) {
-  return reader.position >= reader.readable ? 0 : static_cast<uint32_t>(reader.readable - reader.position);
-}
-
 uint32_t AllowanceOf(uint32_t octets) {
   const uint64_t allowance = kLeastMessageMemory + uint64_t{octets} * kMessageMemoryForEachOctet;
   return allowance < kMaximumMessageMemory ? static_cast<uint32_t>(allowance) : kMaximumMessageMemory;
@@ -68,7 +64,7 @@ void PerMoveBack(PerReader& reader, const uint8_t* octet) {
 }
 
 uint8_t PerPeekOctet(const PerReader& reader, uint32_t index) {
-  return index < ReadableOctets(reader) ? reader.position[index] : uint8_t{0};
+  return index < PerReadableOctets(reader) ? reader.position[index] : uint8_t{0};
 }
 
 uint32_t PerReadBitsAtEdge(PerReader& reader, uint32_t count) {
@@ -86,7 +82,7 @@ uint32_t PerReadBitsAtEdge(PerReader& reader, uint32_t count) {
   if (count == 0) return 0;
   const uint32_t total = static_cast<uint32_t>(reader.bitOffset) + count;
   const uint32_t octets = (total + 7) / 8;  // five at most
-  const uint32_t readable = ReadableOctets(reader);
+  const uint32_t readable = PerReadableOctets(reader);
   uint64_t window = 0;
   for (uint32_t i = 0; i < octets; ++i) window = window << 8 | (i < readable ? reader.position[i] : 0U);
   reader.position += total / 8;

@@ -86,6 +86,11 @@ inline uint32_t PerOctetsInside(const PerReader& reader) {
   return reader.position >= reader.octetLimit ? 0 : static_cast<uint32_t>(reader.octetLimit - reader.position);
 }
 
+// Octets of the caller's buffer from the position on, those past the end included.
+inline uint32_t PerReadableOctets(const PerReader& reader) {
+  return reader.position >= reader.readable ? 0 : static_cast<uint32_t>(reader.readable - reader.position);
+}
+
 // The next octet boundary after the position and `offset`, the reader's own; the position itself where it is one.
 inline const uint8_t* PerBoundary(const PerReader& reader, BitOffset offset) {
   return reader.position + (offset + 7) / 8;
