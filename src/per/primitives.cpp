@@ -104,7 +104,7 @@ uint32_t PrintableCharacter(uint32_t index) {
   return static_cast<uint8_t>(" '()+,-./0123456789:=?"[index < 22 ? index : 0]);
 }
 
-// How many of `count` octets end a subidentifier. `inside` tells how many can be read.
+// How many of `count` octets end a subidentifier. `inside` says how many can be read.
 uint32_t CountSubidentifiers(const uint8_t* octets, uint32_t count, uint32_t inside) {
   uint32_t subidentifiers = 0;
   uint32_t done = 0;
@@ -297,25 +297,26 @@ void PerReadObjectIdentifier(ObjectIdentifierValue& value, PerReader& reader) {
     value.count = 0;
     return;
   }
-  // Octets outside the caller's buffer read as zero, and so each of them ends a subidentifier.
+  // The contents are counted before their length is checked, as far as the caller's buffer goes. Octets before
+  // the end but outside that buffer read as zero, and so each of them ends a subidentifier.
   const uint32_t left = PerOctetsLeft(reader);
-  const uint32_t contents = Minimum(length, left);
-  const uint32_t inside = Minimum(contents, PerOctetsInside(reader));
-  const uint32_t count =
-      1 + CountSubidentifiers(reader.position, inside, PerOctetsInside(reader)) + (contents - inside);
+  const uint32_t readable = PerReadableOctets(reader);
+  const uint32_t counted = Minimum(length, readable > left ? readable : left);
+  const uint32_t inside = Minimum(length, readable);
+  const uint32_t count = 1 + CountSubidentifiers(reader.position, inside, readable) + (counted - inside);
   value.count = count;
   if (length > left) {
     PerMoveToEnd(reader);
-    PerCountRereading(reader, contents);
+    PerCountRereading(reader, counted);
     return;
   }
   auto* arcs = static_cast<uint32_t*>(PerAllocate(reader, uint64_t{count} * sizeof(uint32_t)));
   if (arcs == nullptr) {
-    PerCountRereading(reader, contents);
+    PerCountRereading(reader, length);
     return;
   }
   value.arcs = arcs;
-  const uint8_t* behind = PerAdvance(reader.position, contents);
+  const uint8_t* behind = PerAdvance(reader.position, length);
   if (count > 1 && inside == length) [[likely]] {
     reader.position = TakeArcs(arcs, count, reader.position);
   } else {

@@ -521,6 +521,34 @@ TEST(PerReadObjectIdentifier, ReadsZerosBehindTheCallersOctets) {
   EXPECT_EQ(reader.position, reader.end);
 }
 
+TEST(PerReadObjectIdentifier, CountsTheCallersOctetsPastTheEndOfTheMessage) {
+  const struct {
+    uint32_t length;
+    uint32_t available;
+    uint32_t count;
+    uint32_t lookedAt;
+  } cases[] = {
+      {4, 7, 6, 5},  // 2B 06 01 02 03
+      {4, 5, 5, 4},  // 2B 06 01 02
+      {4, 4, 4, 3},  // 2B 06 01
+      {4, 3, 4, 3},  // 2B 06 and a zero before the end
+  };
+  const uint8_t octets[] = {0x05, 0x2B, 0x06, 0x01, 0x02, 0x03, 0x04};
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.available);
+    const std::unique_ptr<uint8_t[]> buffer(new uint8_t[c.available]);
+    CodecCopy(buffer.get(), octets, c.available);
+    PerReader reader;
+    PerReaderInit(reader, buffer.get(), c.length, c.available);
+    ObjectIdentifierValue value{};
+    PerReadObjectIdentifier(value, reader);
+    EXPECT_EQ(uint32_t{value.count}, c.count);
+    EXPECT_EQ(static_cast<uint32_t*>(value.arcs), nullptr);
+    EXPECT_EQ(reader.position, reader.end);
+    EXPECT_EQ(reader.reread, c.lookedAt);
+  }
+}
+
 TEST(Primitives, ReadNothingBeyondTheEnd) {
   Input input({0xFF});
   PerReader& reader = input.reader;
