@@ -22,9 +22,13 @@ inline constexpr uint32_t kLeastMessageMemory = 1U << 20;
 inline constexpr uint32_t kMessageMemoryForEachOctet = 2048;
 
 // How many octets of one message may be read, or looked at, a second time: those that leaving an open
-// type moves the reader back over, and those that were counted but not read. A lawful message has next
-// to none. Past it the reader moves to its end and stays there.
-inline constexpr uint32_t kMaximumRereading = 64U << 10;
+// type moves the reader back over, and those that were counted but not read. Past it the reader moves to its
+// end and stays there.
+//
+// Conforming messages have some read again where a GSM-UIM holds a `tmsi`, which is read as digits, so that what
+// follows is read out of place, and where more than kOpenTypeLevels open types lie in each other. The longest
+// registration of such aliases has 65,506 octets read again.
+inline constexpr uint32_t kMaximumRereading = 128U << 10;
 
 inline constexpr uint32_t kOpenTypeLevels = 10;
 

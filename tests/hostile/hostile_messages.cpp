@@ -113,6 +113,24 @@ Octets NestedParameters(size_t size) {
   return Filled(octets, parameter, size);
 }
 
+// The value of an extendedVideoCapability ten open types deep. The innermost holds another, and a nonStandard
+// with `data`.
+Octets VideoCapabilitiesTenDeep(const Octets& data) {
+  constexpr int kLevels = 10;
+  BitWriter smallest;
+  smallest.Bits(0b00, 2).Length(1).Bits(0b0001, 4).Bits(0b00, 2).Bit(false).Align().Bits(99, 16).Bit(false);
+  BitWriter list;
+  list.Bits(0b00, 2).Length(2);
+  list.Bit(true).NormallySmall(1).OpenType(smallest);
+  list.Bits(0b0000, 4).Bit(false).OpenType({1}).OpenType(data);
+  for (int level = 1; level < kLevels; ++level) {
+    BitWriter outer;
+    outer.Bits(0b00, 2).Length(1).Bit(true).NormallySmall(1).OpenType(list);
+    list = outer;
+  }
+  return list;
+}
+
 // --- RAS ---
 
 // An Endpoint whose nonStandardData has an object identifier, and a list of as many tokens as are said that
@@ -295,7 +313,58 @@ Octets CircularElements(size_t size) {
 
 Octets ElementsWithoutContents(size_t size) { return Filled({3, 0, 0, 0, 0x08, 0x02, 0x00, 0x01, 0x05}, {0xA0}, size); }
 
+// The octets that lie around the aliases of a registration, the spare octet included.
+constexpr size_t kAroundAliases = 24;
+
+// An alias whose `tmsi` has one octet. It is read as one digit, so that all behind it is read out of place and
+// past the open type.
+BitWriter AliasReadAgain() {
+  BitWriter uim;
+  uim.Bits(0b01, 2).Bits(0b0011011, 7);    // gsm-uim with tmsi, msisdn, hplmn and vplmn
+  uim.Bits(0, 2).Octets({0xFF});           // tmsi
+  uim.Bits(0, 4).Align().Bits(0xDDD, 12);  // msisdn, three digits
+  uim.Bits(0, 2).Align().Bits(0xD, 4);     // hplmn, one digit
+  uim.Bits(0, 2).Align().Bits(0xD, 4);     // vplmn, one digit
+  return BitWriter().Bit(true).NormallySmall(4).OpenType(uim);
+}
+
 }  // namespace
+
+uint32_t AliasesOfRegistration(size_t size) {
+  return static_cast<uint32_t>((size - kAroundAliases) / AliasReadAgain().Done().size());
+}
+
+std::vector<uint8_t> RegistrationOfAliases(size_t size) {
+  BitWriter message;
+  message.Bit(false).Bits(3, 5).Bits(0b00, 2).Bits(0b10, 2).Align().Bits(1, 16).OpenType(ProtocolIdentifier(4));
+  message.Bit(true).Length(0).Length(0);  // discoveryComplete; no addresses
+  EmptyEndpointType(message).Length(AliasesOfRegistration(size));
+  const Octets alias = AliasReadAgain();
+  for (uint32_t i = 0; i < AliasesOfRegistration(size); ++i) message.Octets(alias);
+  message.Bits(0, 4).Octets({181, 0, 0, 18});  // endpointVendor
+  return message.Octets({0});
+}
+
+std::vector<uint8_t> CapabilitiesElevenDeep(size_t size) {
+  constexpr int kTimes = 4;
+  constexpr size_t kMostData = 15943;  // what the outermost open type has room for
+  constexpr size_t kAroundData = 1103;
+  const size_t dataSize = size - kAroundData < kMostData ? size - kAroundData : kMostData;
+  Octets data;
+  for (uint32_t i = 0; data.size() < dataSize; ++i) Append(data, {0x00, 0x12, static_cast<uint8_t>(i)});
+  data.resize(dataSize);
+  for (int i = 0; i < kTimes; ++i) {
+    const Octets inner = data;
+    data = BitWriter().Octets({0x07, 0x0C, 0x08}).OpenType(VideoCapabilitiesTenDeep(inner));
+  }
+  BitWriter message;
+  message.Bits(0b000, 3).Bits(0b00010, 5).Bits(0b0010, 4).Octets({1});          // terminalCapabilitySet
+  message.OpenType({0x00, 0x08, 0x81, 0x75, 0x00, 0x07}).Bits(256 - 1, 8);      // capabilityTable
+  message.Bit(true).Align().Bits(0x1110, 16).Bits(0b00001, 5);                  // receiveVideoCapability
+  message.Bit(true).NormallySmall(1).OpenType(VideoCapabilitiesTenDeep(data));  // extendedVideoCapability
+  for (uint16_t i = 0; i < 255; ++i) message.Bit(false).Align().Bits(0x2200U + i, 16);
+  return message;
+}
 
 std::vector<Message> HostileMessages(size_t size) {
   return {
@@ -305,6 +374,7 @@ std::vector<Message> HostileMessages(size_t size) {
       {Family::kH245, "object identifiers past the end", ObjectIdentifiersPastTheEnd(size)},
       {Family::kH245, "long object identifiers", LongObjectIdentifiers(size)},
       {Family::kH245, "nested parameters", NestedParameters(size)},
+      {Family::kH245, "capabilities 11 deep", CapabilitiesElevenDeep(size)},
       {Family::kRas, "rewound endpoints", RewoundEndpoints(size)},
       {Family::kRas, "additions of no octet", SkippedAdditions(size, 0x00)},
       {Family::kRas, "additions of 100 octets", SkippedAdditions(size, 100)},
@@ -312,6 +382,7 @@ std::vector<Message> HostileMessages(size_t size) {
       {Family::kRas, "rewound tokens", RewoundTokens(size, 0x80)},
       {Family::kRas, "rewound tokens of zeros", RewoundTokens(size, 0x00)},
       {Family::kRas, "empty PDUs", EmptyPdus(size)},
+      {Family::kRas, "aliases that are read again", RegistrationOfAliases(size)},
       {Family::kQ931, "rewound fast start", RewoundFastStart(size)},
       {Family::kQ931, "smallest channels", SmallestChannels(size)},
       {Family::kQ931, "wide features", WideFeaturesOfASetup(size)},

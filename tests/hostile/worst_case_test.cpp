@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "doubles/fault_test.h"
+#include "doubles/message_family.h"
 #include "hostile/hostile_messages.h"
 #include "hostile/message_cost.h"
 #include "per/reader.h"
@@ -35,11 +36,32 @@ TEST_F(WorstCases, ClaimNoMoreThanTheBoundAndStopWhereTheyReadTooMuchAgain) {
   EXPECT_GE(stopped, 9U) << "messages that used to take seconds";
 }
 
+TEST_F(WorstCases, ARegistrationOfAliasesThatAreReadAgainIsAccepted) {
+  std::vector<uint8_t> octets = RegistrationOfAliases(kLongest);
+  EXPECT_EQ(CostOf(Family::kRas, octets).reread, 10 * AliasesOfRegistration(kLongest) - 4);
+  static Ras::Record record;
+  EXPECT_EQ(Ras::Decode(&record, octets.data(), octets.size()), static_cast<int64_t>(octets.size() - 1));
+  EXPECT_EQ(+record.registrationRequest.terminalAliasCount, AliasesOfRegistration(kLongest));
+  EXPECT_EQ(+record.registrationRequest.endpointVendor.vendor.manufacturerCode, 18);
+  Ras::Release(&record);
+}
+
+TEST_F(WorstCases, ACapabilitySetElevenOpenTypesDeepFillsItsTable) {
+  std::vector<uint8_t> octets = CapabilitiesElevenDeep(kLongest);
+  EXPECT_EQ(CostOf(Family::kH245, octets).reread, 80390U);
+  static H245::Record record;
+  EXPECT_EQ(H245::Decode(&record, octets.data(), octets.size()), 0);
+  const auto& set = record.request.terminalCapabilitySet;
+  ASSERT_EQ(+set.capabilityTableCount, 256);
+  for (uint32_t i = 0; i < 256; ++i) EXPECT_NE(+set.capabilityTable[i].capabilityTableEntryNumber, 0) << i;
+  H245::Release(&record);
+}
+
 TEST_F(WorstCases, LeaveARecordThatReleasesCleanly) {
   for (const Message& message : HostileMessages(kLongest)) ExpectSafe(message.family, message.octets, message.name);
 }
 
-TEST_F(WorstCases, AreFarFromWhatLawfulMessagesNeed) {
+TEST_F(WorstCases, AreFarFromWhatCarriedMessagesNeed) {
   double ratio = 0;
   for (const Message& message : Corpus()) {
     const MessageCost cost = CostOf(message.family, WithSpare(message.family, message.octets));

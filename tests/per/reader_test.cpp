@@ -17,7 +17,7 @@ namespace {
 
 // The limits that README.md and docs/security.md promise.
 static_assert(kMaximumMessageMemory == 8U << 20 && kLeastMessageMemory == 1U << 20);
-static_assert(kMessageMemoryForEachOctet == 2048 && kMaximumRereading == 65536);
+static_assert(kMessageMemoryForEachOctet == 2048 && kMaximumRereading == 131072);
 static_assert(kMaximumDepth == 32 && kOpenTypeLevels == 10);
 
 const uint8_t* AddressFromTop(uintptr_t distance) { return reinterpret_cast<const uint8_t*>(UINTPTR_MAX - distance); }
