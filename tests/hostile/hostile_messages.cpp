@@ -3,6 +3,7 @@
 #include "doubles/channel_writer.h"
 #include "h225/messages.h"
 #include "h225/q931_builder.h"
+#include "per/reader.h"
 
 namespace kelvra::test {
 namespace {
@@ -131,6 +132,54 @@ Octets VideoCapabilitiesTenDeep(const Octets& data) {
   return list;
 }
 
+// 56 streams of 255 elements: those of the first are nullData, those of the others nonStandard, with an object
+// identifier and an octet each. The open type around them ends after a quarter of the longest message.
+Octets PayloadStreams(size_t size) {
+  constexpr uint32_t kStreams = 56;
+  constexpr uint32_t kElements = 255;
+  const auto stream = [](BitWriter& w, const BitWriter& elements) -> BitWriter& {
+    return w.Bits(0b00, 2).Bit(true).NormallySmall(4).OpenType(elements);  // multiplePayloadStream
+  };
+  BitWriter smallest;
+  smallest.Bit(false).Length(kElements);
+  for (uint32_t i = 0; i < kElements; ++i) WriteNullDataType(smallest.Bits(0b00, 2));
+  BitWriter nonStandard;
+  nonStandard.Bit(false).Length(kElements);
+  for (uint32_t i = 0; i < kElements; ++i) nonStandard.Bits(0, 2).Bits(0, 4).Bit(false).OpenType({1}).OpenType({7});
+  BitWriter message;
+  message.Bits(0b000, 3).Bits(0b00011, 5).Bits(0b00, 2).Align().Bits(0, 16).Bits(0b00, 2);
+  message.Bit(true).NormallySmall(4).Length(kLongestLength).Bit(false).Length(kStreams);
+  stream(message, smallest);
+  while (message.Done().size() < size) stream(message, nonStandard);
+  Octets octets = message;
+  octets.resize(size);
+  return octets;
+}
+
+// A DataType that holds itself `levels` times, by way of h235Media and the primary of a redundancyEncoding, which
+// takes the deepest stack. Its open types have no octet.
+void NestedRedundantMedia(BitWriter& w, int levels) {
+  if (levels == 0) return WriteNullDataType(w);
+  w.Bit(true).NormallySmall(1).Length(0);  // h235Media
+  w.Bit(false).Bits(0b0000, 4);            // encryptionAuthenticationAndIntegrity without a member
+  w.Bit(true).NormallySmall(0).Length(0);  // mediaType: redundancyEncoding
+  w.Bits(0b10, 2).Bits(0b01, 2);           // extended, without secondary; any method
+  w.NormallySmall(0).Bit(true).Length(0);  // rtpRedundancyEncoding
+  w.Bits(0b010, 3).Bits(0b00, 2);          // primary alone; its dataType
+  NestedRedundantMedia(w, levels - 1);
+}
+
+Octets DeepestChannel() {
+  return OpenLogicalChannelMessage([](BitWriter& w) { NestedRedundantMedia(w, kMaximumDepth); });
+}
+
+// The same as an element of fastStart.
+BitWriter DeepestFastStart() {
+  Octets channel = DeepestChannel();
+  channel.erase(channel.begin());
+  return BitWriter().Length(1).OpenType(channel);
+}
+
 // --- RAS ---
 
 // An Endpoint whose nonStandardData has an object identifier, and a list of as many tokens as are said that
@@ -225,24 +274,89 @@ Octets RewoundTokens(size_t size, uint8_t filler) {
   return Filled(message, {filler, 0x00}, size);
 }
 
-// Lawful: calls whose PDUs are all empty, 255 to a call.
-Octets EmptyPdus(size_t size) {
-  BitWriter pdus;
-  pdus.Length(255);
-  for (int i = 0; i < 255; ++i) pdus.Bits(0, 2).Bit(true).NormallySmall(1).OpenType(Octets{}).Bit(false);
+// Continues `w` with the PDU of a Setup up to the latter's additions, of which the one at `index` is there.
+BitWriter& PduOfSetupWith(BitWriter& w, uint32_t index) {
+  constexpr uint32_t kAdditions = 26;
+  w.Bits(0b00, 2).Bits(0b0000, 4);  // no nonStandardData; setup
+  w.Bit(true).Bits(0, 7).OpenType(ProtocolIdentifier(4));
+  EmptyEndpointType(w).Bit(true).Octets(Rising(0x60, 16)).Bits(0, 3).Bits(0, 3);
+  return Additions(w, Addition(index, kAdditions), kAdditions);
+}
+
+constexpr uint32_t kFastStart = 6;
+
+// A call of an infoRequestResponse with these PDUs.
+Octets CallWith(const BitWriter& pdus) {
   BitWriter call;
   call.Bit(true).Bits(0, 5).Align().Bits(77, 16).Octets(Rising(0x30, 16));
   call.Bits(0, 3).Bits(0, 3).Bits(0, 3).Bits(0, 2).Octets({5}).Bits(0, 2);
-  Additions(call, Addition(4, 8), 8).OpenType(pdus);
-  const auto calls = static_cast<uint32_t>((size - 64) / static_cast<const Octets&>(call.Done()).size());
+  return Additions(call, Addition(4, 8), 8).OpenType(pdus);
+}
+
+Octets ResponseWith(const std::vector<Octets>& calls) {
   BitWriter message;
   message.Bit(false).Bits(22, 5).Bit(false).Bits(0b001, 3).Align().Bits(0, 16);
   EmptyEndpointType(message).Bits(0, 7).Align().Bits('E', 16);
-  IpAddress(message, 6, 1719).Length(0).Length(calls < 255 ? calls : 255);
-  Octets octets = message;
-  for (uint32_t i = 0; i < calls; ++i) Append(octets, call);
+  IpAddress(message, 6, 1719).Length(0).Length(static_cast<uint32_t>(calls.size()));
+  for (const Octets& call : calls) message.Octets(call);
+  return message;
+}
+
+constexpr uint32_t kMostPdus = 255;
+
+Octets CallOfEmptyPdus() {
+  BitWriter pdus;
+  pdus.Length(kMostPdus);
+  for (uint32_t i = 0; i < kMostPdus; ++i) pdus.Bits(0b00, 2).Bit(true).NormallySmall(1).OpenType({0}).Bit(false);
+  return CallWith(pdus);
+}
+
+// Conforming: calls whose PDUs are all empty, 255 to a call.
+Octets EmptyPdus(size_t size) {
+  const Octets call = CallOfEmptyPdus();
+  Octets octets = ResponseWith(std::vector<Octets>((size - 64) / call.size(), call));
   octets.resize(size);
   return octets;
+}
+
+// Empty PDUs that each carry 255 supplementary services of an octet.
+Octets CallOfServices(size_t count) {
+  BitWriter services;
+  services.Length(255);
+  for (int i = 0; i < 255; ++i) services.OpenType({1});
+  BitWriter pdus;
+  pdus.Length(static_cast<uint32_t>(count));
+  for (size_t i = 0; i < count; ++i) {
+    pdus.Bits(0b10, 2).Bit(true).NormallySmall(1).OpenType({0});
+    Additions(pdus, Addition(0, 9), 9).OpenType(services).Bit(false);
+  }
+  return CallWith(pdus);
+}
+
+// Conforming: calls of as many empty PDUs as a message may have blocks for, then supplementary services.
+Octets ServicesOfManyPdus(size_t size) {
+  constexpr size_t kCallsOfEmptyPdus = 13;
+  constexpr size_t kMostServicePdus = 24;  // what the open type of one call holds
+  std::vector<Octets> calls(kCallsOfEmptyPdus, CallOfEmptyPdus());
+  size_t left = size - 64 - kCallsOfEmptyPdus * calls[0].size();
+  for (int i = 0; i < 4; ++i) {
+    size_t pdus = kMostServicePdus;
+    while (pdus != 0 && CallOfServices(pdus).size() > left) --pdus;
+    if (pdus == 0) break;
+    calls.push_back(CallOfServices(pdus));
+    left -= calls.back().size();
+  }
+  Octets octets = ResponseWith(calls);
+  octets.push_back(0);
+  return octets;
+}
+
+// A PDU whose fast start holds the deepest channel.
+Octets DeepestPdu() {
+  BitWriter pdus;
+  pdus.Length(1);
+  PduOfSetupWith(pdus, kFastStart).OpenType(DeepestFastStart()).Bit(false);
+  return ResponseWith({CallWith(pdus)});
 }
 
 // --- Call signalling ---
@@ -254,18 +368,14 @@ Octets Packet(const Octets& information, size_t size) {
   return Q931Builder().UserUser(octets).Done();
 }
 
-// A Setup up to its additions, of which the one at `index` is there.
+// The user information of a Setup up to the latter's additions, of which the one at `index` is there.
 BitWriter SetupWith(uint32_t index) {
-  constexpr uint32_t kAdditions = 26;
   BitWriter information;
-  information.Bits(0, 2).Bits(0, 2).Bits(0, 4);  // neither user data nor nonStandardData; setup
-  information.Bit(true).Bits(0, 7).OpenType(ProtocolIdentifier(4));
-  EmptyEndpointType(information).Bit(true).Octets(Rising(0x60, 16)).Bits(0, 3).Bits(0, 3);
-  return Additions(information, Addition(index, kAdditions), kAdditions);
+  information.Bits(0b00, 2);  // no user data
+  return PduOfSetupWith(information, index);
 }
 
 constexpr uint32_t kTokens = 4;
-constexpr uint32_t kFastStart = 6;
 constexpr uint32_t kDesiredFeatures = 22;
 
 // Channels in open types of a few octets, each of which reads the video capabilities behind the last.
@@ -283,13 +393,18 @@ Octets RewoundFastStart(size_t size) {
   return Packet(Filled(information, {0x80, 0x02, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF}, size - 16), size);
 }
 
-// Lawful: as many smallest channels as one list holds.
+// Conforming: as many smallest channels as one list holds.
 Octets SmallestChannels(size_t size) {
   BitWriter information = SetupWith(kFastStart);
   BitWriter channels;
   channels.Length(255);
   for (uint16_t i = 1; i <= 255; ++i) channels.OpenType(NullChannel(i));
   return Packet(information.OpenType(channels), size);
+}
+
+Octets DeepestFastStartOfASetup() {
+  const Octets information = SetupWith(kFastStart).OpenType(DeepestFastStart());
+  return Packet(information, information.size() + 13);
 }
 
 Octets WideFeaturesOfASetup(size_t size) {
@@ -374,7 +489,9 @@ std::vector<Message> HostileMessages(size_t size) {
       {Family::kH245, "object identifiers past the end", ObjectIdentifiersPastTheEnd(size)},
       {Family::kH245, "long object identifiers", LongObjectIdentifiers(size)},
       {Family::kH245, "nested parameters", NestedParameters(size)},
+      {Family::kH245, "payload streams", PayloadStreams(size)},
       {Family::kH245, "capabilities 11 deep", CapabilitiesElevenDeep(size)},
+      {Family::kH245, "deepest channel", DeepestChannel()},
       {Family::kRas, "rewound endpoints", RewoundEndpoints(size)},
       {Family::kRas, "additions of no octet", SkippedAdditions(size, 0x00)},
       {Family::kRas, "additions of 100 octets", SkippedAdditions(size, 100)},
@@ -382,9 +499,12 @@ std::vector<Message> HostileMessages(size_t size) {
       {Family::kRas, "rewound tokens", RewoundTokens(size, 0x80)},
       {Family::kRas, "rewound tokens of zeros", RewoundTokens(size, 0x00)},
       {Family::kRas, "empty PDUs", EmptyPdus(size)},
+      {Family::kRas, "services of many PDUs", ServicesOfManyPdus(size)},
       {Family::kRas, "aliases that are read again", RegistrationOfAliases(size)},
+      {Family::kRas, "deepest channel in a PDU", DeepestPdu()},
       {Family::kQ931, "rewound fast start", RewoundFastStart(size)},
       {Family::kQ931, "smallest channels", SmallestChannels(size)},
+      {Family::kQ931, "deepest channel of a Setup", DeepestFastStartOfASetup()},
       {Family::kQ931, "wide features", WideFeaturesOfASetup(size)},
       {Family::kQ931, "rewound tokens of a Setup", RewoundSetupTokens(size)},
       {Family::kQ931, "elements in circles", CircularElements(size)},

@@ -9,7 +9,7 @@ import subprocess
 import sys
 import tempfile
 
-MOST = 20_000_000  # 10 ms at two instructions a nanosecond
+MOST = 30_000_000  # 15 ms at two instructions a nanosecond
 RATIO = 2.2
 # Half a millisecond, below which growth is not judged: bounds begin to hold there, and searches to go round.
 SMALLEST = 1_300_000
