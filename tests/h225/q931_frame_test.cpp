@@ -275,6 +275,24 @@ TEST(Q931FrameTest, SingleOctetElementsArePassedOverFromTheFirstIdentifierAndHow
   }
 }
 
+TEST(Q931FrameTest, APositionIsLeftByAFindOnly) {
+  const Octets octets = {8, 2, 0x12, 0x34, 5, 0x04, 3, 1, 2, 3, 0xA1, 0x08, 2, 0x80, 0x90};
+  const Q931Frame frame{octets.data(), static_cast<uint32_t>(octets.size()), static_cast<uint16_t>(octets.size())};
+  Q931Element element{77, 99};
+  EXPECT_EQ(FindQ931Element(&frame, 0x7E, &element), kQ931Rejected);
+  EXPECT_EQ(element.position, 77);
+  EXPECT_EQ(element.length, 2) << "that of the last element";
+  EXPECT_EQ(FindQ931Element(&frame, 0x04, &element), kQ931Decoded);
+  EXPECT_EQ(element.position, 5);
+  EXPECT_EQ(element.length, 3);
+
+  Q931Element untouched{77, 99};
+  const Q931Frame header{octets.data(), 5, 5};
+  EXPECT_EQ(FindQ931Element(&header, 0x04, &untouched), kQ931Rejected);
+  EXPECT_EQ(untouched.position, 77);
+  EXPECT_EQ(untouched.length, 99);
+}
+
 TEST(Q931FrameTest, AFrameWithoutOctetsHasNoElements) {
   const Q931Frame frame{nullptr, 0, 9};
   Q931Element element{};

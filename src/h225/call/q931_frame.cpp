@@ -169,11 +169,14 @@ int32_t FindQ931Element(const Q931Frame* frame, uint8_t identifier, Q931Element*
     return kQ931BadArgument;
   }
   ElementWalk walk(*frame);
-  uint8_t candidate = 0;
-  while (walk.Next(candidate, *element)) {
-    if (candidate == identifier) return kQ931Decoded;
-  }
-  return kQ931Rejected;
+  uint8_t seen = 0;
+  Q931Element candidate{0, element->length};
+  bool found = false;
+  while (!found && walk.Next(seen, candidate)) found = seen == identifier;
+  element->length = candidate.length;
+  if (!found) return kQ931Rejected;
+  element->position = candidate.position;
+  return kQ931Decoded;
 }
 
 int32_t DecodeQ931Frame(Q931MessageRecord* record, const uint8_t* buffer, int32_t length) {

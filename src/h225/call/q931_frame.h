@@ -29,7 +29,9 @@ struct Q931Element {
 
 // Finds the first information element `identifier` whose length and header do not exceed the frame's
 // whole length, and returns kQ931Decoded; kQ931Rejected when there is none. A null frame or
-// `element` yields kQ931BadArgument. Single-octet elements are passed over and never found.
+// `element` yields kQ931BadArgument. Single-octet elements are passed over and never found. `element->position` is
+// written on a find only, `element->length` is that of the last element looked at. DecodeQ931Frame does not use this:
+// it finds all elements in one pass.
 int32_t FindQ931Element(const Q931Frame* frame, uint8_t identifier, Q931Element* element);
 
 // Decodes the message behind the 4 octets of the TPKT header into a cleared record.
