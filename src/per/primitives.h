@@ -83,7 +83,8 @@ inline uint32_t PerReadNormallySmall(PerReader& reader) {
   return PerReadNormallySmallAtEdge(reader);
 }
 
-// Semi-constrained whole number (10.7) with lower bound 0, up to 32 bits.
+// Semi-constrained whole number (10.7) with lower bound 0, up to 32 bits. No decoder has one; the long form of a
+// normally small number is read without, because one that is too wide is not reported there.
 uint32_t PerReadUnsignedWithLength(PerReader& reader);
 // Unconstrained whole number (10.8), up to 32 bits.
 int32_t PerReadInteger(PerReader& reader);

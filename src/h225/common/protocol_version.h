@@ -14,14 +14,14 @@ inline constexpr int32_t kVersion4Mode = 2;
 inline constexpr int32_t kNoVersionMode = 3;  // no version was named
 
 // The version mode of the process: kNoVersionMode until a message has set it. It outlives messages and
-// may be read and written by any thread.
+// may be read and written by any thread. Decodes write it and never read it.
 int32_t ProtocolVersionMode();
 
 // Reads the protocolIdentifier of a call-signalling body. Versions 1 to 4 set the mode; any other
 // identifier leaves it alone.
 void ReadProtocolIdentifier(ObjectIdentifierValue& protocolIdentifier, PerReader& reader);
 
-// Reads the protocolIdentifier of a registration and tells the version mode it names, which becomes that
+// Reads the protocolIdentifier of a registration and reports the version mode it names, which becomes that
 // of the process too. A registration goes by its own mode, so that one decoded on another thread does not
 // matter. An identifier of no version from 1 to 4 is kUnsupportedVersion.
 Status ReadRegistrationProtocolIdentifier(ObjectIdentifierValue& protocolIdentifier, PerReader& reader, int32_t& mode);
