@@ -98,10 +98,10 @@ uint8_t* ReadNibbleString(PerReader& reader, uint32_t count, Map map) {
 }
 
 uint32_t PrintableCharacter(uint32_t index) {
-  if (index == 0 || index > 73 || (index >= 22 && index <= 40)) return ' ';
-  if (index >= 48) return index + 49;  // a to z
-  if (index >= 41) return index + 43;  // T to Z
-  return static_cast<uint8_t>(" '()+,-./0123456789:=?"[index < 22 ? index : 0]);
+  if (index < 22) return static_cast<uint8_t>(" '()+,-./0123456789:=?"[index]);
+  if (index >= 41 && index <= 47) return index + 43;  // T to Z
+  if (index >= 48 && index <= 73) return index + 49;  // a to z
+  return ' ';
 }
 
 // How many of `count` octets end a subidentifier. `inside` says how many can be read.
