@@ -1,6 +1,5 @@
 #include "h225/call/q931_frame.h"
 
-#include "codec/memory.h"
 #include "codec/trace.h"
 #include "h225/call/h323_user_information_decode.h"
 #include "h225/release.h"
@@ -26,7 +25,6 @@ enum Q931ElementIdentifier : uint8_t {
   kCallingPartySubaddress = 0x6D,
   kCalledPartyNumber = 0x70,
   kCalledPartySubaddress = 0x71,
-  kSendingComplete = 0xA1,
 };
 
 void Trace(int32_t severity, int32_t reason, int32_t line) {
@@ -79,9 +77,8 @@ class FirstElements {
     }
   }
 
-  const Q931Element* Find(uint8_t identifier) const {
-    return identifier < kIdentifiers && Holds(identifier) ? &elements_[identifier] : nullptr;
-  }
+  // `identifier` is that of an element with contents.
+  const Q931Element* Find(uint8_t identifier) const { return Holds(identifier) ? &elements_[identifier] : nullptr; }
 
  private:
   static constexpr uint32_t kIdentifiers = 128;  // from 0x80 on elements have a single octet
@@ -117,17 +114,14 @@ class ElementCopier {
     return static_cast<uint8_t>(count);
   }
 
-  void Mark(uint8_t identifier, Q931Presence bit) {
-    if (elements_.Find(identifier) != nullptr) record_.presenceMask |= bit;
-  }
-
  private:
   Q931MessageRecord& record_;
   const Q931Frame& frame_;
   const FirstElements& elements_;
 };
 
-// A record keeps neither the type-of-number octet of a number nor the type of a subaddress.
+// A record keeps neither the type-of-number octet of a number nor the type of a subaddress, and nothing of a
+// redirecting number. A sending complete has a single octet, and none of those is found.
 void CopyElements(Q931MessageRecord& m, const Q931Frame& frame, const FirstElements& elements) {
   ElementCopier copy(m, frame, elements);
   copy.Octets(kCallingPartyNumber, 1, m.callingPartyNumber, 32, kCallingPartyNumberPresent);
@@ -145,7 +139,6 @@ void CopyElements(Q931MessageRecord& m, const Q931Frame& frame, const FirstEleme
       copy.Octets(kCalledPartySubaddress, 1, m.calledPartySubaddress, 23, kCalledPartySubaddressPresent);
   m.callingPartySubaddressLength =
       copy.Octets(kCallingPartySubaddress, 1, m.callingPartySubaddress, 23, kCallingPartySubaddressPresent);
-  copy.Mark(kSendingComplete, kSendingCompletePresent);
 }
 
 // Decodes the contents of the user-user element behind their protocol discriminator. The reader's
