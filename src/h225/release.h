@@ -2,10 +2,10 @@
 // releasing a record again does nothing, and a null record is reported to the hook and ignored.
 #pragma once
 
-#include "h225/call/q931_message.h"
-#include "h225/ras/ras_message.h"
-
 namespace kelvra::h225 {
+
+struct RasMessageRecord;
+struct H323UserInformation;
 
 void ReleaseRasMessage(RasMessageRecord* record);
 void ReleaseH323UserInformation(H323UserInformation* record);
