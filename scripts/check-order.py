@@ -42,6 +42,7 @@ WITHOUT_EXTENSION_BIT = {"ScreeningIndicator"}
 ALL_SKIPPED = {"OpenLogicalChannel::ForwardLogicalChannelParameters::MultiplexParameters",
                "H2250LogicalChannelParameters::MediaPacketization"}
 ASKS_WITHIN_ANOTHER = {"RegistrationConfirm::PreGrantedARQ"}
+ASKED_BEFORE = {"PrivateMessage"}  # decoded only where its data has an octet
 BOOKKEEPING = {"isExtended", "isExtension", "choiceTag", "userDataExtension"}
 
 
@@ -105,7 +106,7 @@ def lacking(name, status, record, body, members, extensions):
         yield f"knows {known and known[1]} extension alternatives, its walk {extensions}"
     if status == "Status" and whole:
         asks = body.startswith("  if (PerAtEnd(r)) return kExhausted;\n")
-        if asks != ("::" not in record or record in ASKS_WITHIN_ANOTHER):
+        if asks != ("::" not in record and record not in ASKED_BEFORE or record in ASKS_WITHIN_ANOTHER):
             yield "asks on entry" if asks else "does not ask on entry"
 
 

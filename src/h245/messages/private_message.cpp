@@ -18,7 +18,6 @@ Status DecodePayload(OctetStringValue& m, PerReader& r) {
 }  // namespace
 
 Status DecodePrivateMessage(PrivateMessage& m, PerReader& r) {
-  if (PerAtEnd(r)) return kExhausted;
   PerFlags flags = PerReadFlags(r, 2);
   m.isExtended = flags.Next();
   m.hasPayload = flags.Next();
