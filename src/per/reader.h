@@ -4,7 +4,6 @@
 // through one function that is not, and which alone decides what happens there.
 #pragma once
 
-#include <stddef.h>
 #include <stdint.h>
 
 namespace kelvra {

@@ -4,8 +4,6 @@
 
 #include <stdint.h>
 
-#include "values.h"
-
 namespace kelvra {
 
 // The place of a pointer inside a packed record.
