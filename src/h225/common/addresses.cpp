@@ -166,6 +166,7 @@ Status DecodeGSMUIM(GSMUIM& m, PerReader& r) {
   m.hasHplmn = flags.Next();
   m.hasVplmn = flags.Next();
   if (m.hasImsi) PerReadSizedTBCDString(m.imsi, r, 3, 16);
+  // An OCTET STRING, read as digits like the others.
   if (m.hasTmsi) PerReadSizedTBCDString(m.tmsi, r, 1, 4);
   if (m.hasMsisdn) PerReadSizedTBCDString(m.msisdn, r, 3, 16);
   if (m.hasImei) PerReadSizedTBCDString(m.imei, r, 15, 16);

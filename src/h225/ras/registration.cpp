@@ -17,6 +17,7 @@
 namespace kelvra::h225 {
 namespace {
 
+// Asks on entry, as no other SEQUENCE written inside another does.
 Status DecodePreGrantedARQ(RegistrationConfirm::PreGrantedARQ& m, PerReader& r, int32_t mode) {
   if (PerAtEnd(r)) return kExhausted;
   PerFlags flags = PerReadFlags(r, 5);

@@ -74,6 +74,7 @@ void DecodeMediaChannelCapability(MediaChannelCapability& m, PerReader& r) {
 
 void DecodeTerminalLabel(TerminalLabel& m, PerReader& r) {
   m.isExtended = PerReadBit(r);
+  // INTEGER (0..192) has 193 values, which take 8 bits like 192.
   m.mcuNumber = static_cast<uint8_t>(PerReadConstrainedWholeNumber(r, 192));
   m.terminalNumber = static_cast<uint8_t>(PerReadConstrainedWholeNumber(r, 192));
   if (m.isExtended) PerSkipExtensionAdditions(r);

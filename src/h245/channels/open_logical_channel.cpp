@@ -15,6 +15,7 @@ void DecodeMultiplexParameters(OpenLogicalChannel::ForwardLogicalChannelParamete
   if (m.isExtension) {
     switch (index) {
       case 0: return DecodeOpen(m.h2250LogicalChannelParameters, r, DecodeH2250LogicalChannelParameters);
+      // `none` too, which takes no slot of the ring, unlike other NULLs that are known.
       default: return PerSkipOpenTypes(r, 1);
     }
   }
