@@ -1,7 +1,7 @@
 // What is measured: a decode and its release, and the floor below which neither can go.
 #pragma once
 
-#include "api/kelvra.h"
+#include "kelvra/kelvra.h"
 #include "workload.h"
 
 namespace kelvra::bench {

@@ -6,8 +6,8 @@
 #include <algorithm>
 #include <memory>
 
-#include "api/kelvra.h"
 #include "h225/call/q931_frame.h"
+#include "kelvra/kelvra.h"
 #include "record_reader.h"
 
 namespace kelvra::fuzz {

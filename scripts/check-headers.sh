@@ -1,57 +1,106 @@
 #!/usr/bin/env bash
-# Checks that each public header compiles alone, whichever compiler its user has.
+# Checks that the public headers suit whichever compiler their user has: scripts/check-headers.sh INCLUDE_ROOT
 #
-#   scripts/check-headers.sh INCLUDE_ROOT "COMPILER FLAGS" HEADER...
-#   scripts/check-headers.sh INCLUDE_ROOT clang HEADER...
-#
-# The latter is Clang as it is and as the Windows compiler for x86 and x64. For Windows there is no C
-# library here, so the headers may include only what a compiler itself provides. No include directory
-# is given: the headers find each other.
+# - Each header compiles alone, with Clang as it is and as the Windows compiler for x86 and x64. For Windows there is
+#   no C library here: scripts/freestanding/ stands in for it. (With the target's own compiler CMake compiles each
+#   header, by VERIFY_INTERFACE_HEADER_SETS.)
+# - They use standard C++ only, but for what they use under a condition on the compiler. Clang itself takes many words
+#   that the Windows compiler does not, also when it compiles for Windows.
+# - After kelvra/kelvra.h no macro is left defined but those that it documents.
 set -euo pipefail
+export LC_ALL=C
 
-root=$1
-compiler=$2
-shift 2
-
-warnings=(-Wall -Wextra -Wconversion -Wshadow -Wpedantic -Werror)
-checks=0
+root=$(realpath "$1")
+stand_in=$(realpath "$(dirname "${BASH_SOURCE[0]}")")/freestanding
+cd /  # elsewhere Clang would name the headers relative to where it runs
+documented_macros=(KELVRA_API KELVRA_CALL)
 failures=0
 
-# check HEADER COMMAND... : compiles a file that includes nothing but HEADER,
-# twice, for a missing include guard to show.
-check() {
-  local header=$1
-  shift
-  checks=$((checks + 1))
-  if ! printf '#include "%s"\n#include "%s"\n' "$root/$header" "$root/$header" |
-    "$@" -std=c++20 "${warnings[@]}" -fsyntax-only -x c++ -; then
-    failures=$((failures + 1))
-    printf 'headers: %s fails with: %s\n' "$header" "$*" >&2
-  fi
+fail() {
+  failures=$((failures + 1))
+  printf 'headers: %s\n' "$*" >&2
 }
 
-[[ $# -gt 0 ]] || {
+command -v clang++ >/dev/null || {
+  echo "headers: no clang++; scripts/setup.sh test installs it" >&2
+  exit 1
+}
+mapfile -t headers < <(cd "$root" && find . -name '*.h' -printf '%P\n' | sort)
+[[ ${#headers[@]} -gt 0 ]] || {
   echo "headers: no public header found" >&2
   exit 1
 }
 
-if [[ $compiler == clang ]] && ! command -v clang++ >/dev/null; then
-  echo "headers: no clang++; scripts/setup.sh test installs it" >&2
-  exit 1
-fi
+# clang_for TARGET ARGUMENT... : Clang as it is, as the Windows compiler, or as a compiler that nothing is known of.
+clang_for() {
+  local target=$1 options=()
+  shift
+  case $target in
+    native) ;;
+    unknown) options=(-ffreestanding -nostdlibinc -isystem "$stand_in" -U__GNUC__ -U__clang__) ;;
+    *) options=("--target=$target" -fms-extensions -fms-compatibility -ffreestanding -isystem "$stand_in") ;;
+  esac
+  clang++ "${options[@]}" -std=c++20 -I "$root" -x c++ "$@" -
+}
+windows=(i686-pc-windows-msvc x86_64-pc-windows-msvc)
 
-for header in "$@"; do
-  if [[ $compiler != clang ]]; then
-    read -r -a command <<<"$compiler"
-    check "$header" "${command[@]}"
-    continue
-  fi
-  check "$header" clang++
-  for arch in i686 x86_64; do
-    check "$header" clang++ "--target=$arch-pc-windows-msvc" \
-      -fms-extensions -fms-compatibility -ffreestanding
+include() { printf '#include "%s"\n' "$@"; }
+
+# --- Each header alone, and twice, for a missing include guard to show ---
+
+warnings=(-Wall -Wextra -Wconversion -Wshadow -Wpedantic -Werror)
+compilations=0
+for header in "${headers[@]}"; do
+  for target in native "${windows[@]}"; do
+    compilations=$((compilations + 1))
+    include "$header" "$header" | clang_for "$target" "${warnings[@]}" -fsyntax-only ||
+      fail "$header does not compile alone for $target"
   done
 done
 
-printf 'headers: %d of them, %d compilations, %d failed\n' "$#" "$checks" "$failures"
+# --- Words of one compiler ---
+
+# Prints FILE:LINE:TEXT of all lines of the public headers that a compiler of this target sees, without comments.
+lines_seen_by() {
+  include "${headers[@]}" | clang_for "$1" -E -dD | awk -v root="$root/" '
+    /^# [0-9]+ "/ {
+      line = $2
+      file = $0
+      sub(/^# [0-9]+ "/, "", file)
+      sub(/".*/, "", file)
+      while (sub(/[^\/]+\/\.\.\//, "", file)) {}
+      next
+    }
+    index(file, root) == 1 { print substr(file, length(root) + 1) ":" line ":" $0 }
+    { line++ }'
+}
+
+# Names that begin with two underscores, or with one and a capital, are a compiler's own, but for a few of the standard.
+word='(^|[^[:alnum:]_])'
+standard="__VA_ARGS__|__cplusplus"
+of_windows="__forceinline|__cdecl"
+lines=0
+for target in unknown "${windows[@]}"; do
+  seen=$(lines_seen_by "$target")
+  files=$(cut -d: -f1 <<<"$seen" | sort -u | grep -c .) || true
+  [[ $files -eq ${#headers[@]} ]] || fail "$files of ${#headers[@]} headers were searched as seen by $target"
+  lines=$((lines + $(wc -l <<<"$seen")))
+  allowed=$standard
+  [[ $target == unknown ]] || allowed+="|$of_windows"
+  found=$(sed -E "s/$word($allowed)\b/\1/g" <<<"$seen" |
+    grep -E "$word(__[[:alnum:]]|_[[:upper:]]|asm\b)|\[\[ *(gnu|clang|msvc) *::" | sort -u) || true
+  [[ -z $found ]] || fail "not standard C++, as seen by $target:"$'\n'"$found"
+done
+
+# --- Macros that are left ---
+
+macros_after() { include "$@" | clang_for "$target" -E -dM | awk '{ sub(/\(.*/, "", $2); print $2 }' | sort; }
+for target in native "${windows[@]}"; do
+  left=$(comm -13 <(macros_after stdint.h string.h) <(macros_after stdint.h string.h kelvra/kelvra.h))
+  [[ $left == "$(printf '%s\n' "${documented_macros[@]}")" ]] ||
+    fail "kelvra/kelvra.h leaves other macros than ${documented_macros[*]} for $target:"$'\n'"$left"
+done
+
+printf 'headers: %d of them, %d compilations, %d lines searched, %d macros left, %d failures\n' \
+  "${#headers[@]}" "$compilations" "$lines" "$(wc -l <<<"$left")" "$failures"
 [[ $failures -eq 0 ]]

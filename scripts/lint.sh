@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Runs clang-tidy over src/ and tools/; any finding fails.
+# Runs clang-tidy over src/, tools/ and the headers in include/; any finding fails.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 

@@ -4,8 +4,10 @@
   scripts/records.py write     writes docs/records.md
   scripts/records.py check     fails, with the difference, when docs/records.md is not what it would write
   scripts/records.py asserts   prints C++ that asserts what docs/records.md says, for any 32-bit compiler
+  scripts/records.py list      prints C++ that lists the records of docs/records.md, for any compiler
 
-Clang tells the records and their members, and as the compiler for Windows x86 their places.
+Clang tells the records and their members, and as the compiler for Windows x86 their places. scripts/freestanding/
+stands in for the C library of Windows, which need not be on this machine.
 """
 import difflib
 import json
@@ -19,7 +21,7 @@ from dataclasses import dataclass, field
 TOP = pathlib.Path(__file__).resolve().parent.parent
 TABLE = TOP / "docs" / "records.md"
 CLANG = ["clang++", "--target=i686-pc-windows-msvc", "-fms-extensions", "-fms-compatibility", "-ffreestanding",
-         "-std=c++20", f"-I{TOP / 'src'}", "-x", "c++"]
+         "-std=c++20", "-I", TOP / "include", "-isystem", TOP / "scripts" / "freestanding", "-x", "c++"]
 FAMILIES = {"": "Strings, object identifiers and CHOICEs of NULLs", "h225": "H.225.0 and Q.931", "h235": "H.235",
             "h245": "H.245"}
 # Instances of a template, by the names that they have elsewhere.
@@ -96,15 +98,16 @@ class Headers:
             elif kind == "ClassTemplateDecl":
                 for instance in child["inner"]:
                     if instance["kind"] == "ClassTemplateSpecializationDecl":
-                        self.keep(instance, "::".join(scope[1:] + [name]), template_arguments(instance))
+                        self.keep(instance, "::".join(scope[1:] + [name]))
             elif kind == "CXXRecordDecl" and child.get("completeDefinition") and name:
                 self.keep(child, "::".join(scope[1:] + [name]))
                 self.scan(child, scope + [name])
 
-    def keep(self, node, name, arguments=""):
+    def keep(self, node, name):
         packed = any(child["kind"] == "MaxFieldAlignmentAttr" for child in node.get("inner", []))
         members = self.members(node, family_of(name)) if packed else []
         if members:
+            arguments = template_arguments(node)
             self.records.append(Record(name + arguments, members, name if arguments else ""))
 
     def members(self, node, family):
@@ -122,11 +125,11 @@ class Headers:
 def template_arguments(node):
     arguments = [child for child in node["inner"] if child["kind"] == "TemplateArgument"]
     texts = [child["type"]["qualType"] if "type" in child else str(child["value"]) for child in arguments]
-    return f"<{', '.join(texts)}>".replace("kelvra::", "")
+    return f"<{', '.join(texts)}>".replace("kelvra::", "") if texts else ""
 
 
 def clang(arguments, source):
-    source = '#include "api/kelvra.h"\n' + source
+    source = '#include "kelvra/kelvra.h"\n' + source
     if shutil.which(CLANG[0]) is None:
         sys.exit(f"records: no {CLANG[0]}; scripts/setup.sh test installs it")
     run = subprocess.run(CLANG + arguments + ["-o", "-", "-"], input=source, stdout=subprocess.PIPE, text=True)
@@ -201,19 +204,34 @@ def table():
     return "\n\n".join(blocks) + "\n"
 
 
-def asserts(text):
-    """C++ from the table alone, so that it holds for compilers which cannot tell layouts."""
-    lines = ["#include <stddef.h>", '#include "api/kelvra.h"', "namespace kelvra {"]
+def records_of(text):
+    """Name, width and rows (offset, width, mark of an alternative, name) of each record in the table."""
     for section in text.split("\n### ")[1:]:
         name, width = re.match(r"`(.+?)`: (\d+) octets", section).groups()
         instances = re.search(INSTANCES + r"\n(.*?)\.\n", section, re.DOTALL)
-        members = re.findall(r"^\| (\d+) \| (\d+) \| [· ]*`(\w+)`", section, re.MULTILINE)
+        members = re.findall(r"^\| (\d+) \| (\d+) \| ([· ]*)`(\w+)`", section, re.MULTILINE)
         for record in re.findall(r"`(.+?)`", instances.group(1)) if instances else [name]:
-            lines.append(f"static_assert(sizeof({record}) == {width});")
-            for offset, octets, member in members:
-                lines.append(f"static_assert(offsetof({record}, {member}) == {offset});")
-                lines.append(f"static_assert(sizeof({record}::{member}) == {octets});")
+            yield record, width, members
+
+
+def asserts(text):
+    """C++ from the table alone, so that it holds for compilers which cannot tell layouts."""
+    lines = ["#include <stddef.h>", '#include "kelvra/kelvra.h"', "namespace kelvra {"]
+    for record, width, members in records_of(text):
+        lines.append(f"static_assert(sizeof({record}) == {width});")
+        for offset, octets, _, member in members:
+            lines.append(f"static_assert(offsetof({record}, {member}) == {offset});")
+            lines.append(f"static_assert(sizeof({record}::{member}) == {octets});")
     return "\n".join(lines + ["}  // namespace kelvra"]) + "\n"
+
+
+def listing(text):
+    """C++ that calls LIST_RECORD(record, alternatives...) for each record, with the names of what is in its union."""
+    lines = ["// Made by scripts/records.py from docs/records.md."]
+    for record, _, members in records_of(text):
+        alternatives = ", ".join(f'"{member}"' for _, _, mark, member in members if mark)
+        lines.append(f"LIST_RECORD({', '.join(filter(None, [record, alternatives]))})")
+    return "\n".join(lines) + "\n"
 
 
 def check():
@@ -234,6 +252,8 @@ def main():
         return check()
     elif sys.argv[1:] == ["asserts"]:
         sys.stdout.write(asserts(TABLE.read_text(encoding="utf-8")))
+    elif sys.argv[1:] == ["list"]:
+        sys.stdout.write(listing(TABLE.read_text(encoding="utf-8")))
     else:
         print(__doc__, file=sys.stderr)
         return 2

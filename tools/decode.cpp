@@ -2,9 +2,9 @@
 
 #include <limits>
 
-#include "api/kelvra.h"
 #include "hex.h"
 #include "json_path.h"
+#include "kelvra/kelvra.h"
 #include "record_json.h"
 
 namespace {

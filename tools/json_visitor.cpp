@@ -33,7 +33,7 @@ void JsonVisitor::Boolean(const char* name, uint32_t value) {
 }
 
 void JsonVisitor::EnumeratedValue(uint32_t value, const char* identifier) {
-  Begin(kelvra::kUnnamed);
+  Begin("");
   if (identifier != nullptr) {
     AppendString(identifier);
   } else {
@@ -61,13 +61,13 @@ void JsonVisitor::ObjectIdentifier(const char* name, const kelvra::ObjectIdentif
   text_ += '"';
 }
 
-void JsonVisitor::Characters16(const char* name, const kelvra::BMPStringValue& value) {
+void JsonVisitor::WideCharacters(const char* name, const kelvra::BMPStringValue& value) {
   const uint16_t* units = value.data;
   Begin(name);
   AppendString(FromUtf16({units, units != nullptr ? value.length : 0}));
 }
 
-void JsonVisitor::Embedded(const char* name, const uint8_t* octets, uint32_t count, OctetNotation notation) {
+void JsonVisitor::EmbeddedOctets(const char* name, const uint8_t* octets, uint32_t count, OctetNotation notation) {
   Begin(name);
   if (octets == nullptr) count = 0;
   switch (notation) {

@@ -7,8 +7,8 @@
 #include <string_view>
 #include <vector>
 
-#include "record/values.h"
-#include "record/walk.h"
+#include "kelvra/values.h"
+#include "kelvra/walk.h"
 
 class JsonVisitor {
  public:
@@ -23,12 +23,12 @@ class JsonVisitor {
   void UnknownExtension(uint32_t index);
   void UnknownRoot(uint32_t index);
   void ObjectIdentifier(const char* name, const kelvra::ObjectIdentifierValue& value);
-  void Characters16(const char* name, const kelvra::BMPStringValue& value);
+  void WideCharacters(const char* name, const kelvra::BMPStringValue& value);
   void Octets(const char* name, kelvra::Slot<uint8_t> slot, uint32_t count, kelvra::OctetNotation notation) {
-    Embedded(name, slot.Get(), count, notation);
+    EmbeddedOctets(name, slot.Get(), count, notation);
   }
   // Octets that are missing count as none.
-  void Embedded(const char* name, const uint8_t* octets, uint32_t count, kelvra::OctetNotation notation);
+  void EmbeddedOctets(const char* name, const uint8_t* octets, uint32_t count, kelvra::OctetNotation notation);
 
   template <class R>
   void Record(const char* name, R& record) {
@@ -43,34 +43,10 @@ class JsonVisitor {
     Record(name, *record);
   }
 
-  template <class L>
-  void List(const char* name, L list) {
+  template <class L, class Show>
+  void List(const char* name, L list, Show show) {
     OpenArray(name);
-    for (auto& element : list) Record(kElement, element);
-    Close();
-  }
-  template <class L>
-  void OctetStrings(const char* name, L list, kelvra::OctetNotation notation) {
-    OpenArray(name);
-    for (auto& element : list) Embedded(kElement, element.data, element.length, notation);
-    Close();
-  }
-  template <class L>
-  void FixedOctetStrings(const char* name, L list, uint32_t size) {
-    OpenArray(name);
-    for (auto& element : list) Embedded(kElement, element.data, size, kelvra::OctetNotation::kOctets);
-    Close();
-  }
-  template <class L>
-  void ObjectIdentifiers(const char* name, L list) {
-    OpenArray(name);
-    for (auto& element : list) ObjectIdentifier(kElement, element);
-    Close();
-  }
-  template <class L>
-  void Numbers(const char* name, L list) {
-    OpenArray(name);
-    for (const auto element : list) Number(kElement, element);
+    for (auto& element : list) show(element);
     Close();
   }
 

@@ -3,8 +3,8 @@
 
 #include <string>
 
-#include "api/kelvra.h"
 #include "json.h"
+#include "kelvra/kelvra.h"
 
 struct RecordText {
   std::string json;

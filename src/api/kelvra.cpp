@@ -1,20 +1,32 @@
 // The six exports: what each checks, clears, sets up and makes of the decode.
-#include "api/kelvra.h"
+#include "kelvra/kelvra.h"
 
-#include "codec/memory.h"
+#include <string.h>
+
 #include "h225/call/q931_frame.h"
-#include "h225/ras/ras_message_decode.h"
 #include "h225/release.h"
-#include "h245/messages/h245_message_decode.h"
 #include "h245/release.h"
+#include "per/decoder.h"
 
-using kelvra::CodecFill;
 using kelvra::PerReader;
 using kelvra::h225::Q931MessageRecord;
 using kelvra::h225::RasMessageRecord;
 using kelvra::h245::H245MessageRecord;
 
 namespace {
+
+// By calls for a piece at a time, which the C library does with its widest stores; the compiler would clear the
+// record one word after the other.
+template <class Record>
+void ClearRecord(Record* record) {
+  constexpr size_t kPiece = 2048;
+  auto* octets = reinterpret_cast<uint8_t*>(record);
+  for (size_t done = 0; done < sizeof *record; done += kPiece) {
+    size_t size = sizeof *record - done < kPiece ? sizeof *record - done : kPiece;
+    __asm__("" : "+r"(size));
+    memset(octets + done, 0, size);
+  }
+}
 
 // RAS and H.245 keep the low 16 bits of a length.
 PerReader ReaderOver(const uint8_t* buffer, uint32_t length) {
@@ -29,9 +41,9 @@ extern "C" {
 
 intptr_t KELVRA_CALL KelvraDecodeRASMessage(RasMessageRecord* record, const uint8_t* buffer, uint32_t length) {
   if (record == nullptr || buffer == nullptr) return 0;
-  CodecFill(record, 0, sizeof *record);
+  ClearRecord(record);
   PerReader reader = ReaderOver(buffer, length);
-  const kelvra::Status status = kelvra::h225::DecodeRasMessage(*record, reader);
+  const kelvra::Status status = kelvra::Decode(*record, reader);
   if (status != kelvra::kDecoded || reader.position == reader.end) {
     kelvra::h225::ReleaseRasMessage(record);
     return 0;
@@ -44,7 +56,7 @@ void KELVRA_CALL KelvraFreeRASMessage(RasMessageRecord* record) { kelvra::h225::
 
 int32_t KELVRA_CALL KelvraDecodeQ931Message(Q931MessageRecord* record, const uint8_t* buffer, int32_t length) {
   if (record == nullptr || buffer == nullptr) return kelvra::h225::kQ931Rejected;
-  CodecFill(record, 0, sizeof *record);
+  ClearRecord(record);
   return kelvra::h225::DecodeQ931Frame(record, buffer, length);
 }
 
@@ -54,9 +66,9 @@ void KELVRA_CALL KelvraFreeQ931Message(Q931MessageRecord* record) {
 
 int32_t KELVRA_CALL KelvraDecodeH245Message(H245MessageRecord* record, const uint8_t* buffer, uint32_t length) {
   if (record == nullptr || buffer == nullptr) return -1;
-  CodecFill(record, 0, sizeof *record);
+  ClearRecord(record);
   PerReader reader = ReaderOver(buffer, length);
-  kelvra::h245::DecodeMultimediaSystemControlMessage(*record, reader);
+  static_cast<void>(kelvra::Decode(*record, reader));
   kelvra::PerAlign(reader);
   return reader.position == reader.end ? 1 : 0;
 }

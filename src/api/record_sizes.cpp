@@ -1,6 +1,6 @@
 // The sizes that a caller of the 32-bit library allocates. docs/records.md tells the layout of all records.
 
-#include "api/kelvra.h"
+#include "kelvra/kelvra.h"
 
 namespace kelvra {
 namespace {

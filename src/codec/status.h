@@ -20,9 +20,3 @@ enum [[nodiscard]] Status : uint8_t{
   do {                                                                                               \
     if (const ::kelvra::Status status_ = (component); status_ != ::kelvra::kDecoded) return status_; \
   } while (false)
-
-// The same in a decoder that returns nothing.
-#define KELVRA_OR_STOP(component)                  \
-  do {                                             \
-    if ((component) != ::kelvra::kDecoded) return; \
-  } while (false)

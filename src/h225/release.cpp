@@ -1,7 +1,7 @@
 #include "h225/release.h"
 
-#include "h225/call/h323_user_information.h"
-#include "h225/ras/ras_message.h"
+#include "kelvra/h225/call/h323_user_information.h"
+#include "kelvra/h225/ras/ras_message.h"
 #include "record/release.h"
 
 namespace kelvra::h225 {

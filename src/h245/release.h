@@ -1,7 +1,7 @@
 // Giving back the blocks of H.245 records, by the same rule as those of H.225.0.
 #pragma once
 
-#include "h245/messages/h245_message.h"
+#include "kelvra/h245/messages/h245_message.h"
 
 namespace kelvra::h245 {
 

@@ -21,15 +21,9 @@ int32_t PerCountUnknownAdditions(PerReader& reader, int32_t additions) {
   return count;
 }
 
-void PerNoteUnknownAdditions(PerReader& reader, int32_t additions) {
-  reader.extensionPresentCount = PerCountUnknownAdditions(reader, additions);
-}
-
-void PerSkipUnknownAdditions(PerReader& reader) { PerSkipOpenTypes(reader, reader.extensionPresentCount); }
-
 void PerSkipExtensionAdditions(PerReader& reader) {
-  PerNoteUnknownAdditions(reader, PerReadBitmapLength(reader));
-  PerSkipUnknownAdditions(reader);
+  reader.extensionPresentCount = PerCountUnknownAdditions(reader, PerReadBitmapLength(reader));
+  PerSkipOpenTypes(reader, reader.extensionPresentCount);
 }
 
 }  // namespace kelvra

@@ -39,36 +39,13 @@ inline void PerPassOverOpenType(PerReader& reader) {
   OpenTypeEnd(reader);
 }
 
-// Passes over the extension alternative `index` of a CHOICE that knows the first `known`, some of which hold
-// nothing.
-inline void PerPassOverAlternative(PerReader& reader, uint32_t index, uint32_t known) {
-  if (index < known) return PerPassOverOpenType(reader);
-  PerSkipOpenTypes(reader, 1);
-}
+// --- The additions of a SEQUENCE ---
 
-// A BOOLEAN in its open type.
-inline uint32_t PerReadOpenBoolean(PerReader& reader) {
-  OpenTypeBegin(reader);
-  const uint32_t value = PerReadBit(reader);
-  OpenTypeEnd(reader);
-  return value;
-}
-
-// The additions of a SEQUENCE, of which a decoder knows the first few:
-//
-//   int32_t additions = PerReadBitmapLength(r);
-//   PerFlags known = PerReadKnownAdditions(r, additions, 2);
-//   m.hasLanguage = known.Next();                  a line for each known addition, in order
-//   m.hasNonStandard = known.Next();
-//   PerNoteUnknownAdditions(r, additions);
-//   if (m.hasLanguage) ...                         likewise, each in its open type
-//   PerSkipUnknownAdditions(r);
-
-// How many presence bits the bitmap holds, 1 or more in a lawful message.
+// How many presence bits the bitmap holds, 1 or more in a conforming message.
 inline int32_t PerReadBitmapLength(PerReader& reader) { return static_cast<int32_t>(PerReadNormallySmall(reader) + 1); }
 
 // The presence bits of the next `known` additions, 1 to 32, absent where the bitmap holds no more. `additions`
-// counts down the bits that are left: what is left behind the known ones is by construction unknown.
+// counts down the bits that are left: what is left after the known ones is by construction unknown.
 [[gnu::always_inline]] inline PerFlags PerReadKnownAdditions(PerReader& reader, int32_t& additions, int32_t known) {
   const int32_t count = additions < known ? additions : known;
   if (count <= 0) return PerFlags(0);
@@ -76,21 +53,10 @@ inline int32_t PerReadBitmapLength(PerReader& reader) { return static_cast<int32
   return PerReadFlags(reader, static_cast<uint32_t>(count), static_cast<uint32_t>(known));
 }
 
-// The same of one.
-inline uint32_t PerReadAdditionBit(PerReader& reader, int32_t& additions) {
-  if (additions <= 0) return 0;
-  --additions;
-  return PerReadBit(reader);
-}
-
 // Reads the bits that are left and returns how many of them are set.
 int32_t PerCountUnknownAdditions(PerReader& reader, int32_t additions);
-// The same, kept in the counter that all SEQUENCEs of the message share.
-void PerNoteUnknownAdditions(PerReader& reader, int32_t additions);
-// Passes over as many open types as the shared counter says. A SEQUENCE with additions that was decoded
-// since has overwritten it, and must: peers are read by the count that was written last.
-void PerSkipUnknownAdditions(PerReader& reader);
-// The additions of a SEQUENCE of which none is known.
+// The additions of a SEQUENCE of which none is known. How many there are is kept in the counter that all SEQUENCEs of
+// an H.225.0 message share.
 void PerSkipExtensionAdditions(PerReader& reader);
 
 // Counts a level of a recursive type while it lives.

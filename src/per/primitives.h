@@ -10,8 +10,8 @@
 #include <stdint.h>
 
 #include "codec/memory.h"
+#include "kelvra/values.h"
 #include "per/reader.h"
-#include "record/values.h"
 
 namespace kelvra {
 

@@ -44,6 +44,8 @@ using BitOffset = unsigned long;
 // There is no error flag: a read that fails moves `position` to `end`, and from then on every read
 // yields 0. An open type's length can carry `position` beyond `end`, which counts as exhausted.
 struct PerReader {
+  static constexpr bool kObserves = false;
+
   const uint8_t* position;  // the octet that holds the next unread bit
   BitOffset bitOffset;      // bits of that octet already consumed, 0 to 7
   const uint8_t* end;
@@ -56,6 +58,7 @@ struct PerReader {
   // State that belongs to the decoding of this one message.
   OpenTypeRing openTypes;
   int32_t extensionPresentCount;  // unknown additions to skip, as the last bitmap left it
+  int32_t senderVersion;          // the version that the message names, where it decides which additions follow
   uint32_t depth;                 // recursive types entered
   uint32_t allowance;             // octets that blocks may still claim
   uint32_t reread;                // octets read or looked at a second time so far
@@ -198,6 +201,8 @@ class PerFlags {
     bits_ <<= 1;
     return flag;
   }
+  // How many of those that were not handed out are set.
+  int32_t CountLeft() const { return __builtin_popcount(bits_); }
 
  private:
   uint32_t bits_;

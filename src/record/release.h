@@ -1,36 +1,24 @@
-// The rule by which a record's blocks are given back, as a visitor of its walk: present members only,
-// children before the block that holds them, every pointer left null and everything else left as it is.
+// The rule by which a record's blocks are given back, as a visitor of its walk: present members only, children before
+// the block that holds them, every pointer left null and everything else left as it is.
 #pragma once
 
 #include "codec/memory.h"
 #include "codec/trace.h"
-#include "record/walk.h"
+#include "kelvra/walk.h"
 
 namespace kelvra {
 
-class ReleaseVisitor {
+class ReleaseVisitor : public EmptyVisitor {
  public:
   // `sourcePath` goes along with every release, for diagnosis.
   explicit ReleaseVisitor(const char* sourcePath) : sourcePath_(sourcePath) {}
 
-  void Number(const char*, int64_t) {}
-  void Boolean(const char*, uint32_t) {}
-  void EnumeratedValue(uint32_t, const char*) {}
-  void Null(const char*) {}
-  void Embedded(const char*, const uint8_t*, uint32_t, OctetNotation) {}
   void UnknownExtension(uint32_t) { TraceUnknownTag(__LINE__); }
   void UnknownRoot(uint32_t) { TraceUnknownTag(__LINE__); }
 
-  template <class Value>
-  void ObjectIdentifier(const char*, Value& value) {
-    Free(&value.arcs, __LINE__);
-  }
-  template <class Value>
-  void Characters16(const char*, Value& value) {
-    Free(&value.data, __LINE__);
-  }
+  void ObjectIdentifier(const char*, ObjectIdentifierValue& value) { Free(&value.arcs, __LINE__); }
+  void WideCharacters(const char*, BMPStringValue& value) { Free(&value.data, __LINE__); }
   void Octets(const char*, Slot<uint8_t> slot, uint32_t, OctetNotation) { Free(slot.Address(), __LINE__); }
-
   template <class R>
   void Record(const char*, R& record) {
     R::Walk(record, *this);
@@ -40,29 +28,10 @@ class ReleaseVisitor {
     if (R* record = slot.Get()) R::Walk(*record, *this);
     Free(slot.Address(), __LINE__);
   }
-
-  template <class L>
-  void List(const char*, L list) {
-    for (auto& element : list) L::Element::Walk(element, *this);
+  template <class L, class Show>
+  void List(const char*, L list, Show show) {
+    for (auto& element : list) show(element);
     Free(list.Elements().Address(), __LINE__);
-  }
-  template <class L>
-  void Numbers(const char*, L list) {
-    Free(list.Elements().Address(), __LINE__);
-  }
-  template <class L>
-  void ObjectIdentifiers(const char*, L list) {
-    for (auto& element : list) Free(&element.arcs, __LINE__);
-    Free(list.Elements().Address(), __LINE__);
-  }
-  template <class L>
-  void OctetStrings(const char*, L list, OctetNotation) {
-    for (auto& element : list) Free(&element.data, __LINE__);
-    Free(list.Elements().Address(), __LINE__);
-  }
-  template <class L>
-  void FixedOctetStrings(const char* name, L list, uint32_t) {
-    OctetStrings(name, list, OctetNotation::kOctets);
   }
 
  private:

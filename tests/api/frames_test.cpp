@@ -4,8 +4,8 @@
 #include <memory>
 #include <vector>
 
-#include "api/kelvra.h"
 #include "api/messages.h"
+#include "kelvra/kelvra.h"
 
 namespace kelvra::test {
 namespace {

@@ -2,8 +2,9 @@
 #include "api/messages.h"
 #include "doubles/channel_writer.h"
 #include "doubles/fault_test.h"
-#include "h245/messages/h245_message_decode.h"
 #include "h245/release.h"
+#include "kelvra/h245/messages/h245_message.h"
+#include "per/decoder.h"
 
 namespace kelvra::test {
 namespace {
@@ -11,11 +12,11 @@ namespace {
 class AllocationFailureTest : public FaultTest {
  protected:
   // What each allocation of a message is for, in the order of their requests.
-  std::vector<BlockKind> KindsOf(const Message& original) {
+  std::vector<SlotKind> KindsOf(const Message& original) {
     heap_.Reset();
     DecodedMessage message(original.family, WithSpare(original.family, original.octets));
     const OwnershipVisitor walk = message.Walk();
-    std::vector<BlockKind> kinds;
+    std::vector<SlotKind> kinds;
     for (const void* block : heap_.Granted()) kinds.push_back(walk.Kinds().at(block));
     message.Release();
     heap_.Reset();
@@ -38,16 +39,16 @@ class AllocationFailureTest : public FaultTest {
 
 TEST_F(AllocationFailureTest, ARefusalAloneLeavesARecordThatReleasesCleanly) {
   for (const Message& original : Corpus()) {
-    const std::vector<BlockKind> kinds = KindsOf(original);
+    const std::vector<SlotKind> kinds = KindsOf(original);
     for (size_t nth = 1; nth <= kinds.size(); ++nth) {
       const std::string what = original.name + ", allocation " + std::to_string(nth);
       heap_.Reset();
       heap_.RefuseOnly(nth);
       DecodedMessage message(original.family, WithSpare(original.family, original.octets));
-      if (original.family != Family::kH245 && kinds[nth - 1] == BlockKind::kList) {
+      if (original.family != Family::kH245 && kinds[nth - 1] == SlotKind::kList) {
         EXPECT_EQ(message.Result(), -1) << what;
       }
-      if (message.Accepted() && original.family != Family::kH245 && kinds[nth - 1] == BlockKind::kString) {
+      if (message.Accepted() && original.family != Family::kH245 && kinds[nth - 1] == SlotKind::kString) {
         EXPECT_GE(message.Walk().EmptyStrings(), 1U) << what;
       }
       ExpectHonestOutcome(original.family, message, what);
@@ -57,14 +58,14 @@ TEST_F(AllocationFailureTest, ARefusalAloneLeavesARecordThatReleasesCleanly) {
 
 TEST_F(AllocationFailureTest, RefusalsFromOnePointOnLeaveARecordThatReleasesCleanly) {
   for (const Message& original : Corpus()) {
-    const std::vector<BlockKind> kinds = KindsOf(original);
+    const std::vector<SlotKind> kinds = KindsOf(original);
     for (size_t nth = 1; nth <= kinds.size(); ++nth) {
       const std::string what = original.name + ", from allocation " + std::to_string(nth);
       heap_.Reset();
       heap_.RefuseFrom(nth);
       DecodedMessage message(original.family, WithSpare(original.family, original.octets));
       EXPECT_EQ(heap_.Granted().size(), nth - 1) << what;
-      if (original.family != Family::kH245 && kinds[nth - 1] == BlockKind::kList) {
+      if (original.family != Family::kH245 && kinds[nth - 1] == SlotKind::kList) {
         EXPECT_EQ(message.Result(), -1) << what;
       }
       ExpectHonestOutcome(original.family, message, what);
@@ -83,7 +84,7 @@ TEST_F(AllocationFailureTest, H245LeavesEveryOpenTypeThatItEnters) {
       PerReader reader;
       PerReaderInit(reader, original.octets.data(), static_cast<uint32_t>(original.octets.size()));
       h245::H245MessageRecord record{};
-      h245::DecodeMultimediaSystemControlMessage(record, reader);
+      static_cast<void>(Decode(record, reader));
       EXPECT_EQ(reader.openTypes.index, 0U) << original.name << ", allocation " << nth;
       h245::ReleaseH245Message(record);
     }

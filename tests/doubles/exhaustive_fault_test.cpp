@@ -112,7 +112,7 @@ class ExhaustiveFaults : public testing::Test {
 
   void ExpectOwned(const BlockCollector& blocks, bool mayOwn) {
     std::vector<const void*> owned;
-    for (const BlockCollector::Block& block : blocks.Blocks()) owned.push_back(block.address);
+    for (const BlockCollector::FoundBlock& block : blocks.Blocks()) owned.push_back(block.address);
     std::sort(owned.begin(), owned.end());
     EXPECT_EQ(owned, heap_.LiveBlocks());
     EXPECT_TRUE(mayOwn || owned.empty());

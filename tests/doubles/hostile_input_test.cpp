@@ -15,7 +15,7 @@ using HostileInputTest = FaultTest;
 uint32_t InnermostValue(const DecodedMessage& message) {
   const auto& dataType = message.H245().request.openLogicalChannel.forwardLogicalChannelParameters.dataType;
   const h245::GenericCapability& capability = dataType.audioData.genericAudioCapability;
-  auto parameters = KELVRA_LIST(capability.collapsing);
+  auto parameters = ListAt<uint8_t, h245::GenericParameter*>(&capability.collapsingCount, &capability.collapsing);
   while (true) {
     if (parameters.begin() == nullptr) return 0;
     const h245::ParameterValue& value = parameters.begin()->parameterValue;

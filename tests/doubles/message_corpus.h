@@ -7,8 +7,8 @@
 #include <variant>
 #include <vector>
 
-#include "api/kelvra.h"
 #include "doubles/ownership_visitor.h"
+#include "kelvra/kelvra.h"
 
 namespace kelvra::test {
 

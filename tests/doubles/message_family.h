@@ -5,9 +5,9 @@
 #include <cstdint>
 #include <vector>
 
-#include "api/kelvra.h"
 #include "doubles/message_corpus.h"
 #include "doubles/record_digest.h"
+#include "kelvra/kelvra.h"
 
 namespace kelvra::test {
 

@@ -34,7 +34,7 @@ void Digest::AddWord(uint64_t word) {
 void BlockCollector::AddTo(Digest& digest, const void* record, size_t size) const {
   for (void* slot : slots_) std::memset(slot, 0, sizeof(void*));
   digest.Add(record, size);
-  for (const Block& block : blocks_) digest.Add(block.address, block.size);
+  for (const FoundBlock& block : blocks_) digest.Add(block.address, block.size);
   for (size_t i = 0; i < slots_.size(); ++i) std::memcpy(slots_[i], &blocks_[i].address, sizeof(void*));
 }
 

@@ -7,8 +7,8 @@
 #include <cstdint>
 #include <vector>
 
-#include "api/kelvra.h"
-#include "record/walk.h"
+#include "block_visitor.h"
+#include "kelvra/kelvra.h"
 
 namespace kelvra::test {
 
@@ -23,86 +23,28 @@ class Digest {
 };
 
 // Finds the blocks of a record and the slots that hold their addresses.
-class BlockCollector {
+class BlockCollector : public BlockVisitor<BlockCollector> {
  public:
-  struct Block {
+  struct FoundBlock {
     const void* address;
     size_t size;
   };
 
-  void Number(const char*, int64_t) {}
-  void Boolean(const char*, uint32_t) {}
-  void EnumeratedValue(uint32_t, const char*) {}
-  void Null(const char*) {}
-  void Embedded(const char*, const uint8_t*, uint32_t, OctetNotation) {}
-  void UnknownExtension(uint32_t) {}
-  void UnknownRoot(uint32_t) {}
-
-  template <class Value>
-  void ObjectIdentifier(const char* name, Value& value) {
-    Numbers(name, KELVRA_COUNTED_LIST(value.count, value.arcs));
-  }
-  template <class Value>
-  void Characters16(const char* name, Value& value) {
-    Numbers(name, KELVRA_COUNTED_LIST(value.length, value.data));
-  }
-  void Octets(const char*, Slot<uint8_t> slot, uint32_t count, OctetNotation notation) {
-    const bool bits = notation == OctetNotation::kBits || notation == OctetNotation::kFixedBits;
-    See(slot, bits ? (size_t{count} + 7) / 8 : count);
-  }
-  template <class R>
-  void Record(const char*, R& record) {
-    R::Walk(record, *this);
-  }
-  template <class R>
-  void Pointer(const char*, Slot<R> slot) {
-    See(slot, sizeof(R));
-    if (R* record = slot.Get()) R::Walk(*record, *this);
-  }
-  template <class L>
-  void List(const char*, L list) {
-    SeeList(list);
-    for (auto& element : list) L::Element::Walk(element, *this);
-  }
-  template <class L>
-  void Numbers(const char*, L list) {
-    SeeList(list);
-  }
-  template <class L>
-  void ObjectIdentifiers(const char* name, L list) {
-    SeeList(list);
-    for (auto& element : list) ObjectIdentifier(name, element);
-  }
-  template <class L>
-  void OctetStrings(const char* name, L list, OctetNotation notation) {
-    SeeList(list);
-    for (auto& element : list) Octets(name, KELVRA_SLOT(element.data), element.length, notation);
-  }
-  template <class L>
-  void FixedOctetStrings(const char* name, L list, uint32_t size) {
-    SeeList(list);
-    for (auto& element : list) Octets(name, KELVRA_SLOT(element.data), size, OctetNotation::kOctets);
+  template <class T>
+  void Block(Slot<T> slot, uint32_t count, BlockKind) {
+    if (slot.Get() == nullptr) return;
+    slots_.push_back(slot.Address());
+    blocks_.push_back({slot.Get(), count * sizeof(T)});
   }
 
-  const std::vector<Block>& Blocks() const { return blocks_; }
+  const std::vector<FoundBlock>& Blocks() const { return blocks_; }
 
   // Adds the record and all blocks, each with null in the place of its pointers.
   void AddTo(Digest& digest, const void* record, size_t size) const;
 
  private:
-  template <class T>
-  void See(Slot<T> slot, size_t size) {
-    if (slot.Get() == nullptr) return;
-    slots_.push_back(slot.Address());
-    blocks_.push_back({slot.Get(), size});
-  }
-  template <class L>
-  void SeeList(L list) {
-    See(list.Elements(), list.Size() * sizeof(typename L::Element));
-  }
-
   std::vector<void*> slots_;
-  std::vector<Block> blocks_;
+  std::vector<FoundBlock> blocks_;
 };
 
 // Of a Q.931 message they are those of the user information, whether it is marked as present or not.

@@ -1,9 +1,9 @@
-#include "h225/common/addresses.h"
+#include "kelvra/h225/common/addresses.h"
 
 #include <gtest/gtest.h>
 
-#include "h225/common/addresses_decode.h"
 #include "h225/decoding.h"
+#include "per/decoder.h"
 
 namespace kelvra::h225 {
 namespace {
@@ -36,7 +36,7 @@ BitWriter InternetName(uint32_t length, const std::string& text) {
 TEST(AliasAddressTest, OddDigitsLeaveTheReaderInsideAnOctet) {
   Input input(BitWriter().Bits(0, 2).Bits(2, 7).Octets({0x45, 0x6F}));
   Owned<AliasAddress> alias;
-  ASSERT_EQ(DecodeAliasAddress(*alias, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*alias, input.reader), kDecoded);
   EXPECT_EQ(OctetsOf(alias->dialedDigits), (Octets{4, 5, 6}));
   EXPECT_EQ(PerReadBits(input.reader, 4), 0xFU);
 }
@@ -48,7 +48,7 @@ TEST(AliasAddressTest, H323IdTakes1To256Characters) {
     for (uint32_t i = 0; i < length; ++i) w.Bits(0x0141 + i, 16);
     Input input(Marked(w));
     Owned<AliasAddress> alias;
-    ASSERT_EQ(DecodeAliasAddress(*alias, input.reader), kDecoded);
+    ASSERT_EQ(Decode(*alias, input.reader), kDecoded);
     EXPECT_EQ(+alias->choiceTag, 1);
     EXPECT_EQ(+alias->h323ID.length, length);
     const std::u16string text = TextOf(alias->h323ID);
@@ -63,7 +63,7 @@ TEST(AliasAddressTest, ReaderResumesBehindTheOpenTypeWhateverItsStringClaims) {
   for (const uint32_t index : {0U, 2U}) {
     Input input(Marked(ExtensionAlias(index, InternetName(3, "abcdefgh"))));
     Owned<AliasAddress> alias;
-    ASSERT_EQ(DecodeAliasAddress(*alias, input.reader), kDecoded);
+    ASSERT_EQ(Decode(*alias, input.reader), kDecoded);
     EXPECT_EQ(+alias->choiceTag, index);
     EXPECT_EQ(+alias->isExtension, 1U);
     EXPECT_EQ(TextOf(index == 0 ? alias->urlID : alias->emailID), "abc");
@@ -76,14 +76,14 @@ TEST(AliasAddressTest, InternetNamesEndAt512Characters) {
   const std::string longest(512, 'u');
   Input input(Marked(ExtensionAlias(0, InternetName(512, longest))));
   Owned<AliasAddress> alias;
-  ASSERT_EQ(DecodeAliasAddress(*alias, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*alias, input.reader), kDecoded);
   EXPECT_EQ(TextOf(alias->urlID), longest);
   EXPECT_EQ(input.Next(), kMarker);
 
   for (const uint32_t index : {0U, 2U}) {
     Input over(ExtensionAlias(index, InternetName(513, longest + 'u')));
     Owned<AliasAddress> refused;
-    EXPECT_EQ(DecodeAliasAddress(*refused, over.reader), kExhausted);
+    EXPECT_EQ(Decode(*refused, over.reader), kExhausted);
     EXPECT_TRUE(+refused->urlID.data == nullptr);
     EXPECT_EQ(over.reader.openTypes.index, 1U) << "a failure leaves the slot taken";
   }
@@ -93,7 +93,7 @@ TEST(AliasAddressTest, UnknownExtensionsAreSkippedByTheirFullIndex) {
   for (const uint32_t index : {5U, 63U, 64U, 256U, 257U, 259U}) {
     Input input(Marked(ExtensionAlias(index, InternetName(3, "abc"))));
     Owned<AliasAddress> alias;
-    ASSERT_EQ(DecodeAliasAddress(*alias, input.reader), kDecoded) << index;
+    ASSERT_EQ(Decode(*alias, input.reader), kDecoded) << index;
     EXPECT_EQ(+alias->choiceTag, index & 0xFF);
     EXPECT_EQ(+alias->isExtension, 1U);
     EXPECT_EQ(+alias->urlID.length, 0U) << index;
@@ -105,16 +105,16 @@ TEST(AliasAddressTest, UnknownExtensionsAreSkippedByTheirFullIndex) {
 TEST(AddressesTest, ImpossibleIndicesAreMalformed) {
   Input input(BitWriter().Bits(7, 4).Octets(Rising(1, 16)));
   Owned<TransportAddress> address;
-  EXPECT_EQ(DecodeTransportAddress(*address, input.reader), kMalformed);
+  EXPECT_EQ(Decode(*address, input.reader), kMalformed);
   Input nested(ExtensionAlias(3, BitWriter().Bits(5, 4)));
   Owned<AliasAddress> party;
-  EXPECT_EQ(DecodeAliasAddress(*party, nested.reader), kMalformed) << "within an open type";
+  EXPECT_EQ(Decode(*party, nested.reader), kMalformed) << "within an open type";
 }
 
 TEST(TransportAddressTest, UnknownExtensionKeepsItsIndex) {
   Input input(Marked(BitWriter().Bit(true).NormallySmall(3).OpenType(Rising(1, 200))));
   Owned<TransportAddress> address;
-  ASSERT_EQ(DecodeTransportAddress(*address, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*address, input.reader), kDecoded);
   EXPECT_EQ(+address->choiceTag, 3);
   EXPECT_EQ(+address->isExtension, 1U);
   EXPECT_EQ(input.Next(), kMarker);
@@ -133,7 +133,7 @@ TEST(IpSourceRouteTest, CountKeepsItsLow8Bits) {
   for (const auto& c : kCases) {
     Input input(Marked(SourceRoute(c.sent, c.kept).Bits(1, 2)));
     Owned<TransportAddress> address;
-    ASSERT_EQ(DecodeTransportAddress(*address, input.reader), kDecoded);
+    ASSERT_EQ(Decode(*address, input.reader), kDecoded);
     const TransportAddress::IpSourceRoute& source = address->ipSourceRoute;
     EXPECT_EQ(+address->choiceTag, 1);
     EXPECT_EQ(OctetsOf(source.ip), (Octets{192, 0, 2, 1}));
@@ -152,7 +152,7 @@ TEST(IpSourceRouteTest, RoutingExtensionOverwritesTheOuterTag) {
   for (const uint32_t index : {0U, 1U, 2U, 3U, 4U, 5U, 6U, 40U}) {
     Input input(Marked(SourceRoute(1, 1).Bit(true).NormallySmall(index).OpenType({1, 2})));
     Owned<TransportAddress> address;
-    ASSERT_EQ(DecodeTransportAddress(*address, input.reader), kDecoded);
+    ASSERT_EQ(Decode(*address, input.reader), kDecoded);
     EXPECT_EQ(+address->choiceTag, index);
     EXPECT_EQ(+address->isExtension, 0U);
     EXPECT_EQ(+address->ipSourceRoute.routing.choiceTag, 0);
@@ -167,7 +167,7 @@ TEST(IpSourceRouteTest, AdditionsBehindRoutingAreSkipped) {
   test::Additions(w, 0b101, 3).OpenType({1}).OpenType({2, 3});
   Input input(Marked(w));
   Owned<TransportAddress> address;
-  ASSERT_EQ(DecodeTransportAddress(*address, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*address, input.reader), kDecoded);
   EXPECT_EQ(+address->ipSourceRoute.isExtended, 1U);
   EXPECT_EQ(input.Next(), kMarker);
 }
@@ -176,13 +176,13 @@ TEST(PartyNumberTest, ImpossibleIndicesAreMalformed) {
   for (const uint32_t tag : {5U, 6U, 7U}) {
     Input input(BitWriter().Bits(tag, 4).Octets(Rising(1, 8)));
     Owned<PartyNumber> number;
-    EXPECT_EQ(DecodePartyNumber(*number, input.reader), kMalformed);
+    EXPECT_EQ(Decode(*number, input.reader), kMalformed);
   }
   for (const uint32_t tag : {0U, 3U}) {
     for (const uint32_t type : {6U, 7U}) {
       Input input(BitWriter().Bits(tag, 4).Bits(type, 4).Octets(Rising(1, 8)));
       Owned<PartyNumber> number;
-      EXPECT_EQ(DecodePartyNumber(*number, input.reader), kMalformed);
+      EXPECT_EQ(Decode(*number, input.reader), kMalformed);
       EXPECT_EQ(+number->e164Number.publicNumberDigits.length, 0U) << "nothing is read behind it";
     }
   }
@@ -191,7 +191,7 @@ TEST(PartyNumberTest, ImpossibleIndicesAreMalformed) {
 TEST(PartyNumberTest, ExtensionIndexIsDiscarded) {
   Input input(Marked(BitWriter().Bit(true).NormallySmall(2).OpenType({1, 2, 3})));
   Owned<PartyNumber> number;
-  ASSERT_EQ(DecodePartyNumber(*number, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*number, input.reader), kDecoded);
   EXPECT_EQ(+number->choiceTag, 0);
   EXPECT_EQ(+number->isExtension, 1U);
   EXPECT_EQ(input.Next(), kMarker);
@@ -200,7 +200,7 @@ TEST(PartyNumberTest, ExtensionIndexIsDiscarded) {
 TEST(PartyNumberTest, TypeOfNumberKeepsItsExtensionIndex) {
   Input input(Marked(BitWriter().Bits(0, 4).Bit(true).NormallySmall(2).OpenType({9}).Bits(0, 7).Align().Bits(4, 4)));
   Owned<PartyNumber> number;
-  ASSERT_EQ(DecodePartyNumber(*number, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*number, input.reader), kDecoded);
   EXPECT_EQ(+number->e164Number.publicTypeOfNumber.choiceTag, 2);
   EXPECT_EQ(+number->e164Number.publicTypeOfNumber.isExtension, 1U);
   EXPECT_EQ(OctetsOf(number->e164Number.publicNumberDigits), (Octets{4}));
@@ -210,7 +210,7 @@ TEST(PartyNumberTest, TypeOfNumberKeepsItsExtensionIndex) {
 TEST(MobileUIMTest, ExtensionIndexIsDiscarded) {
   Input input(Marked(BitWriter().Bit(true).NormallySmall(1).OpenType({1})));
   Owned<MobileUIM> uim;
-  ASSERT_EQ(DecodeMobileUIM(*uim, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*uim, input.reader), kDecoded);
   EXPECT_EQ(+uim->choiceTag, 0);
   EXPECT_EQ(+uim->isExtension, 1U);
   EXPECT_EQ(input.Next(), kMarker);
@@ -232,7 +232,7 @@ TEST(ANSI41UIMTest, AllMembers) {
   test::Additions(w, 1, 1).OpenType(Octets{});  // an unknown addition
   Input input(Marked(w));
   Owned<ANSI41UIM> uim;
-  ASSERT_EQ(DecodeANSI41UIM(*uim, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*uim, input.reader), kDecoded);
   EXPECT_EQ(TextOf(uim->imsi), "#*0123456789abc=");
   EXPECT_EQ(TextOf(uim->min), "012");
   EXPECT_EQ(TextOf(uim->mdn), "123");
@@ -255,7 +255,7 @@ TEST(ANSI41UIMTest, SingleOctetsAreAligned) {
   w.Bit(false).Bits(0b00000010000, 11).Bits(0, 2).Bits(0, 2).Align().Bits(0x9F, 8).Bits(0x66, 8);
   Input input(Marked(w));
   Owned<ANSI41UIM> uim;
-  ASSERT_EQ(DecodeANSI41UIM(*uim, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*uim, input.reader), kDecoded);
   EXPECT_EQ(TextOf(uim->systemId.sid), "7");
   EXPECT_EQ(OctetsOf(uim->systemMyTypeCode), Octets{0x66});
   EXPECT_EQ(input.Next(), kMarker);
@@ -266,7 +266,7 @@ TEST(ANSI41UIMTest, SystemIdExtensionIndexIsDiscarded) {
   w.Bits(0, 12).Bit(true).NormallySmall(1).OpenType({5});
   Input input(Marked(w));
   Owned<ANSI41UIM> uim;
-  ASSERT_EQ(DecodeANSI41UIM(*uim, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*uim, input.reader), kDecoded);
   EXPECT_EQ(+uim->systemId.choiceTag, 0);
   EXPECT_EQ(+uim->systemId.isExtension, 1U);
   EXPECT_EQ(input.Next(), kMarker);
@@ -284,7 +284,7 @@ TEST(GSMUIMTest, TmsiIsReadAsCharacters) {
   w.Bits(2, 2).Align().Bits(0x345, 12);  // vplmn
   Input input(Marked(w));
   Owned<GSMUIM> uim;
-  ASSERT_EQ(DecodeGSMUIM(*uim, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*uim, input.reader), kDecoded);
   EXPECT_EQ(TextOf(uim->imsi), "012");
   EXPECT_EQ(TextOf(uim->tmsi), "0123");
   EXPECT_EQ(TextOf(uim->msisdn), "345");
@@ -295,40 +295,40 @@ TEST(GSMUIMTest, TmsiIsReadAsCharacters) {
 }
 
 template <class R>
-void ExpectExhausted(Status (*decode)(R&, PerReader&)) {
+void ExpectExhausted() {
   Input input(Octets{});
   Owned<R> record;
-  EXPECT_EQ(decode(*record, input.reader), kExhausted);
+  EXPECT_EQ(Decode(*record, input.reader), kExhausted);
   EXPECT_TRUE(record.IsZero());
 }
 
 TEST(AddressesTest, DecodersEnteredAtTheEndWriteNothing) {
-  ExpectExhausted(DecodeTransportAddress);
-  ExpectExhausted(DecodePublicPartyNumber);
-  ExpectExhausted(DecodePrivatePartyNumber);
-  ExpectExhausted(DecodePartyNumber);
-  ExpectExhausted(DecodeANSI41UIM);
-  ExpectExhausted(DecodeGSMUIM);
-  ExpectExhausted(DecodeMobileUIM);
-  ExpectExhausted(DecodeAliasAddress);
-  ExpectExhausted(DecodeExtendedAliasAddress);
+  ExpectExhausted<TransportAddress>();
+  ExpectExhausted<PublicPartyNumber>();
+  ExpectExhausted<PrivatePartyNumber>();
+  ExpectExhausted<PartyNumber>();
+  ExpectExhausted<ANSI41UIM>();
+  ExpectExhausted<GSMUIM>();
+  ExpectExhausted<MobileUIM>();
+  ExpectExhausted<AliasAddress>();
+  ExpectExhausted<ExtendedAliasAddress>();
 }
 
 TEST(AddressesTest, TruncatedStringKeepsItsLengthAndFailsTheNextDecoder) {
   Input input(BitWriter().Bits(4, 4).Octets(Rising(1, 14)));
   Owned<TransportAddress> address;
-  EXPECT_EQ(DecodeTransportAddress(*address, input.reader), kDecoded);
+  EXPECT_EQ(Decode(*address, input.reader), kDecoded);
   EXPECT_EQ(+address->netBios.length, 16U);
   EXPECT_TRUE(+address->netBios.data == nullptr);
   Owned<TransportAddress> next;
-  EXPECT_EQ(DecodeTransportAddress(*next, input.reader), kExhausted);
+  EXPECT_EQ(Decode(*next, input.reader), kExhausted);
 }
 
 TEST(ExtendedAliasAddressTest, ScreeningIndicatorIsReadOneBitShort) {
   // networkProvided: extension bit 0, then 3 in two bits; the last bit stays behind.
   Input input(BitWriter().Bits(0b011, 3).Bits(0, 2).Bits(0, 7).Align().Bits(4, 4).Bits(0b010, 3).Bits(0b011, 3));
   Owned<ExtendedAliasAddress> alias;
-  ASSERT_EQ(DecodeExtendedAliasAddress(*alias, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*alias, input.reader), kDecoded);
   EXPECT_EQ(+alias->presentationIndicator.choiceTag, 2);
   EXPECT_EQ(+alias->screeningIndicator.value, 1U);
   EXPECT_EQ(PerReadBit(input.reader), 1U);

@@ -1,9 +1,9 @@
-#include "h225/ras/admission.h"
+#include "kelvra/h225/ras/admission.h"
 
 #include <gtest/gtest.h>
 
 #include "h225/decoding.h"
-#include "h225/ras/admission_decode.h"
+#include "per/decoder.h"
 
 namespace kelvra::h225 {
 namespace {
@@ -35,7 +35,7 @@ TEST(AdmissionRequestTest, AdditionsBehindTheEighteenthAreSkipped) {
   w.OpenType({0x80}).OpenType({0x80}).OpenType({1, 2, 3}).OpenType({4});
   Input input(Marked(w));
   Owned<AdmissionRequest> m;
-  ASSERT_EQ(DecodeAdmissionRequest(*m, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*m, input.reader), kDecoded);
   EXPECT_EQ(+m->nonStandardDataForm, 0);
   EXPECT_EQ(OctetsOf(m->nonStandardData.data), (Octets{7, 8}));
   EXPECT_EQ(test::OctetsAt(m->nonStandardDataPrivateForm, kPrivateFormOctets), Octets(kPrivateFormOctets, 0));
@@ -52,7 +52,7 @@ TEST(AdmissionRejectTest, OtherReasonsKeepNoContents) {
   for (uint32_t tag = 0; tag < 8; ++tag) {
     Input input(Marked(BeginAdmissionReject().Bits(tag, 4)));
     Owned<AdmissionReject> m;
-    ASSERT_EQ(DecodeAdmissionReject(*m, input.reader), kDecoded);
+    ASSERT_EQ(Decode(*m, input.reader), kDecoded);
     EXPECT_EQ(+m->rejectReason.choiceTag, tag);
     EXPECT_EQ(+m->rejectReason.isExtension, 0U);
     EXPECT_EQ(input.Next(), kMarker);
@@ -61,7 +61,7 @@ TEST(AdmissionRejectTest, OtherReasonsKeepNoContents) {
   for (const uint32_t index : {3U, 9U, 10U}) {
     Input input(Marked(BeginAdmissionReject().Bit(true).NormallySmall(index).OpenType({1, 0x40, 0x00, 0x00, 0x41})));
     Owned<AdmissionReject> m;
-    ASSERT_EQ(DecodeAdmissionReject(*m, input.reader), kDecoded);
+    ASSERT_EQ(Decode(*m, input.reader), kDecoded);
     EXPECT_EQ(+m->rejectReason.choiceTag, index);
     EXPECT_EQ(+m->rejectReason.routeCalltoSCN.count, 0);
     EXPECT_EQ(input.Next(), kMarker);

@@ -9,6 +9,7 @@
 #include "codec/memory.h"
 #include "codec/status.h"
 #include "per/bit_writer.h"
+#include "per/decoder.h"
 #include "per/input.h"
 #include "record/release.h"
 
@@ -41,6 +42,12 @@ class Owned {
  private:
   R record_;
 };
+
+// Decodes a type of H.245, whose failures nobody reports.
+template <class R>
+void DecodeH245(R& record, PerReader& reader) {
+  static_cast<void>(Decode(record, reader));
+}
 
 inline std::vector<uint8_t> OctetsAt(const uint8_t* octets, uint32_t count) {
   return octets == nullptr ? std::vector<uint8_t>() : std::vector<uint8_t>(octets, octets + count);

@@ -1,9 +1,9 @@
-#include "h225/ras/disengage.h"
+#include "kelvra/h225/ras/disengage.h"
 
 #include <gtest/gtest.h>
 
 #include "h225/decoding.h"
-#include "h225/ras/disengage_decode.h"
+#include "per/decoder.h"
 
 namespace kelvra::h225 {
 namespace {
@@ -33,7 +33,7 @@ TEST(DisengageRequestTest, NonStandardDataTakesTheStandardForm) {
   Additions(w, Addition(5, 14) | Addition(13, 14), 14).OpenType({0x80}).OpenType({1, 2, 3});
   Input input(Marked(w));
   Owned<DisengageRequest> m;
-  ASSERT_EQ(DecodeDisengageRequest(*m, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*m, input.reader), kDecoded);
   EXPECT_EQ(+m->requestSeqNum, 7);
   EXPECT_EQ(TextOf(m->endpointIdentifier), u"E");
   EXPECT_EQ(OctetsOf(m->conferenceID), Rising(0x10, 16));
@@ -53,13 +53,13 @@ TEST(DisengageRequestTest, NonStandardDataTakesTheStandardForm) {
 TEST(DisengageRequestTest, ReasonPastTheAlternativesIsMalformed) {
   Input input(Marked(BeginDisengageRequest(false, false).Bits(3, 3)));
   Owned<DisengageRequest> m;
-  EXPECT_EQ(DecodeDisengageRequest(*m, input.reader), kMalformed);
+  EXPECT_EQ(Decode(*m, input.reader), kMalformed);
 }
 
 TEST(DisengageReasonTest, ExtensionAlternativesArePassedOver) {
   Input input(Marked(BitWriter().Bit(true).NormallySmall(0).OpenType({1, 2})));
   Owned<DisengageReason> m;
-  ASSERT_EQ(DecodeDisengageReason(*m, input.reader), kDecoded);
+  ASSERT_EQ(DecodeByHand(*m, input.reader), kDecoded);
   EXPECT_EQ(+m->choiceTag, 0);
   EXPECT_EQ(+m->isExtension, 1U);
   EXPECT_EQ(input.Next(), kMarker);
@@ -70,9 +70,9 @@ TEST(DisengageRejectReasonTest, ExtensionBitIsKeptOfInputThatEndsWithIt) {
     Input input(BitWriter().Bits(last, 8));
     PerReadBits(input.reader, 7);
     Owned<DisengageRejectReason> m;
-    EXPECT_EQ(DecodeDisengageRejectReason(*m, input.reader), kExhausted);
+    EXPECT_EQ(DecodeByHand(*m, input.reader), kExhausted);
     EXPECT_EQ(+m->isExtension, last);
-    EXPECT_EQ(DecodeDisengageRejectReason(*m, input.reader), kExhausted);
+    EXPECT_EQ(DecodeByHand(*m, input.reader), kExhausted);
     EXPECT_EQ(+m->isExtension, 0U);
   }
 }

@@ -1,12 +1,12 @@
-#include "h225/common/endpoint_type.h"
+#include "kelvra/h225/common/endpoint_type.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
 
-#include "h225/common/endpoint_type_decode.h"
-#include "h225/common/non_standard_decode.h"
 #include "h225/decoding.h"
+#include "kelvra/h225/common/non_standard.h"
+#include "per/decoder.h"
 
 namespace kelvra::h225 {
 namespace {
@@ -36,7 +36,7 @@ BitWriter Protocols(uint32_t count, uint32_t sent) {
 TEST(NonStandardParameterTest, EmptyDataHasNoBlock) {
   Input input(Marked(BitWriter().Bits(0, 2).OpenType({0x2A}).Length(0)));
   Owned<NonStandardParameter> parameter;
-  ASSERT_EQ(DecodeNonStandardParameter(*parameter, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*parameter, input.reader), kDecoded);
   EXPECT_EQ(+parameter->data.length, 0U);
   EXPECT_TRUE(+parameter->data.data == nullptr);
   EXPECT_EQ(input.Next(), kMarker);
@@ -49,7 +49,7 @@ TEST(NonStandardParameterTest, H221NonStandardMayCarryAdditions) {
   w.OpenType({0xDA, 0x7A});
   Input input(Marked(w));
   Owned<NonStandardParameter> parameter;
-  ASSERT_EQ(DecodeNonStandardParameter(*parameter, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*parameter, input.reader), kDecoded);
   const H221NonStandard& vendor = parameter->nonStandardIdentifier.h221NonStandard;
   EXPECT_EQ(+vendor.t35CountryCode, 0xB5);
   EXPECT_EQ(+vendor.t35Extension, 1);
@@ -62,7 +62,7 @@ TEST(NonStandardParameterTest, H221NonStandardMayCarryAdditions) {
 TEST(NonStandardParameterTest, UnknownIdentifierKeepsItsIndexAndTheData) {
   Input input(Marked(BitWriter().Bit(true).NormallySmall(1).OpenType({1, 2}).OpenType({3})));
   Owned<NonStandardParameter> parameter;
-  ASSERT_EQ(DecodeNonStandardParameter(*parameter, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*parameter, input.reader), kDecoded);
   EXPECT_EQ(+parameter->nonStandardIdentifier.choiceTag, 1);
   EXPECT_EQ(+parameter->nonStandardIdentifier.isExtension, 1U);
   EXPECT_EQ(OctetsOf(parameter->data), Octets{3});
@@ -76,7 +76,7 @@ TEST(VendorIdentifierTest, StringsOf1To256OctetsAndUnknownAdditions) {
   Additions(w, 1, 1).OpenType({0x2A, 0x03});  // enterpriseNumber
   Input input(Marked(w));
   Owned<VendorIdentifier> vendor;
-  ASSERT_EQ(DecodeVendorIdentifier(*vendor, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*vendor, input.reader), kDecoded);
   EXPECT_EQ(TextOf(vendor->productId), std::string(256, 'p'));
   EXPECT_EQ(TextOf(vendor->versionId), "v");
   EXPECT_EQ(+vendor->isExtended, 1U);
@@ -86,7 +86,7 @@ TEST(VendorIdentifierTest, StringsOf1To256OctetsAndUnknownAdditions) {
 TEST(EndpointTypeTest, FlagsWithoutAdditions) {
   Input input(Marked(BitWriter().Bits(0, 7).Bits(0b10, 2)));
   Owned<EndpointType> type;
-  ASSERT_EQ(DecodeEndpointType(*type, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*type, input.reader), kDecoded);
   EXPECT_EQ(+type->mc, 1U);
   EXPECT_EQ(+type->undefinedNode, 0U);
   EXPECT_EQ(+type->isExtended, 0U);
@@ -103,7 +103,7 @@ TEST(EndpointTypeTest, TunnelledProtocolsAndUnknownAdditions) {
   Additions(w, 0b0111, 4).OpenType(list).OpenType({1, 2, 3}).OpenType({4});
   Input input(Marked(w));
   Owned<EndpointType> type;
-  ASSERT_EQ(DecodeEndpointType(*type, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*type, input.reader), kDecoded);
   EXPECT_EQ(+type->hasSet, 0U);
   ASSERT_EQ(+type->supportedTunnelledProtocolsCount, 2);
   const TunnelledProtocol* protocols = type->supportedTunnelledProtocols;
@@ -122,7 +122,7 @@ TEST(GatewayInfoTest, ProtocolCountKeepsItsLow8Bits) {
     w.Bits(0b010, 3).Octets(Protocols(c.sent, c.kept));
     Input input(Marked(w));
     Owned<GatewayInfo> gateway;
-    ASSERT_EQ(DecodeGatewayInfo(*gateway, input.reader), kDecoded);
+    ASSERT_EQ(Decode(*gateway, input.reader), kDecoded);
     EXPECT_EQ(+gateway->hasProtocol, 1U);
     EXPECT_EQ(+gateway->protocolCount, c.kept);
     EXPECT_EQ(+gateway->protocol == nullptr, c.kept == 0);
@@ -137,7 +137,7 @@ TEST(McuInfoTest, ProtocolIsAnAddition) {
   Additions(w, 0b101, 3).OpenType(Protocols(2, 2)).OpenType({1});
   Input input(Marked(w));
   Owned<McuInfo> mcu;
-  ASSERT_EQ(DecodeMcuInfo(*mcu, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*mcu, input.reader), kDecoded);
   EXPECT_EQ(+mcu->hasProtocol, 1U);
   EXPECT_EQ(+mcu->protocolCount, 2);
   EXPECT_EQ(+mcu->protocol[1].choiceTag, 1);
@@ -155,7 +155,7 @@ TEST(SupportedProtocolsTest, RootIndices) {
     Additions(w, 0b111, 3).OpenType(rates).OpenType(prefixes).OpenType({1});
     Input input(Marked(w));
     Owned<SupportedProtocols> protocols;
-    ASSERT_EQ(DecodeSupportedProtocols(*protocols, input.reader), kDecoded);
+    ASSERT_EQ(Decode(*protocols, input.reader), kDecoded);
     EXPECT_EQ(+protocols->choiceTag, index);
     const ProtocolCaps& caps = protocols->h310;  // all eight are laid out alike
     ASSERT_EQ(+caps.dataRatesSupportedCount, 1);
@@ -169,7 +169,7 @@ TEST(SupportedProtocolsTest, RootIndices) {
   for (uint32_t index = 9; index < 16; ++index) {
     Input input(BitWriter().Bits(index, 5).Octets(Rising(1, 8)));
     Owned<SupportedProtocols> protocols;
-    EXPECT_EQ(DecodeSupportedProtocols(*protocols, input.reader), kMalformed) << index;
+    EXPECT_EQ(Decode(*protocols, input.reader), kMalformed) << index;
   }
 }
 
@@ -177,7 +177,7 @@ TEST(SupportedProtocolsTest, LaterExtensionsAreSkipped) {
   for (const uint32_t index : {2U, 64U, 256U, 257U}) {  // 2 is sip
     Input input(Marked(BitWriter().Bit(true).NormallySmall(index).OpenType({0xFF, 0xFF})));
     Owned<SupportedProtocols> protocols;
-    ASSERT_EQ(DecodeSupportedProtocols(*protocols, input.reader), kDecoded);
+    ASSERT_EQ(Decode(*protocols, input.reader), kDecoded);
     EXPECT_EQ(+protocols->choiceTag, index & 0xFF);
     EXPECT_EQ(+protocols->isExtension, 1U);
     EXPECT_EQ(+protocols->nonStandardProtocol.hasNonStandardData, 0U) << index;
@@ -198,7 +198,7 @@ TEST(SupportedProtocolsTest, T38FaxThatCannotBeReadIsRefused) {
   for (const auto& c : kCases) {
     Input input(Octets(c.octets.begin(), c.octets.begin() + c.count));
     Owned<SupportedProtocols> protocols;
-    EXPECT_EQ(DecodeSupportedProtocols(*protocols, input.reader), c.status) << c.count;
+    EXPECT_EQ(Decode(*protocols, input.reader), c.status) << c.count;
   }
 }
 

@@ -1,10 +1,10 @@
-#include "h225/ras/gatekeeper_discovery.h"
+#include "kelvra/h225/ras/gatekeeper_discovery.h"
 
 #include <gtest/gtest.h>
 
 #include "h225/decoding.h"
-#include "h225/ras/gatekeeper_discovery_decode.h"
-#include "h225/ras/ras_message_decode.h"
+#include "kelvra/h225/ras/ras_message.h"
+#include "per/decoder.h"
 
 namespace kelvra::h225 {
 namespace {
@@ -29,7 +29,7 @@ BitWriter BeginDiscoveryRequest(bool extended, uint32_t optional = 0, uint16_t c
 TEST(GatekeeperRequestTest, SequenceNumberIsNotChecked) {
   Input input(Marked(BeginDiscoveryRequest(false, 0, 65535)));
   Owned<GatekeeperRequest> m;
-  ASSERT_EQ(DecodeGatekeeperRequest(*m, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*m, input.reader), kDecoded);
   EXPECT_EQ(+m->requestSeqNum, 0);
 }
 
@@ -41,7 +41,7 @@ TEST(GatekeeperRequestTest, AliasCountKeepsItsLow8Bits) {
     for (uint32_t i = 0; i < c.kept; ++i) w.Bits(0, 2).Bits(0, 7).Align().Bits(3 + i % 10, 4);
     Input input(Marked(w));
     Owned<GatekeeperRequest> m;
-    ASSERT_EQ(DecodeGatekeeperRequest(*m, input.reader), kDecoded);
+    ASSERT_EQ(Decode(*m, input.reader), kDecoded);
     EXPECT_EQ(+m->hasEndpointAlias, 1U);
     EXPECT_EQ(+m->endpointAliasCount, c.kept);
     EXPECT_EQ(+m->endpointAlias == nullptr, c.kept == 0);
@@ -57,7 +57,7 @@ TEST(GatekeeperRequestTest, SupportsAltGKIsItsFlagAlone) {
   Additions(w, Addition(7, 8), 8).OpenType({0xFF});
   Input input(Marked(w));
   Owned<GatekeeperRequest> m;
-  ASSERT_EQ(DecodeGatekeeperRequest(*m, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*m, input.reader), kDecoded);
   EXPECT_EQ(+m->hasSupportsAltGK, 1U);
   EXPECT_EQ(+m->supportsAltGK, 0);
   EXPECT_EQ(+m->hasFeatureSet, 0U);
@@ -70,7 +70,7 @@ TEST(GatekeeperRequestTest, UnknownAdditionsAreSkipped) {
   w.OpenType(Octets{}).OpenType({1, 2, 3}).OpenType({4});
   Input input(Marked(w));
   Owned<GatekeeperRequest> m;
-  ASSERT_EQ(DecodeGatekeeperRequest(*m, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*m, input.reader), kDecoded);
   EXPECT_EQ(+m->hasGenericData, 0U);
   EXPECT_EQ(input.Next(), kMarker);
 }
@@ -85,7 +85,7 @@ TEST(GatekeeperRequestTest, NestedAdditionsTakeOverTheCountOfUnknownOnes) {
   w.OpenType(features).OpenType({1, 2, 3}).OpenType({0x66});
   Input input(w);
   Owned<GatekeeperRequest> m;
-  ASSERT_EQ(DecodeGatekeeperRequest(*m, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*m, input.reader), kDecoded);
   EXPECT_EQ(+m->hasFeatureSet, 1U);
   EXPECT_EQ(input.Next(), 1U) << "the length of the second";
   EXPECT_EQ(input.Next(), 0x66U);
@@ -96,7 +96,7 @@ TEST(GatekeeperRequestTest, FailureInAMemberStopsTheBody) {
   w.Bits(0, 5).Align().Bits(0, 16).OpenType(test::ProtocolIdentifier(4)).Bits(7, 4);
   Input input(Marked(w));
   Owned<GatekeeperRequest> m;
-  EXPECT_EQ(DecodeGatekeeperRequest(*m, input.reader), kMalformed);
+  EXPECT_EQ(Decode(*m, input.reader), kMalformed);
 }
 
 // A GatekeeperReject up to its rejectReason.
@@ -108,7 +108,7 @@ TEST(GatekeeperRejectTest, Reasons) {
   for (uint32_t tag = 0; tag < 4; ++tag) {
     Input input(Marked(BeginDiscoveryReject(false).Bits(tag, 3)));
     Owned<GatekeeperReject> m;
-    ASSERT_EQ(DecodeGatekeeperReject(*m, input.reader), kDecoded);
+    ASSERT_EQ(Decode(*m, input.reader), kDecoded);
     EXPECT_EQ(+m->rejectReason.choiceTag, tag);
     EXPECT_EQ(+m->rejectReason.isExtension, 0U);
     EXPECT_EQ(input.Next(), kMarker);
@@ -116,7 +116,7 @@ TEST(GatekeeperRejectTest, Reasons) {
   for (const uint32_t tag : {0U, 2U, 3U, 63U, 64U}) {
     Input input(Marked(BeginDiscoveryReject(false).Bit(true).NormallySmall(tag).OpenType({1, 2})));
     Owned<GatekeeperReject> m;
-    ASSERT_EQ(DecodeGatekeeperReject(*m, input.reader), kDecoded);
+    ASSERT_EQ(Decode(*m, input.reader), kDecoded);
     EXPECT_EQ(+m->rejectReason.choiceTag, tag);
     EXPECT_EQ(+m->rejectReason.isExtension, 1U);
     EXPECT_EQ(input.Next(), kMarker);
@@ -131,7 +131,7 @@ TEST(GatekeeperRejectTest, AltGKInfoInItsAddition) {
   Additions(w, Addition(0, 7) | Addition(6, 7), 7).OpenType(gatekeeper).OpenType({9});
   Input input(Marked(w));
   Owned<GatekeeperReject> m;
-  ASSERT_EQ(DecodeGatekeeperReject(*m, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*m, input.reader), kDecoded);
   ASSERT_EQ(+m->altGKInfo.alternateGatekeeperCount, 1);
   EXPECT_EQ(+m->altGKInfo.alternateGatekeeper[0].needToRegister, 1U);
   EXPECT_EQ(+m->altGKInfo.alternateGatekeeper[0].priority, 127);
@@ -146,7 +146,7 @@ TEST(GatekeeperConfirmTest, AlgorithmIdentifierInItsAddition) {
   Additions(w, Addition(4, 11) | Addition(10, 11), 11).OpenType(BitWriter().OpenType({0x2A, 0x86, 0x48})).OpenType({1});
   Input input(Marked(w));
   Owned<GatekeeperConfirm> m;
-  ASSERT_EQ(DecodeGatekeeperConfirm(*m, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*m, input.reader), kDecoded);
   ASSERT_EQ(+m->algorithmOID.count, 3U);
   EXPECT_EQ(m->algorithmOID.arcs[2], 840U);
   EXPECT_EQ(input.Next(), kMarker);
@@ -156,12 +156,12 @@ TEST(RasMessageTest, UnknownAlternatives) {
   for (uint32_t tag = 25; tag < 32; ++tag) {
     Input input(BitWriter().Bits(tag, 6).Octets(Octets(32, 0)));
     Owned<RasMessageRecord> m;
-    EXPECT_EQ(DecodeRasMessage(*m, input.reader), kMalformed);
+    EXPECT_EQ(Decode(*m, input.reader), kMalformed);
   }
   for (const uint32_t tag : {7U, 63U, 64U, 256U}) {
     Input input(Marked(BitWriter().Bit(true).NormallySmall(tag).OpenType(Octets(40, 0xFF))));
     Owned<RasMessageRecord> m;
-    ASSERT_EQ(DecodeRasMessage(*m, input.reader), kDecoded);
+    ASSERT_EQ(Decode(*m, input.reader), kDecoded);
     EXPECT_EQ(+m->choiceTag, tag & 0xFF);
     EXPECT_EQ(+m->isExtension, 1U);
     EXPECT_EQ(+m->gatekeeperRequest.requestSeqNum, 0);

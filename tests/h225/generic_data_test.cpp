@@ -1,9 +1,9 @@
-#include "h225/common/generic_data.h"
+#include "kelvra/h225/common/generic_data.h"
 
 #include <gtest/gtest.h>
 
-#include "h225/common/generic_data_decode.h"
 #include "h225/decoding.h"
+#include "per/decoder.h"
 
 namespace kelvra::h225 {
 namespace {
@@ -29,13 +29,13 @@ TEST(GenericIdentifierTest, StandardHasAConstrainedAndAnUnboundedForm) {
     Standard(w, 16383);
     Input input(Marked(w));
     Owned<GenericIdentifier> id;
-    ASSERT_EQ(DecodeGenericIdentifier(*id, input.reader), kDecoded);
+    ASSERT_EQ(Decode(*id, input.reader), kDecoded);
     EXPECT_EQ(+id->standard, 16383U);
     EXPECT_EQ(input.Next(), kMarker);
   }
   Input input(Marked(BitWriter().Bits(0, 3).Bit(true).OpenType({0x01, 0x00, 0x00})));
   Owned<GenericIdentifier> id;
-  ASSERT_EQ(DecodeGenericIdentifier(*id, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*id, input.reader), kDecoded);
   EXPECT_EQ(+id->standard, 0x10000U);
   EXPECT_EQ(input.Next(), kMarker);
 }
@@ -43,31 +43,31 @@ TEST(GenericIdentifierTest, StandardHasAConstrainedAndAnUnboundedForm) {
 TEST(GenericIdentifierTest, TheUnboundedFormHasASign) {
   Input input(Marked(BitWriter().Bits(0, 3).Bit(true).OpenType({0x80})));
   Owned<GenericIdentifier> id;
-  ASSERT_EQ(DecodeGenericIdentifier(*id, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*id, input.reader), kDecoded);
   EXPECT_EQ(+id->standard, 0xFFFFFF80U);
 }
 
 TEST(GenericIdentifierTest, IndicesBeyondTheRoot) {
   Input unknown(Marked(BitWriter().Bit(true).NormallySmall(7).OpenType({1, 2})));
   Owned<GenericIdentifier> skipped;
-  ASSERT_EQ(DecodeGenericIdentifier(*skipped, unknown.reader), kDecoded);
+  ASSERT_EQ(Decode(*skipped, unknown.reader), kDecoded);
   EXPECT_EQ(+skipped->choiceTag, 7);
   EXPECT_EQ(+skipped->isExtension, 1U);
   EXPECT_EQ(unknown.Next(), kMarker);
   Input malformed(BitWriter().Bits(3, 3).Octets(Rising(1, 16)));
   Owned<GenericIdentifier> id;
-  EXPECT_EQ(DecodeGenericIdentifier(*id, malformed.reader), kMalformed);
+  EXPECT_EQ(Decode(*id, malformed.reader), kMalformed);
 }
 
 TEST(ContentTest, IndicesBeyondTheRoot) {
   for (uint32_t index = 12; index < 16; ++index) {
     Input input(ContentOf(index).Octets(Rising(1, 8)));
     Owned<Content> content;
-    EXPECT_EQ(DecodeContent(*content, input.reader), kMalformed);
+    EXPECT_EQ(Decode(*content, input.reader), kMalformed);
   }
   Input input(Marked(BitWriter().Bit(true).NormallySmall(256).OpenType({9})));
   Owned<Content> content;
-  ASSERT_EQ(DecodeContent(*content, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*content, input.reader), kDecoded);
   EXPECT_EQ(+content->isExtension, 1U);
   EXPECT_EQ(input.Next(), kMarker);
 }
@@ -82,7 +82,7 @@ TEST(ContentTest, CompoundHasA16BitCount) {
     }
     Input input(Marked(w));
     Owned<Content> content;
-    ASSERT_EQ(DecodeContent(*content, input.reader), kDecoded);
+    ASSERT_EQ(Decode(*content, input.reader), kDecoded);
     ASSERT_EQ(+content->compound.count, count);
     EXPECT_EQ(+content->compound.elements[count - 1].id.standard, count - 1);
     EXPECT_EQ(input.Next(), kMarker);
@@ -98,7 +98,7 @@ TEST(ContentTest, NestedHas4BitsOfCount) {
   }
   Input input(Marked(w));
   Owned<Content> content;
-  ASSERT_EQ(DecodeContent(*content, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*content, input.reader), kDecoded);
   ASSERT_EQ(+content->nested.count, 16);
   EXPECT_EQ(+content->nested.elements[15].id.standard, 15U);
   EXPECT_EQ(input.Next(), kMarker);
@@ -119,7 +119,7 @@ TEST(EnumeratedParameterTest, DepthIsBounded) {
   {
     Input input(Marked(NestedParameters(kMaximumDepth)));
     Owned<EnumeratedParameter> parameter;
-    ASSERT_EQ(DecodeEnumeratedParameter(*parameter, input.reader), kDecoded);
+    ASSERT_EQ(Decode(*parameter, input.reader), kDecoded);
     const EnumeratedParameter* innermost = &*parameter;
     while (innermost->hasContent != 0) innermost = innermost->content.compound.elements;
     EXPECT_EQ(+innermost->id.standard, 1U);
@@ -128,7 +128,7 @@ TEST(EnumeratedParameterTest, DepthIsBounded) {
   }
   Input input(NestedParameters(kMaximumDepth + 1));
   Owned<EnumeratedParameter> parameter;
-  EXPECT_EQ(DecodeEnumeratedParameter(*parameter, input.reader), kMalformed);
+  EXPECT_EQ(Decode(*parameter, input.reader), kMalformed);
   EXPECT_EQ(input.reader.depth, 0U);
 }
 
@@ -144,7 +144,7 @@ TEST(GenericDataTest, ParametersAndAdditions) {
   Additions(w, 1, 2).OpenType({9, 9});
   Input input(Marked(w));
   Owned<GenericData> data;
-  ASSERT_EQ(DecodeGenericData(*data, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*data, input.reader), kDecoded);
   ASSERT_EQ(+data->parametersCount, 2);
   EXPECT_EQ(OctetsOf(data->parameters[0].content.raw), (Octets{1, 2, 3}));
   EXPECT_EQ(+data->parameters[1].id.standard, 9U);
@@ -159,7 +159,7 @@ TEST(GenericDataTest, ListCutShortStopsAtTheFirstMissingElement) {
   Standard(w, 8);
   Input input(w);
   Owned<GenericData> data;
-  EXPECT_EQ(DecodeGenericData(*data, input.reader), kExhausted);
+  EXPECT_EQ(Decode(*data, input.reader), kExhausted);
   EXPECT_EQ(+data->parametersCount, 3) << "kept for the release";
   EXPECT_EQ(+data->parameters[0].id.standard, 8U);
 }
@@ -171,7 +171,7 @@ TEST(FeatureSetTest, ListsKeepTheirLow8Bits) {
   Input input(Marked(w));
   Owned<FeatureSet> set;
   // Wire order of the presence bits: needed, desired, supported.
-  ASSERT_EQ(DecodeFeatureSet(*set, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*set, input.reader), kDecoded);
   EXPECT_EQ(+set->replacementFeatureSet, 1U);
   EXPECT_EQ(+set->hasNeededFeatures, 0U);
   EXPECT_EQ(+set->desiredFeaturesCount, 1);

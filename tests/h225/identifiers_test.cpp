@@ -1,9 +1,9 @@
-#include "h225/common/identifiers.h"
+#include "kelvra/h225/common/identifiers.h"
 
 #include <gtest/gtest.h>
 
-#include "h225/common/identifiers_decode.h"
 #include "h225/decoding.h"
+#include "per/decoder.h"
 
 namespace kelvra::h225 {
 namespace {
@@ -17,18 +17,16 @@ using test::OctetsOf;
 using test::Owned;
 using test::Rising;
 
-// A record of the null-choice kind, which the release walk has nothing to do with.
-template <class Choice>
-struct Decoded {
+struct DecodedNullChoice {
   Status status;
   uint32_t tag, isExtension, next;
 };
 
 template <class Choice>
-Decoded<Choice> Decode(Status (*decode)(Choice&, PerReader&), const BitWriter& value) {
+DecodedNullChoice DecodeNullChoice(const BitWriter& value) {
   Input input(Marked(value));
   Owned<Choice> choice;
-  const Status status = decode(*choice, input.reader);
+  const Status status = DecodeByHand(*choice, input.reader);
   return {status, choice->choiceTag, choice->isExtension, input.Next()};
 }
 
@@ -38,7 +36,7 @@ TEST(CallIdentifierTest, AdditionsAreSkipped) {
   Additions(w, 0b10, 2).OpenType({1, 2});
   Input input(Marked(w));
   Owned<CallIdentifier> identifier;
-  ASSERT_EQ(DecodeCallIdentifier(*identifier, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*identifier, input.reader), kDecoded);
   EXPECT_EQ(OctetsOf(identifier->guid), Rising(0x10, 16));
   EXPECT_EQ(input.Next(), kMarker);
 }
@@ -47,26 +45,26 @@ TEST(CallIdentifierTest, TruncatedGuidSurfacesAtTheNextDecoder) {
   for (const uint32_t octets : {0U, 1U, 15U}) {
     Input input(BitWriter().Bit(false).Octets(Rising(1, octets)));
     Owned<CallIdentifier> identifier;
-    EXPECT_EQ(DecodeCallIdentifier(*identifier, input.reader), kDecoded);
+    EXPECT_EQ(Decode(*identifier, input.reader), kDecoded);
     EXPECT_EQ(+identifier->guid.length, 16U);
     if (octets < 15) {
       EXPECT_TRUE(+identifier->guid.data == nullptr);
     }
     Owned<CallIdentifier> next;
-    EXPECT_EQ(DecodeCallIdentifier(*next, input.reader), kExhausted);
+    EXPECT_EQ(Decode(*next, input.reader), kExhausted);
     EXPECT_TRUE(next.IsZero());
   }
 }
 
 TEST(CallTypeTest, RootAndDiscardedExtension) {
   for (uint32_t tag = 0; tag < 4; ++tag) {
-    const auto m = Decode(DecodeCallType, BitWriter().Bits(tag, 3));
+    const auto m = DecodeNullChoice<CallType>(BitWriter().Bits(tag, 3));
     EXPECT_EQ(m.status, kDecoded);
     EXPECT_EQ(m.tag, tag);
     EXPECT_EQ(m.isExtension, 0U);
     EXPECT_EQ(m.next, kMarker);
   }
-  const auto m = Decode(DecodeCallType, BitWriter().Bit(true).NormallySmall(3).OpenType({1, 2}));
+  const auto m = DecodeNullChoice<CallType>(BitWriter().Bit(true).NormallySmall(3).OpenType({1, 2}));
   EXPECT_EQ(m.status, kDecoded);
   EXPECT_EQ(m.tag, 0U);
   EXPECT_EQ(m.isExtension, 1U);
@@ -75,13 +73,13 @@ TEST(CallTypeTest, RootAndDiscardedExtension) {
 
 TEST(PresentationIndicatorTest, RootAndDiscardedExtension) {
   for (uint32_t tag = 0; tag < 4; ++tag) {
-    const auto m = Decode(DecodePresentationIndicator, BitWriter().Bits(tag, 3));
+    const auto m = DecodeNullChoice<PresentationIndicator>(BitWriter().Bits(tag, 3));
     EXPECT_EQ(m.status, tag < 3 ? kDecoded : kMalformed);
     if (tag < 3) {
       EXPECT_EQ(m.tag, tag);
     }
   }
-  const auto m = Decode(DecodePresentationIndicator, BitWriter().Bit(true).NormallySmall(2).OpenType({1}));
+  const auto m = DecodeNullChoice<PresentationIndicator>(BitWriter().Bit(true).NormallySmall(2).OpenType({1}));
   EXPECT_EQ(m.status, kDecoded);
   EXPECT_EQ(m.tag, 0U);
   EXPECT_EQ(m.isExtension, 1U);
@@ -95,7 +93,7 @@ TEST(ScreeningIndicatorTest, TwoBitsAreReadOfThree) {
   for (const auto& c : kCases) {
     Input input(BitWriter().Bits(c.sent, 3).Bits(0b10101, 5));
     Owned<ScreeningIndicator> indicator;
-    ASSERT_EQ(DecodeScreeningIndicator(*indicator, input.reader), kDecoded);
+    ASSERT_EQ(Decode(*indicator, input.reader), kDecoded);
     EXPECT_EQ(+indicator->value, c.kept);
     EXPECT_EQ(+indicator->isExtended, 0U);
     EXPECT_EQ(input.reader.bitOffset, 2U);

@@ -1,12 +1,12 @@
-#include "h225/ras/info_request.h"
+#include "kelvra/h225/ras/info_request.h"
 
 #include <gtest/gtest.h>
 
 #include "h225/common/protocol_version.h"
 #include "h225/messages.h"
-#include "h225/ras/info_request_decode.h"
-#include "h225/ras/info_request_response_decode.h"
-#include "h225/ras/non_standard_message_decode.h"
+#include "kelvra/h225/ras/info_request_response.h"
+#include "kelvra/h225/ras/non_standard_message.h"
+#include "per/decoder.h"
 
 namespace kelvra::h225 {
 namespace {
@@ -27,7 +27,7 @@ TEST(NonStandardMessageTest, EndsBehindItsDataWithoutAdditions) {
   Input input(
       Marked(BitWriter().Bit(false).Align().Bits(0, 16).Bits(1, 2).Bit(false).Octets({181, 0, 0, 9}).OpenType({7, 8})));
   Owned<NonStandardMessage> m;
-  ASSERT_EQ(DecodeNonStandardMessage(*m, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*m, input.reader), kDecoded);
   EXPECT_EQ(OctetsOf(m->nonStandardData.data), (Octets{7, 8}));
   EXPECT_EQ(+m->isExtended, 0U);
   EXPECT_EQ(input.Next(), kMarker);
@@ -37,7 +37,7 @@ TEST(UnknownMessageResponseTest, MessageNotUnderstood) {
   {
     Input input(Marked(BitWriter().Bit(false).Align().Bits(8, 16)));
     Owned<UnknownMessageResponse> m;
-    ASSERT_EQ(DecodeUnknownMessageResponse(*m, input.reader), kDecoded);
+    ASSERT_EQ(Decode(*m, input.reader), kDecoded);
     EXPECT_EQ(+m->requestSeqNum, 9);
     EXPECT_EQ(input.Next(), kMarker);
   }
@@ -46,7 +46,7 @@ TEST(UnknownMessageResponseTest, MessageNotUnderstood) {
   Additions(w, Addition(3, 5) | Addition(4, 5), 5).OpenType(BitWriter().OpenType({1, 2, 3})).OpenType({9, 9});
   Input input(Marked(w));
   Owned<UnknownMessageResponse> m;
-  ASSERT_EQ(DecodeUnknownMessageResponse(*m, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*m, input.reader), kDecoded);
   EXPECT_EQ(OctetsOf(m->messageNotUnderstood), (Octets{1, 2, 3}));
   EXPECT_EQ(input.Next(), kMarker);
 }
@@ -73,7 +73,7 @@ TEST(InfoRequestResponseTest, CallsWithTheirMessages) {
   Additions(w, Addition(3, 8) | Addition(5, 8), 8).OpenType({0x80}).OpenType(BitWriter().Bits(2, 3).Octets({1, 0}));
   Input input(Marked(w));
   Owned<InfoRequestResponse> m;
-  ASSERT_EQ(DecodeInfoRequestResponse(*m, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*m, input.reader), kDecoded);
   EXPECT_EQ(TextOf(m->endpointIdentifier), u"E");
   EXPECT_EQ(+m->needResponse, 1U);
   EXPECT_EQ(+m->irrStatus.choiceTag, 2);
@@ -100,7 +100,7 @@ TEST(InfoRequestResponseTest, UnknownStatusesArePassedOver) {
     Additions(w, Addition(5, 8), 8).OpenType(BitWriter().Bit(true).NormallySmall(index).OpenType({1, 2}));
     Input input(Marked(w));
     Owned<InfoRequestResponse> m;
-    ASSERT_EQ(DecodeInfoRequestResponse(*m, input.reader), kDecoded) << index;
+    ASSERT_EQ(Decode(*m, input.reader), kDecoded) << index;
     EXPECT_EQ(+m->irrStatus.isExtension, 1U);
     EXPECT_EQ(uint32_t{m->irrStatus.choiceTag}, index & 0xFF);
     EXPECT_EQ(+m->irrStatus.segment, 0);
@@ -119,7 +119,7 @@ TEST(InfoRequestResponseTest, ReportedSetupSetsTheVersionMode) {
     test::EmptyEndpointType(pdus).Bit(true).Octets(Rising(0x60, 16)).Bits(0, 3).Bits(0, 3).Bit(true);
     Input input(Marked(ResponseWith(pdus)));
     Owned<InfoRequestResponse> m;
-    ASSERT_EQ(DecodeInfoRequestResponse(*m, input.reader), kDecoded);
+    ASSERT_EQ(Decode(*m, input.reader), kDecoded);
     EXPECT_EQ(+m->perCallInfo[0].pdu[0].sent, 1U);
     EXPECT_EQ(ProtocolVersionMode(), c.mode);
   }
@@ -129,7 +129,7 @@ TEST(InfoRequestResponseTest, FailureWithinAMessageFailsTheResponse) {
   {
     Input input(Marked(ResponseWith(BitWriter().Length(1).Bits(0, 2).Bits(7, 4))));
     Owned<InfoRequestResponse> m;
-    EXPECT_EQ(DecodeInfoRequestResponse(*m, input.reader), kMalformed);
+    EXPECT_EQ(Decode(*m, input.reader), kMalformed);
   }
   // Generic data that holds itself, deeper than is followed.
   BitWriter parameter;
@@ -142,7 +142,7 @@ TEST(InfoRequestResponseTest, FailureWithinAMessageFailsTheResponse) {
   pdus.OpenType(BitWriter().Length(1).Bits(0b01, 2).Bits(0, 4).Align().Bits(0, 16).Bits(0, 16).Octets(parameter));
   Input input(Marked(ResponseWith(pdus)));
   Owned<InfoRequestResponse> m;
-  EXPECT_EQ(DecodeInfoRequestResponse(*m, input.reader), kMalformed);
+  EXPECT_EQ(Decode(*m, input.reader), kMalformed);
   EXPECT_EQ(input.reader.depth, 0U);
 }
 
@@ -162,7 +162,7 @@ TEST(InfoRequestResponseTest, MessagesPastTheAllowanceAreRefused) {
   }
   Input input(Marked(w));
   Owned<InfoRequestResponse> m;
-  EXPECT_EQ(DecodeInfoRequestResponse(*m, input.reader), kRefused);
+  EXPECT_EQ(Decode(*m, input.reader), kRefused);
   EXPECT_TRUE(input.AtExactEnd());
 }
 

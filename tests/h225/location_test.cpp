@@ -1,9 +1,9 @@
-#include "h225/ras/location.h"
+#include "kelvra/h225/ras/location.h"
 
 #include <gtest/gtest.h>
 
 #include "h225/decoding.h"
-#include "h225/ras/location_decode.h"
+#include "per/decoder.h"
 
 namespace kelvra::h225 {
 namespace {
@@ -28,7 +28,7 @@ TEST(LocationRequestTest, HopCountHas255Values) {
     Additions(w, Addition(1, 12) | Addition(10, 12), 12).OpenType({0x80}).OpenType({c.coded});
     Input input(Marked(w));
     Owned<LocationRequest> m;
-    ASSERT_EQ(DecodeLocationRequest(*m, input.reader), kDecoded);
+    ASSERT_EQ(Decode(*m, input.reader), kDecoded);
     EXPECT_TRUE(+m->destinationInfo == nullptr);
     EXPECT_EQ(OctetsOf(m->replyAddress.ipAddress.ip), (Octets{10, 1, 2, 3}));
     EXPECT_EQ(+m->canMapAlias, 1U);
@@ -47,7 +47,7 @@ TEST(LocationRejectTest, OtherReasonsKeepNoContents) {
     Input input(
         Marked(BeginLocationReject().Bit(true).NormallySmall(index).OpenType({1, 0x05, 0x00, 0x40, 0x00, 0x41})));
     Owned<LocationReject> m;
-    ASSERT_EQ(DecodeLocationReject(*m, input.reader), kDecoded);
+    ASSERT_EQ(Decode(*m, input.reader), kDecoded);
     EXPECT_EQ(+m->rejectReason.choiceTag, index & 0xFF);
     EXPECT_EQ(+m->rejectReason.isExtension, 1U);
     EXPECT_EQ(+m->rejectReason.routeCalltoSCN.count, 0);

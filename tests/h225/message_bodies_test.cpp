@@ -1,13 +1,14 @@
 // Setup, Connect and the other call-signalling bodies.
 #include <gtest/gtest.h>
 
-#include "h225/call/answer_uuie_decode.h"
-#include "h225/call/h323_user_information_decode.h"
-#include "h225/call/information_uuie_decode.h"
-#include "h225/call/release_complete_uuie_decode.h"
-#include "h225/call/setup_uuie_decode.h"
 #include "h225/common/protocol_version.h"
 #include "h225/messages.h"
+#include "kelvra/h225/call/answer_uuie.h"
+#include "kelvra/h225/call/h323_user_information.h"
+#include "kelvra/h225/call/information_uuie.h"
+#include "kelvra/h225/call/release_complete_uuie.h"
+#include "kelvra/h225/call/setup_uuie.h"
+#include "per/decoder.h"
 
 namespace kelvra::h225 {
 namespace {
@@ -34,7 +35,7 @@ TEST(SetupTest, FastStartElementsAreOpenTypes) {
   Additions(w, Addition(6, 7), 7).OpenType(list);
   Input input(Marked(w));
   Owned<SetupUUIE> m;
-  ASSERT_EQ(DecodeSetupUUIE(*m, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*m, input.reader), kDecoded);
   ASSERT_EQ(+m->fastStartCount, 2);
   EXPECT_EQ(+m->fastStart[0].forwardLogicalChannelNumber, 11);
   EXPECT_EQ(+m->fastStart[1].forwardLogicalChannelNumber, 12) << "octets left in the first are passed over";
@@ -49,7 +50,7 @@ TEST(SetupTest, FastStartElementsThatAreNotReachedStayZero) {
   Additions(w, Addition(6, 7), 7).OpenType(list);
   Input input(w.Done());
   Owned<SetupUUIE> m;
-  EXPECT_EQ(DecodeSetupUUIE(*m, input.reader), kDecoded) << "that the reader stands at its end is for others to see";
+  EXPECT_EQ(Decode(*m, input.reader), kDecoded) << "that the reader stands at its end is for others to see";
   ASSERT_EQ(+m->fastStartCount, 3);
   EXPECT_EQ(+m->fastStart[0].forwardLogicalChannelNumber, 11);
   const auto* unread = reinterpret_cast<const uint8_t*>(&m->fastStart[1]);
@@ -61,7 +62,7 @@ TEST(SetupTest, MaintainConnectionFollowsItsOwnFlag) {
   Additions(w, Addition(11, 12), 12).OpenType({0x80});
   Input input(Marked(w));
   Owned<SetupUUIE> m;
-  ASSERT_EQ(DecodeSetupUUIE(*m, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*m, input.reader), kDecoded);
   EXPECT_EQ(+m->maintainConnection, 1U);
   EXPECT_EQ(+m->hasMultipleCalls, 0U);
   EXPECT_EQ(input.Next(), kMarker);
@@ -75,7 +76,7 @@ TEST(SetupTest, ScreeningIndicatorNullsAndUnknownAdditions) {
   w.OpenType(BitWriter().Length(1).OpenType({1, 2})).OpenType({30});  // hopCount is beyond the known
   Input input(Marked(w));
   Owned<SetupUUIE> m;
-  ASSERT_EQ(DecodeSetupUUIE(*m, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*m, input.reader), kDecoded);
   ASSERT_EQ(+m->languageCount, 2);
   EXPECT_EQ(TextOf(m->language[0]), "en");
   EXPECT_EQ(TextOf(m->language[1]), std::string(32, 'x'));
@@ -94,7 +95,7 @@ TEST(SetupTest, ConferenceGoalsAndCallTypes) {
     w.Bit(true).NormallySmall(2).OpenType({1});
     Input input(Marked(w));
     Owned<SetupUUIE> m;
-    ASSERT_EQ(DecodeSetupUUIE(*m, input.reader), kDecoded);
+    ASSERT_EQ(Decode(*m, input.reader), kDecoded);
     EXPECT_EQ(+m->conferenceGoal.choiceTag, goal);
     EXPECT_EQ(+m->conferenceGoal.isExtension, 1U);
     EXPECT_EQ(+m->callType.choiceTag, 0) << "discarded";
@@ -106,7 +107,7 @@ TEST(SetupTest, ConferenceGoalsAndCallTypes) {
   test::EmptyEndpointType(w).Bit(false).Octets(Rising(1, 16)).Bits(3, 3);
   Input input(Marked(w));
   Owned<SetupUUIE> m;
-  EXPECT_EQ(DecodeSetupUUIE(*m, input.reader), kMalformed);
+  EXPECT_EQ(Decode(*m, input.reader), kMalformed);
 }
 
 TEST(ConnectTest, UnknownAdditionsAreSkipped) {
@@ -114,7 +115,7 @@ TEST(ConnectTest, UnknownAdditionsAreSkipped) {
   Additions(w, Addition(11, 17) | 0b11, 17).OpenType({0xFF}).OpenType({1, 2}).OpenType({3});
   Input input(Marked(w));
   Owned<ConnectUUIE> m;
-  ASSERT_EQ(DecodeConnectUUIE(*m, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*m, input.reader), kDecoded);
   EXPECT_EQ(+m->hasFastConnectRefused, 1U);
   EXPECT_EQ(+m->fastConnectRefused, 0);
   EXPECT_EQ(input.Next(), kMarker);
@@ -128,7 +129,7 @@ TEST(ConnectTest, BothConnectionFlags) {
   Additions(w, 0b11, 7).OpenType({0x80}).OpenType({0x80});
   Input input(Marked(w));
   Owned<ConnectUUIE> m;
-  ASSERT_EQ(DecodeConnectUUIE(*m, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*m, input.reader), kDecoded);
   EXPECT_EQ(+m->multipleCalls, 1U);
   EXPECT_EQ(+m->maintainConnection, 1U);
   EXPECT_EQ(input.Next(), kMarker);
@@ -142,7 +143,7 @@ TEST(ConnectTest, MultipleCallsAloneTakesTheNextAdditionAsMaintainConnection) {
   w.OpenType(BitWriter().Bits(0b011, 3));
   Input input(Marked(w));
   Owned<ConnectUUIE> m;
-  ASSERT_EQ(DecodeConnectUUIE(*m, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*m, input.reader), kDecoded);
   EXPECT_EQ(+m->multipleCalls, 0U);
   EXPECT_EQ(+m->hasMaintainConnection, 0U);
   EXPECT_EQ(+m->maintainConnection, 1U);
@@ -156,7 +157,7 @@ TEST(ConnectTest, MaintainConnectionAloneIsReadAsTheNextAddition) {
   Additions(w, Addition(6, 10) | Addition(9, 10), 10).OpenType(Presentation(1)).OpenType(Presentation(2));
   Input input(w);
   Owned<ConnectUUIE> m;
-  ASSERT_EQ(DecodeConnectUUIE(*m, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*m, input.reader), kDecoded);
   EXPECT_EQ(+m->hasMaintainConnection, 1U);
   EXPECT_EQ(+m->maintainConnection, 0U);
   EXPECT_EQ(+m->presentationIndicator.choiceTag, 1);
@@ -170,7 +171,7 @@ TEST(AlertingTest, MaintainConnectionFollowsItsOwnFlag) {
   Additions(w, Addition(6, 7), 7).OpenType({0x80});
   Input input(Marked(w));
   Owned<AlertingUUIE> m;
-  ASSERT_EQ(DecodeAlertingUUIE(*m, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*m, input.reader), kDecoded);
   EXPECT_EQ(+m->maintainConnection, 1U);
   EXPECT_EQ(input.Next(), kMarker);
 }
@@ -179,12 +180,12 @@ TEST(ReleaseCompleteTest, Reasons) {
   for (uint32_t tag = 12; tag < 16; ++tag) {
     Input input(BitWriter().Bits(tag, 5).Octets(Rising(1, 4)));
     Owned<ReleaseCompleteReason> m;
-    EXPECT_EQ(DecodeReleaseCompleteReason(*m, input.reader), kMalformed);
+    EXPECT_EQ(Decode(*m, input.reader), kMalformed);
   }
   for (const uint32_t tag : {0U, 6U, 10U, 11U, 261U, 262U}) {
     Input input(Marked(BitWriter().Bit(true).NormallySmall(tag).OpenType(Rising(1, 16))));
     Owned<ReleaseCompleteReason> m;
-    ASSERT_EQ(DecodeReleaseCompleteReason(*m, input.reader), kDecoded);
+    ASSERT_EQ(Decode(*m, input.reader), kDecoded);
     EXPECT_EQ(+m->choiceTag, tag & 0xFF);
     EXPECT_EQ(OctetsOf(m->replaceWithConferenceInvite), tag == 6 ? Rising(1, 16) : Octets());
     EXPECT_EQ(input.Next(), kMarker);
@@ -197,7 +198,7 @@ int32_t ModeAfter(const Octets& identifier) {
   w.Bits(0, 3).OpenType(identifier).Bit(false).Octets(Rising(1, 16));
   Input input(Marked(w));
   Owned<CallStatusUUIE> m;
-  EXPECT_EQ(DecodeCallStatusUUIE(*m, input.reader), kDecoded);
+  EXPECT_EQ(Decode(*m, input.reader), kDecoded);
   EXPECT_EQ(input.Next(), kMarker);
   return ProtocolVersionMode();
 }
@@ -218,7 +219,7 @@ TEST(H323UUPDUTest, TwoAdditionsAtMost) {
   Additions(w, 0b01, 2).OpenType({0x80});
   Input input(Marked(w));
   Owned<H323UUPDU> m;
-  ASSERT_EQ(DecodeH323UUPDU(*m, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*m, input.reader), kDecoded);
   EXPECT_EQ(+m->h323MessageBody.isExtension, 1U);
   EXPECT_EQ(+m->h323MessageBody.choiceTag, 1);
   EXPECT_EQ(+m->h245TunnellingPresent, 1U);
@@ -236,7 +237,7 @@ TEST(H323UUPDUTest, ControlCountKeepsItsLow8BitsAndTheReaderResumes) {
   Additions(w, Addition(2, 11) | Addition(6, 11) | 1, 11).OpenType(list).OpenType({1}).OpenType({2});
   Input input(Marked(w));
   Owned<H323UUPDU> m;
-  ASSERT_EQ(DecodeH323UUPDU(*m, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*m, input.reader), kDecoded);
   ASSERT_EQ(+m->h245ControlCount, 44);
   EXPECT_EQ(OctetsOf(m->h245Control[43]), Octets{43});
   EXPECT_EQ(+m->provisionalRespToH245TunnellingPresent, 1U);
@@ -247,14 +248,14 @@ TEST(H323UUPDUTest, UnknownBodiesAreSkipped) {
   for (const uint32_t tag : {6U, 63U, 256U, 258U}) {
     Input input(Marked(BitWriter().Bits(0, 2).Bit(true).NormallySmall(tag).OpenType(Octets(60, 0xFF))));
     Owned<H323UUPDU> m;
-    ASSERT_EQ(DecodeH323UUPDU(*m, input.reader), kDecoded) << tag;
+    ASSERT_EQ(Decode(*m, input.reader), kDecoded) << tag;
     EXPECT_EQ(+m->h323MessageBody.choiceTag, tag & 0xFF);
     EXPECT_EQ(+m->h323MessageBody.status.protocolIdentifier.count, 0U) << tag;
     EXPECT_EQ(input.Next(), kMarker);
   }
   Input input(BitWriter().Bits(0, 3).Bits(7, 3).Octets(Rising(1, 9)));
   Owned<H323UUPDU> m;
-  EXPECT_EQ(DecodeH323UUPDU(*m, input.reader), kMalformed);
+  EXPECT_EQ(Decode(*m, input.reader), kMalformed);
 }
 
 TEST(H323UserInformationTest, UserDataOf131Octets) {
@@ -263,7 +264,7 @@ TEST(H323UserInformationTest, UserDataOf131Octets) {
   Additions(w, 1, 1).OpenType({1});
   Input input(Marked(w));
   Owned<H323UserInformation> m;
-  ASSERT_EQ(DecodeH323UserInformation(*m, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*m, input.reader), kDecoded);
   EXPECT_EQ(+m->userData.protocolDiscriminator, 0x44);
   EXPECT_EQ(OctetsOf(m->userData.userInformation), Rising(1, 131));
   EXPECT_EQ(+m->userDataExtension, 1U);

@@ -7,8 +7,8 @@
 #include <memory>
 #include <string>
 
-#include "api/kelvra.h"
 #include "h225/q931_builder.h"
+#include "kelvra/kelvra.h"
 
 namespace kelvra::h225 {
 namespace {

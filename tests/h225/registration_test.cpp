@@ -1,9 +1,11 @@
 // Registration: what a message means by its additions depends on the H.225.0 version that it names.
+#include "kelvra/h225/ras/registration.h"
+
 #include <gtest/gtest.h>
 
 #include "h225/common/protocol_version.h"
 #include "h225/decoding.h"
-#include "h225/ras/registration_decode.h"
+#include "per/decoder.h"
 
 namespace kelvra::h225 {
 namespace {
@@ -76,7 +78,7 @@ struct Reading {
 Reading ReadRequest(const Octets& octets) {
   Input input(octets);
   Owned<RegistrationRequest> m;
-  const bool decoded = DecodeRegistrationRequest(*m, input.reader) == kDecoded;
+  const bool decoded = Decode(*m, input.reader) == kDecoded;
   return {m->hasKeepAlive & m->keepAlive,
           m->hasMaintainConnection & m->maintainConnection,
           m->hasVersionThreeBoolean,
@@ -98,7 +100,7 @@ struct Grant {
 Grant ReadGrant(const Octets& octets) {
   Input input(octets);
   Owned<RegistrationConfirm> m;
-  EXPECT_EQ(DecodeRegistrationConfirm(*m, input.reader), kDecoded);
+  EXPECT_EQ(Decode(*m, input.reader), kDecoded);
   const RegistrationConfirm::PreGrantedARQ& grant = m->preGrantedARQ;
   return {grant.irrFrequencyInCall,
           grant.totalBandwidthRestriction,
@@ -134,7 +136,7 @@ TEST(RegistrationTest, PreGrantThatEndsBehindItsLengthIsNotOne) {
   BitWriter w = BeginRegistrationConfirm(ProtocolIdentifier(4), true);
   Input input(Additions(w, Addition(6, 7), 7).Length(5));
   Owned<RegistrationConfirm> m;
-  EXPECT_EQ(DecodeRegistrationConfirm(*m, input.reader), kExhausted);
+  EXPECT_EQ(Decode(*m, input.reader), kExhausted);
 }
 
 TEST(RegistrationTest, UnknownVersionIsRefusedAtOnce) {
@@ -150,13 +152,13 @@ TEST(RegistrationTest, UnknownVersionIsRefusedAtOnce) {
     SCOPED_TRACE(testing::PrintToString(identifier));
     Input request(Marked(BeginRegistrationRequest(identifier, false)));
     Owned<RegistrationRequest> m;
-    EXPECT_EQ(DecodeRegistrationRequest(*m, request.reader), kUnsupportedVersion);
+    EXPECT_EQ(Decode(*m, request.reader), kUnsupportedVersion);
     EXPECT_TRUE(request.AtExactEnd());
     EXPECT_EQ(+m->discoveryComplete, 0U);
 
     Input confirm(Marked(BeginRegistrationConfirm(identifier, false)));
     Owned<RegistrationConfirm> c;
-    EXPECT_EQ(DecodeRegistrationConfirm(*c, confirm.reader), kUnsupportedVersion);
+    EXPECT_EQ(Decode(*c, confirm.reader), kUnsupportedVersion);
     EXPECT_TRUE(confirm.AtExactEnd());
     EXPECT_EQ(ProtocolVersionMode(), kVersion2Mode);
   }
@@ -167,7 +169,7 @@ TEST(RegistrationTest, RejectNamesAnyVersion) {
   for (const uint8_t version : {uint8_t{2}, uint8_t{9}}) {
     Input input(Marked(BeginRegistrationReject(version).Bits(6, 4)));
     Owned<RegistrationReject> m;
-    ASSERT_EQ(DecodeRegistrationReject(*m, input.reader), kDecoded);
+    ASSERT_EQ(Decode(*m, input.reader), kDecoded);
     EXPECT_EQ(+m->rejectReason.choiceTag, 6);
     EXPECT_EQ(input.Next(), kMarker);
     EXPECT_EQ(ProtocolVersionMode(), kVersion4Mode);
@@ -177,7 +179,7 @@ TEST(RegistrationTest, RejectNamesAnyVersion) {
 TEST(RegistrationTest, AliasesBeyond255AreKept) {
   Input input(Marked(BeginRegistrationRequest(ProtocolIdentifier(4), false, 300)));
   Owned<RegistrationRequest> m;
-  ASSERT_EQ(DecodeRegistrationRequest(*m, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*m, input.reader), kDecoded);
   ASSERT_EQ(+m->terminalAliasCount, 300U);
   EXPECT_EQ(OctetsOf(m->terminalAlias[299].dialedDigits), Octets{3 + 299 % 10});
   EXPECT_EQ(+m->endpointVendor.vendor.manufacturerCode, 18);
@@ -190,7 +192,7 @@ TEST(RegistrationRejectTest, DuplicateAliasesAreListed) {
   Digit(w, 1);
   Input input(Marked(w));
   Owned<RegistrationReject> m;
-  ASSERT_EQ(DecodeRegistrationReject(*m, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*m, input.reader), kDecoded);
   ASSERT_EQ(+m->rejectReason.duplicateAlias.count, 2);
   EXPECT_EQ(OctetsOf(m->rejectReason.duplicateAlias.elements[1].dialedDigits), Octets{4});
   EXPECT_EQ(input.Next(), kMarker);
@@ -206,7 +208,7 @@ TEST(RegistrationRejectTest, InvalidTerminalAliases) {
   Additions(aliases, 1, 1).OpenType({1, 2});
   Input input(Marked(BeginRegistrationReject().Bit(true).NormallySmall(6).OpenType(aliases)));
   Owned<RegistrationReject> m;
-  ASSERT_EQ(DecodeRegistrationReject(*m, input.reader), kDecoded);
+  ASSERT_EQ(Decode(*m, input.reader), kDecoded);
   const auto& invalid = m->rejectReason.invalidTerminalAliases;
   EXPECT_EQ(+invalid.isExtended, 1U);
   ASSERT_EQ(+invalid.terminalAliasCount, 1);
@@ -222,7 +224,7 @@ TEST(RegistrationRejectTest, OtherExtensionReasonsArePassedOver) {
   for (const uint32_t tag : {0U, 5U, 8U, 9U, 70U, 262U}) {  // 262 has the tag of invalidTerminalAliases
     Input input(Marked(BeginRegistrationReject().Bit(true).NormallySmall(tag).OpenType({0xFF, 2})));
     Owned<RegistrationReject> m;
-    ASSERT_EQ(DecodeRegistrationReject(*m, input.reader), kDecoded);
+    ASSERT_EQ(Decode(*m, input.reader), kDecoded);
     EXPECT_EQ(uint32_t{m->rejectReason.choiceTag}, tag & 0xFF);
     EXPECT_EQ(+m->rejectReason.invalidTerminalAliases.isExtended, 0U);
     EXPECT_EQ(input.Next(), kMarker);

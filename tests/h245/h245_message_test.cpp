@@ -1,15 +1,16 @@
-#include "h245/messages/h245_message.h"
+#include "kelvra/h245/messages/h245_message.h"
 
 #include <gtest/gtest.h>
 
 #include "h225/decoding.h"
-#include "h245/common/generic_capability_decode.h"
-#include "h245/messages/h245_message_decode.h"
+#include "kelvra/h245/common/generic_capability.h"
+#include "per/decoder.h"
 
 namespace kelvra::h245 {
 namespace {
 
 using test::BitWriter;
+using test::DecodeH245;
 using test::Input;
 using test::kMarker;
 using test::Marked;
@@ -19,7 +20,7 @@ using Octets = std::vector<uint8_t>;
 TEST(H245MessageTest, UnknownMessageClassDiscardsItsIndex) {
   Input input(Marked(BitWriter().Bit(true).NormallySmall(3).OpenType({1, 2})));
   Owned<H245MessageRecord> m;
-  DecodeMultimediaSystemControlMessage(*m, input.reader);
+  DecodeH245(*m, input.reader);
   EXPECT_EQ(+m->isExtension, 1U);
   EXPECT_EQ(+m->choiceTag, 0);
   EXPECT_EQ(input.Next(), kMarker);
@@ -30,7 +31,7 @@ TEST(H245MessageTest, UnknownAlternativesOfEachClass) {
     for (const uint32_t tag : {60U, 64U, 256U + 3, 256U + 5}) {
       Input input(Marked(BitWriter().Bits(messageClass, 3).Bit(true).NormallySmall(tag).OpenType(Octets(30, 0xFF))));
       Owned<H245MessageRecord> m;
-      DecodeMultimediaSystemControlMessage(*m, input.reader);
+      DecodeH245(*m, input.reader);
       EXPECT_EQ(+m->choiceTag, messageClass);
       EXPECT_EQ(+m->request.choiceTag, tag & 0xFF) << "all four classes are laid out alike";
       EXPECT_EQ(+m->request.isExtension, 1U);
@@ -57,7 +58,7 @@ TEST(H245MessageTest, RootIndicesBeyondTheAlternativesDecodeNothing) {
       Input input(
           BitWriter().Bits(c.messageClass, 3).Bits(tag, 1 + kRootBits[c.messageClass]).Octets(Octets(40, 0xFF)));
       Owned<H245MessageRecord> m;
-      DecodeMultimediaSystemControlMessage(*m, input.reader);
+      DecodeH245(*m, input.reader);
       EXPECT_EQ(+m->request.choiceTag, tag) << c.messageClass;
       EXPECT_EQ(input.Bit(), 4 + kRootBits[c.messageClass]);
       EXPECT_TRUE(HoldsOnlyItsTags(m)) << c.messageClass << ' ' << tag;
@@ -75,7 +76,7 @@ TEST(H245MessageTest, MultilinkAndLaterAlternativesArePassedOver) {
     w.Bits(c.messageClass, 3).Bit(true).NormallySmall(c.tag).OpenType(Octets(30, 0xFF));
     Input input(Marked(w));
     Owned<H245MessageRecord> m;
-    DecodeMultimediaSystemControlMessage(*m, input.reader);
+    DecodeH245(*m, input.reader);
     EXPECT_EQ(+m->request.isExtension, 1U);
     EXPECT_EQ(+m->request.choiceTag, c.tag) << c.messageClass;
     EXPECT_EQ(input.Next(), kMarker);
@@ -90,7 +91,7 @@ TEST(H245MessageTest, ResumesBehindTheOpenTypeOfAnAlternative) {
     value.resize(length);
     Input input(Marked(BitWriter().Bits(kRequest, 3).Bit(true).NormallySmall(3).OpenType(value)));
     Owned<H245MessageRecord> m;
-    DecodeMultimediaSystemControlMessage(*m, input.reader);
+    DecodeH245(*m, input.reader);
     EXPECT_EQ(+m->request.logicalChannelRateRequest.sequenceNumber, 9);
     if (length >= rate.size()) {
       EXPECT_EQ(+m->request.logicalChannelRateRequest.maximumBitRate, 640U);
@@ -104,7 +105,7 @@ TEST(FunctionNotUnderstoodTest, HoldsAMessageOfThreeClasses) {
   ack.Bits(kIndication, 3).Bits(1, 5).Bits(kResponse, 2).Bits(7, 6).Bit(false).Align().Bits(513 - 1, 16);
   Input input(Marked(ack));
   Owned<H245MessageRecord> m;
-  DecodeMultimediaSystemControlMessage(*m, input.reader);
+  DecodeH245(*m, input.reader);
   FunctionNotUnderstood& inner = m->indication.functionNotUnderstood;
   EXPECT_EQ(+inner.choiceTag, kResponse);
   EXPECT_EQ(+inner.response.choiceTag, 7);
@@ -118,7 +119,7 @@ TEST(FunctionNotUnderstoodTest, NonStandardMessageIsOfTheClassThatIsReturned) {
   command.Octets({60, 0}).Bits(21324, 16).OpenType({1, 2, 3});
   Input input(Marked(command));
   Owned<H245MessageRecord> m;
-  DecodeMultimediaSystemControlMessage(*m, input.reader);
+  DecodeH245(*m, input.reader);
   H245NonStandardMessageRecord& inner = m->indication.functionNotUnderstood.command.nonStandard;
   EXPECT_EQ(+inner.messageClass, kCommand);
   EXPECT_EQ(test::OctetsAt(inner.nonStandardData.data, inner.nonStandardData.dataLength), (Octets{1, 2, 3}));
@@ -128,7 +129,7 @@ TEST(FunctionNotUnderstoodTest, NonStandardMessageIsOfTheClassThatIsReturned) {
 TEST(FunctionNotUnderstoodTest, FourthIndexDecodesNothing) {
   Input input(BitWriter().Bits(kIndication, 3).Bits(1, 5).Bits(3, 2).Octets(Octets(40, 0xFF)));
   Owned<H245MessageRecord> m;
-  DecodeMultimediaSystemControlMessage(*m, input.reader);
+  DecodeH245(*m, input.reader);
   EXPECT_EQ(+m->indication.functionNotUnderstood.choiceTag, 3);
   EXPECT_EQ(input.Bit(), 10U);
 }
@@ -150,7 +151,7 @@ TEST(GenericParameterTest, NestsToTheMaximumDepthAndWhatFollowsATooDeepOneIsEmpt
     NestedParameter(w, levels);
     Input input(Marked(w));
     Owned<GenericParameter> m;
-    DecodeGenericParameter(*m, input.reader);
+    DecodeH245(*m, input.reader);
     const GenericParameter* inner = &*m;
     for (uint32_t level = 1; level < levels; ++level) {
       EXPECT_EQ(+inner->supersedesCount, 0) << level;
@@ -166,7 +167,7 @@ TEST(GenericParameterTest, NestsToTheMaximumDepthAndWhatFollowsATooDeepOneIsEmpt
 TEST(ParameterValueTest, ListCountKeepsItsLow8Bits) {
   Input input(Marked(BitWriter().Bits(7, 4).Length(257).Bits(0, 2).Bits(0, 3).Bits(127, 7).Bits(0, 4)));
   Owned<ParameterValue> m;
-  DecodeParameterValue(*m, input.reader);
+  DecodeH245(*m, input.reader);
   ASSERT_EQ(+m->genericParameter.count, 1);
   EXPECT_EQ(+m->genericParameter.elements[0].parameterIdentifier.standard, 127);
   EXPECT_EQ(input.Next(), kMarker);

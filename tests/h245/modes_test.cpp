@@ -2,14 +2,16 @@
 #include <gtest/gtest.h>
 
 #include "h225/decoding.h"
-#include "h245/messages/multiplex_entry_decode.h"
-#include "h245/modes/mode_element_type_decode.h"
-#include "h245/modes/request_mode_decode.h"
+#include "kelvra/h245/messages/multiplex_entry.h"
+#include "kelvra/h245/modes/mode_element_type.h"
+#include "kelvra/h245/modes/request_mode.h"
+#include "per/decoder.h"
 
 namespace kelvra::h245 {
 namespace {
 
 using test::BitWriter;
+using test::DecodeH245;
 using test::Input;
 using test::kMarker;
 using test::Marked;
@@ -39,7 +41,7 @@ TEST(MultiplexEntrySendTest, WhatFollowsATooDeepElementIsEmpty) {
   NestedElement(w, kMaximumDepth + 1);
   Input input(w);
   Owned<MultiplexEntrySend> send;
-  DecodeMultiplexEntrySend(*send, input.reader);
+  DecodeH245(*send, input.reader);
   const MultiplexElement& around = ElementOf(*send->multiplexEntryDescriptors->elementList, kMaximumDepth);
   EXPECT_EQ(+around.repeatCount.choiceTag, 0);
   EXPECT_EQ(+around.repeatCount.finite, 1) << "the least value";
@@ -53,7 +55,7 @@ TEST(MultiplexEntrySendTest, ElementsNestToTheMaximumDepth) {
     NestedElement(w, levels);
     Input input(Marked(w));
     Owned<MultiplexEntrySend> send;
-    DecodeMultiplexEntrySend(*send, input.reader);
+    DecodeH245(*send, input.reader);
     const MultiplexElement* element = send->multiplexEntryDescriptors->elementList;
     uint32_t found = 1;
     for (; element->type.choiceTag == 1; ++found) element = element->type.subElementList.elements;
@@ -102,7 +104,7 @@ TEST(ModeElementTypeTest, NestsToTheMaximumDepth) {
       NestedType(w, alternative, levels);
       Input input(Marked(w));
       Owned<ModeElementType> type;
-      DecodeModeElementType(*type, input.reader);
+      DecodeH245(*type, input.reader);
       uint32_t found = 1;
       const ModeElementType* innermost = &*type;
       for (; Inner(*innermost) != nullptr; ++found) innermost = Inner(*innermost);
@@ -118,7 +120,7 @@ TEST(ModeElementTypeTest, WhatFollowsATooDeepTypeIsEmpty) {
   NestedType(w, kMultiplePayloadStreamMode, kMaximumDepth + 1);
   Input input(w);
   Owned<ModeElementType> type;
-  DecodeModeElementType(*type, input.reader);
+  DecodeH245(*type, input.reader);
   const ModeElementType* around = &*type;
   for (uint32_t level = 1; level < kMaximumDepth; ++level) around = Inner(*around);
   EXPECT_EQ(+around->multiplePayloadStreamMode.elementsCount, 2);
@@ -132,13 +134,13 @@ TEST(ModeElementTypeTest, ARefusedBlockIsMissing) {
   Input fec(Marked(type));
   fec.reader.allowance = 0;
   Owned<ModeElementType> record;
-  DecodeModeElementType(*record, fec.reader);
+  DecodeH245(*record, fec.reader);
   EXPECT_EQ(Inner(*record), nullptr);
 
   Input request(BitWriter().Bit(false).Align().Bits(9, 8).Bits(2 - 1, 8).Octets(std::vector<uint8_t>(64)));
   request.reader.allowance = sizeof(ModeDescription) * 2;
   Owned<RequestMode> mode;
-  DecodeRequestMode(*mode, request.reader);
+  DecodeH245(*mode, request.reader);
   ASSERT_NE(+mode->requestedModes, nullptr);
   EXPECT_EQ(+mode->requestedModes[0].elements, nullptr);
   EXPECT_EQ(+mode->requestedModes[1].count, 0) << "the reader is at its end";

@@ -1,15 +1,16 @@
-#include "h245/messages/non_standard_message.h"
+#include "kelvra/h245/messages/non_standard_message.h"
 
 #include <gtest/gtest.h>
 
 #include "h225/decoding.h"
-#include "h245/messages/h245_message_decode.h"
-#include "h245/messages/non_standard_message_decode.h"
+#include "kelvra/h245/messages/h245_message.h"
+#include "per/decoder.h"
 
 namespace kelvra::h245 {
 namespace {
 
 using test::BitWriter;
+using test::DecodeH245;
 using test::Input;
 using test::kMarker;
 using test::Marked;
@@ -39,7 +40,7 @@ TEST(NonStandardMessageTest, PrivateMessageOfEachClass) {
     Input input(Marked(w));
     const uint32_t allowance = input.reader.allowance;
     Owned<H245MessageRecord> m;
-    DecodeMultimediaSystemControlMessage(*m, input.reader);
+    DecodeH245(*m, input.reader);
     const H245NonStandardMessageRecord& body = m->request.nonStandard;  // all four classes are laid out alike
     EXPECT_EQ(+body.messageClass, messageClass);
     EXPECT_EQ(+body.privateMessageDecoded, 1U);
@@ -57,7 +58,7 @@ TEST(NonStandardMessageTest, PrivateMessageWithoutPayloadAndWithAdditions) {
   BitWriter w;
   Input input(Marked(PrivateIdentifier(w).OpenType(data)));
   Owned<H245NonStandardMessageRecord> m;
-  DecodeNonStandardMessage(*m, input.reader);
+  DecodeH245(*m, input.reader);
   EXPECT_EQ(+m->privateMessageDecoded, 1U);
   EXPECT_EQ(+m->privateMessage.messageType, 5);
   EXPECT_EQ(+m->privateMessage.hasPayload, 0U);
@@ -69,7 +70,7 @@ TEST(NonStandardMessageTest, PayloadMayEndWithItsData) {
   BitWriter w;
   Input input(Marked(PrivateIdentifier(w).OpenType(PrivateData(1, {2, 3}))));
   Owned<H245NonStandardMessageRecord> m;
-  DecodeNonStandardMessage(*m, input.reader);
+  DecodeH245(*m, input.reader);
   EXPECT_EQ(+m->privateMessageDecoded, 1U);
   EXPECT_EQ(OctetsOf(m->privateMessage.payload), (Octets{2, 3}));
   EXPECT_EQ(input.Next(), kMarker);
@@ -81,7 +82,7 @@ TEST(NonStandardMessageTest, NoDataIsNoPrivateMessage) {
   Input input(Marked(w));
   Owned<H245NonStandardMessageRecord> m;
   m->messageClass = kCommand;
-  DecodeNonStandardMessage(*m, input.reader);
+  DecodeH245(*m, input.reader);
   EXPECT_EQ(+m->nonStandardData.nonStandardIdentifier.h221NonStandard.t35CountryCode, 86);
   EXPECT_EQ(+m->isExtended, 1U);
   EXPECT_EQ(+m->privateMessageDecoded, 0U);
@@ -94,7 +95,7 @@ TEST(NonStandardMessageTest, OtherIdentifiersKeepTheirData) {
   for (const Octets& number : {Octets{87, 1, 0, 1}, {86, 0, 0, 1}, {86, 1, 0, 2}, {86, 1, 1, 1}}) {
     Input input(Marked(BitWriter().Bits(0b01, 2).Octets(number).OpenType(data)));
     Owned<H245NonStandardMessageRecord> m;
-    DecodeNonStandardMessage(*m, input.reader);
+    DecodeH245(*m, input.reader);
     EXPECT_EQ(+m->privateMessageDecoded, 0U);
     EXPECT_EQ(OctetsAt(m->nonStandardData.data, m->nonStandardData.dataLength), data);
     EXPECT_EQ(input.Next(), kMarker);
@@ -111,7 +112,7 @@ TEST(NonStandardMessageTest, FailedPrivateMessageEndsTheMessage) {
     PrivateIdentifier(w, true).OpenType(data).NormallySmall(0).Bit(true).OpenType({7, 7});
     Input input(w);
     Owned<H245NonStandardMessageRecord> m;
-    DecodeNonStandardMessage(*m, input.reader);
+    DecodeH245(*m, input.reader);
     EXPECT_EQ(+m->privateMessageDecoded, 0U);
     EXPECT_EQ(+m->privateMessage.payload.data, nullptr);
     EXPECT_TRUE(input.AtExactEnd()) << data.size();
@@ -123,7 +124,7 @@ TEST(NonStandardMessageTest, PayloadMayBeEmpty) {
     BitWriter w;
     Input input(Marked(PrivateIdentifier(w).OpenType(data)));
     Owned<H245NonStandardMessageRecord> m;
-    DecodeNonStandardMessage(*m, input.reader);
+    DecodeH245(*m, input.reader);
     EXPECT_EQ(+m->privateMessageDecoded, 1U);
     EXPECT_EQ(+m->privateMessage.hasPayload, 1U);
     EXPECT_EQ(+m->privateMessage.payload.length, 0U);
@@ -136,7 +137,7 @@ TEST(NonStandardMessageTest, PayloadBeyondTheAllowanceFails) {
   Input input(Marked(PrivateIdentifier(w).OpenType(PrivateData(1, {2, 3}))));
   input.reader.allowance = 1;
   Owned<H245NonStandardMessageRecord> m;
-  DecodeNonStandardMessage(*m, input.reader);
+  DecodeH245(*m, input.reader);
   EXPECT_EQ(+m->privateMessageDecoded, 0U);
   EXPECT_TRUE(input.AtExactEnd());
 }
@@ -146,7 +147,7 @@ TEST(NonStandardMessageTest, DataBeyondTheEndReadsAsZero) {
   PrivateIdentifier(w).Length(20).Octets({0x40, 1, 4, 9, 9});
   Input input(w);
   Owned<H245NonStandardMessageRecord> m;
-  DecodeNonStandardMessage(*m, input.reader);
+  DecodeH245(*m, input.reader);
   EXPECT_EQ(+m->privateMessageDecoded, 1U);
   EXPECT_EQ(OctetsOf(m->privateMessage.payload), (Octets{9, 9, 0, 0}));
   EXPECT_EQ(input.Bit(), 8U * (6 + 20));
@@ -157,7 +158,7 @@ TEST(NonStandardMessageTest, ClassWithoutPrivateMessagesStopsBehindTheLength) {
   Input input(PrivateIdentifier(w, true).OpenType({0x00, 1}));
   Owned<H245NonStandardMessageRecord> m;
   m->messageClass = kIndication + 1;
-  DecodeNonStandardMessage(*m, input.reader);
+  DecodeH245(*m, input.reader);
   EXPECT_EQ(+m->privateMessageDecoded, 0U);
   EXPECT_EQ(input.Bit(), 8U * 6);
 }

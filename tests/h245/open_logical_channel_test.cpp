@@ -1,17 +1,18 @@
-#include "h245/channels/open_logical_channel.h"
+#include "kelvra/h245/channels/open_logical_channel.h"
 
 #include <gtest/gtest.h>
 
 #include "h225/decoding.h"
-#include "h245/channels/data_type_decode.h"
-#include "h245/channels/h2250_parameters_decode.h"
-#include "h245/channels/open_logical_channel_decode.h"
+#include "kelvra/h245/channels/data_type.h"
+#include "kelvra/h245/channels/h2250_parameters.h"
+#include "per/decoder.h"
 
 namespace kelvra::h245 {
 namespace {
 
 using test::Additions;
 using test::BitWriter;
+using test::DecodeH245;
 using test::Input;
 using test::kMarker;
 using test::Marked;
@@ -46,7 +47,7 @@ TEST(OpenLogicalChannelTest, NoneLeavesTheBodyEmptyAndTheReaderBehindIt) {
   NoParameters(NullData(w));
   Input input(Marked(w));
   Owned<OpenLogicalChannel> channel;
-  DecodeOpenLogicalChannel(*channel, input.reader);
+  DecodeH245(*channel, input.reader);
   const auto& forward = channel->forwardLogicalChannelParameters;
   EXPECT_EQ(+channel->forwardLogicalChannelNumber, 7);
   EXPECT_EQ(+forward.portNumber, 65535);
@@ -62,7 +63,7 @@ TEST(OpenLogicalChannelTest, ExtensionIndex256IsNotTheH2250Parameters) {
   NullData(w).Bit(true).NormallySmall(256).OpenType(Octets(8, 0xFF));
   Input input(Marked(w));
   Owned<OpenLogicalChannel> channel;
-  DecodeOpenLogicalChannel(*channel, input.reader);
+  DecodeH245(*channel, input.reader);
   const auto& parameters = channel->forwardLogicalChannelParameters.multiplexParameters;
   EXPECT_EQ(+parameters.h2250LogicalChannelParameters.hasMediaChannel, 0U);
   EXPECT_EQ(input.Next(), kMarker);
@@ -74,7 +75,7 @@ TEST(OpenLogicalChannelTest, ImpossibleRootIndexDecodesNothing) {
   NullData(w).Bits(3, 3);
   Input input(Marked(w));
   Owned<OpenLogicalChannel> channel;
-  DecodeOpenLogicalChannel(*channel, input.reader);
+  DecodeH245(*channel, input.reader);
   EXPECT_EQ(+channel->forwardLogicalChannelParameters.multiplexParameters.choiceTag, 3);
   EXPECT_EQ(input.Next(), kMarker);
 }
@@ -96,7 +97,7 @@ TEST(OpenLogicalChannelTest, ForwardAdditions) {
     }
     Input input(Marked(w));
     Owned<OpenLogicalChannel> channel;
-    DecodeOpenLogicalChannel(*channel, input.reader);
+    DecodeH245(*channel, input.reader);
     const auto& forward = channel->forwardLogicalChannelParameters;
     EXPECT_EQ(+forward.hasForwardLogicalChannelDependency, c.dependency != 0 ? 1U : 0U);
     EXPECT_EQ(+forward.forwardLogicalChannelDependency, c.dependency);
@@ -112,7 +113,7 @@ TEST(OpenLogicalChannelTest, BitmapOf256AdditionsCountsAsNone) {
   NoParameters(NullData(w)).NormallySmall(255);
   Input input(Marked(w));
   Owned<OpenLogicalChannel> channel;
-  DecodeOpenLogicalChannel(*channel, input.reader);
+  DecodeH245(*channel, input.reader);
   EXPECT_EQ(+channel->forwardLogicalChannelParameters.hasForwardLogicalChannelDependency, 0U);
   EXPECT_EQ(input.Next(), kMarker);
 }
@@ -125,7 +126,7 @@ TEST(H2250LogicalChannelParametersTest, NonStandardCountKeepsItsLow8Bits) {
     w.Align().Bits(200, 8).Bits(254, 8);
     Input input(Marked(w));
     Owned<H2250LogicalChannelParameters> m;
-    DecodeH2250LogicalChannelParameters(*m, input.reader);
+    DecodeH245(*m, input.reader);
     EXPECT_EQ(+m->nonStandardCount, count & 0xFF);
     EXPECT_EQ(+m->nonStandard == nullptr, count == 256);
     if (count != 256) {
@@ -149,7 +150,7 @@ TEST(H2250LogicalChannelParametersTest, MediaPacketization) {
     if (c.isExtension) w.NormallySmall(c.index).OpenType({0x42, 0x43, 0x44});
     Input input(Marked(w));
     Owned<H2250LogicalChannelParameters> m;
-    DecodeH2250LogicalChannelParameters(*m, input.reader);
+    DecodeH245(*m, input.reader);
     EXPECT_EQ(+m->mediaPacketization.isExtension, c.isExtension ? 1U : 0U);
     EXPECT_EQ(+m->mediaPacketization.choiceTag, c.index & 0xFF);
     EXPECT_EQ(+m->mediaPacketization.mediaPacketizationOctet, c.kept) << c.index;
@@ -165,7 +166,7 @@ TEST(H2250LogicalChannelParametersTest, TerminalLabelsAndAdditions) {
   Additions(w, 0b00101, 5).OpenType(BitWriter().Bit(false).Bits(3, 8).Bits(4, 8)).OpenType({1, 2});
   Input input(Marked(w));
   Owned<H2250LogicalChannelParameters> m;
-  DecodeH2250LogicalChannelParameters(*m, input.reader);
+  DecodeH245(*m, input.reader);
   EXPECT_EQ(+m->silenceSuppression, 1U);
   EXPECT_EQ(+m->destination.mcuNumber, 192);
   EXPECT_EQ(+m->destination.terminalNumber, 191);
@@ -180,12 +181,12 @@ TEST(H2250LogicalChannelParametersTest, BitmapOf256AdditionsCountsAsNone) {
   BitWriter w = H2250(0, true).Align().Bits(1, 8).NormallySmall(255);
   Input input(Marked(w));
   Owned<H2250LogicalChannelParameters> m;
-  DecodeH2250LogicalChannelParameters(*m, input.reader);
+  DecodeH245(*m, input.reader);
   EXPECT_EQ(input.Next(), kMarker);
 
   Input ack(Marked(BitWriter().Bits(0b100000, 6).NormallySmall(255)));
   Owned<H2250LogicalChannelAckParameters> acknowledged;
-  DecodeH2250LogicalChannelAckParameters(*acknowledged, ack.reader);
+  DecodeH245(*acknowledged, ack.reader);
   EXPECT_EQ(ack.Next(), kMarker);
 }
 
@@ -204,7 +205,7 @@ TEST(RedundancyEncodingTest, SecondaryCountIsOneOctet) {
     Additions(w, 0b11, 2).OpenType(rtp).OpenType({1});
     Input input(Marked(w));
     Owned<RedundancyEncoding> m;
-    DecodeRedundancyEncoding(*m, input.reader);
+    DecodeH245(*m, input.reader);
     EXPECT_EQ(+m->secondaryEncoding->choiceTag, 1);
     const auto& decoded = m->rtpRedundancyEncoding;
     EXPECT_EQ(+decoded.primary.payloadType, 100);
@@ -235,7 +236,7 @@ TEST(DataTypeTest, DepthIsBounded) {
     NestedDataType(w, levels);
     Input input(Marked(w));
     Owned<DataType> type;
-    DecodeDataType(*type, input.reader);
+    DecodeH245(*type, input.reader);
     uint32_t found = 1;
     const DataType* inner = &*type;
     while (inner->isExtension != 0 && +inner->redundancyEncoding.secondaryEncoding != nullptr) {
@@ -252,13 +253,13 @@ TEST(DataTypeTest, UnknownAlternatives) {
   for (const uint32_t index : {6U, 256U, 257U}) {
     Input input(Marked(BitWriter().Bit(true).NormallySmall(index).OpenType({0xFF, 0xFF})));
     Owned<DataType> type;
-    DecodeDataType(*type, input.reader);
+    DecodeH245(*type, input.reader);
     EXPECT_EQ(+type->choiceTag, index & 0xFF);
     EXPECT_EQ(input.Next(), kMarker) << index;
   }
   Input input(BitWriter().Bits(6, 4).Bits(0b1010, 4));
   Owned<DataType> type;
-  DecodeDataType(*type, input.reader);
+  DecodeH245(*type, input.reader);
   EXPECT_EQ(PerReadBits(input.reader, 4), 0b1010U) << "an index beyond the root decodes nothing";
 }
 
@@ -272,7 +273,7 @@ TEST(OpenLogicalChannelAckTest, ForwardAckParameters) {
   Additions(w, 0b0101, 4).OpenType(ack).OpenType({1, 2, 3});
   Input input(Marked(w));
   Owned<OpenLogicalChannelAck> m;
-  DecodeOpenLogicalChannelAck(*m, input.reader);
+  DecodeH245(*m, input.reader);
   EXPECT_EQ(+m->forwardLogicalChannelNumber, 65535);
   EXPECT_EQ(+m->reverseLogicalChannelParameters.reverseLogicalChannelNumber, 10);
   EXPECT_EQ(+m->reverseLogicalChannelParameters.portNumber, 5000);
@@ -290,7 +291,7 @@ TEST(OpenLogicalChannelAckTest, ReverseBitmapOf256AdditionsCountsAsNone) {
   w.Bits(0b01, 2).Align().Bits(0, 16).Bits(0b100, 3).Align().Bits(9, 16).NormallySmall(255);
   Input input(Marked(w));
   Owned<OpenLogicalChannelAck> m;
-  DecodeOpenLogicalChannelAck(*m, input.reader);
+  DecodeH245(*m, input.reader);
   EXPECT_EQ(+m->reverseLogicalChannelParameters.isExtended, 1U);
   EXPECT_EQ(+m->reverseLogicalChannelParameters.hasReplacementFor, 0U);
   EXPECT_EQ(input.Next(), kMarker);

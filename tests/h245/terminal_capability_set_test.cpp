@@ -1,19 +1,20 @@
-#include "h245/capabilities/terminal_capability_set.h"
+#include "kelvra/h245/capabilities/terminal_capability_set.h"
 
 #include <gtest/gtest.h>
 
 #include "h225/decoding.h"
-#include "h245/capabilities/capability_decode.h"
-#include "h245/capabilities/h2250_capability_decode.h"
-#include "h245/capabilities/multiplex_capability_decode.h"
-#include "h245/capabilities/stream_capability_decode.h"
-#include "h245/capabilities/terminal_capability_set_decode.h"
-#include "h245/capabilities/video_capability_decode.h"
+#include "kelvra/h245/capabilities/capability.h"
+#include "kelvra/h245/capabilities/h2250_capability.h"
+#include "kelvra/h245/capabilities/multiplex_capability.h"
+#include "kelvra/h245/capabilities/stream_capability.h"
+#include "kelvra/h245/capabilities/video_capability.h"
+#include "per/decoder.h"
 
 namespace kelvra::h245 {
 namespace {
 
 using test::BitWriter;
+using test::DecodeH245;
 using test::Input;
 using test::kMarker;
 using test::Marked;
@@ -37,7 +38,7 @@ TEST(AlternativeCapabilitySetTest, CountIsNotAligned) {
     Input input(Marked(w));
     PerSkipBits(input.reader, offset);
     Owned<AlternativeCapabilitySet> m;
-    DecodeAlternativeCapabilitySet(*m, input.reader);
+    DecodeH245(*m, input.reader);
     ASSERT_EQ(+m->entryCount, 2) << offset;
     EXPECT_EQ(+m->entries[0], 65535);
     EXPECT_EQ(+m->entries[1], 0x0102);
@@ -51,7 +52,7 @@ TEST(AlternativeCapabilitySetTest, Holds256Entries) {
   for (uint16_t i = 1; i <= 256; ++i) EntryNumber(w, i);
   Input input(Marked(w));
   Owned<AlternativeCapabilitySet> m;
-  DecodeAlternativeCapabilitySet(*m, input.reader);
+  DecodeH245(*m, input.reader);
   ASSERT_EQ(+m->entryCount, 256);
   EXPECT_EQ(+m->entries[255], 256);
   EXPECT_EQ(input.Next(), kMarker);
@@ -61,7 +62,7 @@ TEST(CapabilityTest, UnknownAlternativesAreSkippedWhole) {
   for (const uint32_t index : {14U, 63U, 256U}) {
     Input input(Marked(BitWriter().Bit(true).NormallySmall(index).OpenType(Octets(20, 0xFF))));
     Owned<Capability> capability;
-    DecodeCapability(*capability, input.reader);
+    DecodeH245(*capability, input.reader);
     EXPECT_EQ(+capability->choiceTag, index & 0xFF);
     EXPECT_EQ(+capability->conferenceCapability.hasNonStandardData, 0U) << index;
     EXPECT_EQ(input.Next(), kMarker);
@@ -69,7 +70,7 @@ TEST(CapabilityTest, UnknownAlternativesAreSkippedWhole) {
   for (const uint32_t index : {2U, 256U, 257U}) {
     Input input(Marked(BitWriter().Bit(true).NormallySmall(index).OpenType(Octets(20, 0xFF))));
     Owned<MultiplexCapability> multiplex;
-    DecodeMultiplexCapability(*multiplex, input.reader);
+    DecodeH245(*multiplex, input.reader);
     EXPECT_EQ(+multiplex->h2250Capability.maximumAudioDelayJitter, 0) << index;
     EXPECT_EQ(input.Next(), kMarker);
   }
@@ -79,7 +80,7 @@ TEST(CapabilityTest, ImpossibleRootIndexReadsNothing) {
   for (uint32_t index = 12; index < 16; ++index) {
     Input input(BitWriter().Bits(index, 5).Bits(0b111, 3));
     Owned<Capability> capability;
-    DecodeCapability(*capability, input.reader);
+    DecodeH245(*capability, input.reader);
     EXPECT_EQ(+capability->choiceTag, index);
     EXPECT_EQ(input.Bit(), 5U);
   }
@@ -99,7 +100,7 @@ TEST(H2250CapabilityTest, RfcNumberBeyondItsRange) {
   message.Bit(true).NormallySmall(0).OpenType(capability);
   Input input(Marked(message));
   Owned<MultiplexCapability> m;
-  DecodeMultiplexCapability(*m, input.reader);
+  DecodeH245(*m, input.reader);
   const auto& packetization = m->h2250Capability.mediaPacketizationCapability;
   ASSERT_EQ(+packetization.rtpPayloadTypeCount, 1);
   EXPECT_EQ(+packetization.rtpPayloadType[0].payloadDescriptor.rfcNumber, 65536U);
@@ -115,7 +116,7 @@ TEST(H2250CapabilityTest, BitmapsOf256AdditionsCountAsNone) {
   w.NormallySmall(255).Octets(Octets(40, 0xFF));
   Input input(w);
   Owned<H2250Capability> m;
-  DecodeH2250Capability(*m, input.reader);
+  DecodeH245(*m, input.reader);
   EXPECT_EQ(+m->mediaPacketizationCapability.isExtended, 1U);
   EXPECT_EQ(+m->mediaPacketizationCapability.hasRtpPayloadType, 0U);
   EXPECT_EQ(+m->hasTransportCapability, 0U);
@@ -131,7 +132,7 @@ TEST(TerminalCapabilitySetTest, TablesOf256Elements) {
   for (uint32_t i = 0; i < 256; ++i) w.Bit(false).Align().Bits(i, 8);
   Input input(Marked(w));
   Owned<TerminalCapabilitySet> m;
-  DecodeTerminalCapabilitySet(*m, input.reader);
+  DecodeH245(*m, input.reader);
   EXPECT_EQ(+m->sequenceNumber, 7);
   ASSERT_EQ(+m->capabilityTableCount, 256);
   EXPECT_EQ(+m->capabilityTable[255].capabilityTableEntryNumber, 256);
@@ -165,7 +166,7 @@ TEST(TerminalCapabilitySetTest, RefusedListKeepsItsCountAndEndsTheDecode) {
     Input input(Marked(w));
     input.reader.allowance = c.allowance;
     Owned<TerminalCapabilitySet> m;
-    DecodeTerminalCapabilitySet(*m, input.reader);
+    DecodeH245(*m, input.reader);
     EXPECT_EQ(+m->capabilityTableCount, 2);
     ASSERT_EQ(m->capabilityTable != nullptr, c.table) << c.allowance;
     EXPECT_EQ(+m->capabilityDescriptorCount, c.table ? 1 : 0);
@@ -207,7 +208,7 @@ TEST(VideoCapabilityTest, DepthIsBounded) {
     NestedVideo(w, levels);
     Input input(Marked(w));
     Owned<VideoCapability> capability;
-    DecodeVideoCapability(*capability, input.reader);
+    DecodeH245(*capability, input.reader);
     const VideoCapability* inner = &*capability;
     for (uint32_t i = 1; i < levels; ++i) {
       ASSERT_NE(+inner->extendedVideoCapability, nullptr) << i;

@@ -1,15 +1,16 @@
-#include "h245/common/transport_address.h"
+#include "kelvra/h245/common/transport_address.h"
 
 #include <gtest/gtest.h>
 
 #include "h225/decoding.h"
-#include "h245/common/transport_address_decode.h"
+#include "per/decoder.h"
 
 namespace kelvra::h245 {
 namespace {
 
 using test::Additions;
 using test::BitWriter;
+using test::DecodeH245;
 using test::Input;
 using test::kMarker;
 using test::Marked;
@@ -26,7 +27,7 @@ TEST(UnicastAddressTest, LengthWordsOfFixedStringsStayZero) {
     Additions(w, 1, 1).OpenType({1});
     Input input(Marked(w));
     Owned<UnicastAddress> address;
-    DecodeUnicastAddress(*address, input.reader);
+    DecodeH245(*address, input.reader);
     EXPECT_EQ(+address->iPXAddress.node.length, 0U);
     EXPECT_EQ(+address->iPXAddress.netnum.length, 0U);
     EXPECT_EQ(+address->iPXAddress.tsapIdentifier.length, 0U);
@@ -38,7 +39,7 @@ TEST(UnicastAddressTest, LengthWordsOfFixedStringsStayZero) {
   {
     Input input(Marked(BitWriter().Bits(2, 4).Bit(false).Octets(Rising(1, 16)).Bits(1719, 16)));
     Owned<UnicastAddress> address;
-    DecodeUnicastAddress(*address, input.reader);
+    DecodeH245(*address, input.reader);
     EXPECT_EQ(+address->iP6Address.network.length, 0U);
     EXPECT_EQ(OctetsAt(address->iP6Address.network.data, 16), Rising(1, 16));
     EXPECT_EQ(+address->iP6Address.tsapIdentifier, 1719);
@@ -46,7 +47,7 @@ TEST(UnicastAddressTest, LengthWordsOfFixedStringsStayZero) {
   }
   Input input(Marked(BitWriter().Bits(3, 4).Octets(Rising(1, 16))));
   Owned<UnicastAddress> address;
-  DecodeUnicastAddress(*address, input.reader);
+  DecodeH245(*address, input.reader);
   EXPECT_EQ(+address->netBios.length, 0U);
   EXPECT_EQ(OctetsAt(address->netBios.data, 16), Rising(1, 16));
   EXPECT_EQ(input.Next(), kMarker);
@@ -61,7 +62,7 @@ TEST(UnicastAddressTest, SourceRouteCountKeepsItsLow8Bits) {
     Additions(w, 1, 1).OpenType({1});
     Input input(Marked(w));
     Owned<UnicastAddress> address;
-    DecodeUnicastAddress(*address, input.reader);
+    DecodeH245(*address, input.reader);
     const UnicastAddress::IPSourceRouteAddress& source = address->iPSourceRouteAddress;
     EXPECT_EQ(+source.routing.choiceTag, 1);
     EXPECT_EQ(+source.network.length, 0U);
@@ -79,7 +80,7 @@ TEST(UnicastAddressTest, IndicesBeyondTheRootDecodeNothing) {
   for (uint32_t index = 5; index < 8; ++index) {
     Input input(BitWriter().Bits(index, 4).Bits(0b0110, 4));
     Owned<UnicastAddress> address;
-    DecodeUnicastAddress(*address, input.reader);
+    DecodeH245(*address, input.reader);
     EXPECT_EQ(+address->choiceTag, index);
     EXPECT_EQ(PerReadBits(input.reader, 4), 0b0110U);
   }
@@ -89,7 +90,7 @@ TEST(UnicastAddressTest, Extensions) {
   {
     Input input(Marked(BitWriter().Bit(true).NormallySmall(0).OpenType(BitWriter().Bits(19, 5).Octets(Rising(1, 20)))));
     Owned<UnicastAddress> address;
-    DecodeUnicastAddress(*address, input.reader);
+    DecodeH245(*address, input.reader);
     EXPECT_EQ(OctetsOf(address->nsap), Rising(1, 20));
     EXPECT_EQ(input.Next(), kMarker);
   }
@@ -98,7 +99,7 @@ TEST(UnicastAddressTest, Extensions) {
     parameter.Bit(true).Octets({0xB5, 1, 2, 3}).OpenType({4, 5});
     Input input(Marked(BitWriter().Bit(true).NormallySmall(1).OpenType(parameter)));
     Owned<UnicastAddress> address;
-    DecodeUnicastAddress(*address, input.reader);
+    DecodeH245(*address, input.reader);
     EXPECT_EQ(+address->nonStandardAddress.nonStandardIdentifier.h221NonStandard.manufacturerCode, 0x0203);
     EXPECT_EQ(OctetsAt(address->nonStandardAddress.data, address->nonStandardAddress.dataLength), (Octets{4, 5}));
     EXPECT_EQ(input.Next(), kMarker);
@@ -106,7 +107,7 @@ TEST(UnicastAddressTest, Extensions) {
   for (const uint32_t index : {2U, 256U, 257U}) {
     Input input(Marked(BitWriter().Bit(true).NormallySmall(index).OpenType({9, 9})));
     Owned<UnicastAddress> address;
-    DecodeUnicastAddress(*address, input.reader);
+    DecodeH245(*address, input.reader);
     EXPECT_EQ(+address->choiceTag, index & 0xFF);
     EXPECT_EQ(+address->nsap.length, 0U);
     EXPECT_EQ(input.Next(), kMarker);
@@ -116,7 +117,7 @@ TEST(UnicastAddressTest, Extensions) {
 TEST(MediaAddressTest, ExtensionIndexIsDiscarded) {
   Input input(Marked(BitWriter().Bit(true).NormallySmall(3).OpenType({1, 2})));
   Owned<TransportAddress> address;
-  DecodeTransportAddress(*address, input.reader);
+  DecodeH245(*address, input.reader);
   EXPECT_EQ(+address->isExtension, 1U);
   EXPECT_EQ(+address->choiceTag, 0);
   EXPECT_EQ(input.Next(), kMarker);
@@ -125,7 +126,7 @@ TEST(MediaAddressTest, ExtensionIndexIsDiscarded) {
 TEST(MediaAddressTest, TruncatedNetworkMovesTheReaderToItsEnd) {
   Input input(BitWriter().Bits(0, 2).Bits(0, 5).Octets({10, 0, 0}));
   Owned<TransportAddress> address;
-  DecodeTransportAddress(*address, input.reader);
+  DecodeH245(*address, input.reader);
   EXPECT_EQ(+address->unicastAddress.iPAddress.networkLength, 4U);
   EXPECT_EQ(+address->unicastAddress.iPAddress.tsapIdentifier, 0);
   EXPECT_TRUE(PerAtEnd(input.reader));

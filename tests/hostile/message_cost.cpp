@@ -1,11 +1,12 @@
 #include "hostile/message_cost.h"
 
-#include "h225/call/h323_user_information_decode.h"
 #include "h225/call/q931_frame.h"
-#include "h225/ras/ras_message_decode.h"
 #include "h225/release.h"
-#include "h245/messages/h245_message_decode.h"
 #include "h245/release.h"
+#include "kelvra/h225/call/h323_user_information.h"
+#include "kelvra/h225/ras/ras_message.h"
+#include "kelvra/h245/messages/h245_message.h"
+#include "per/decoder.h"
 #include "per/reader.h"
 
 namespace kelvra::test {
@@ -45,20 +46,20 @@ MessageCost CostOf(Family family, const std::vector<uint8_t>& octets) {
     case Family::kRas:
       return CostOfDecode(reader, [](PerReader& r) {
         h225::RasMessageRecord record{};
-        static_cast<void>(h225::DecodeRasMessage(record, r));
+        static_cast<void>(Decode(record, r));
         h225::ReleaseRasMessage(&record);
       });
     case Family::kQ931:
       if (!BeginUserInformation(reader, octets)) return {};
       return CostOfDecode(reader, [](PerReader& r) {
         h225::H323UserInformation record{};
-        static_cast<void>(h225::DecodeH323UserInformation(record, r));
+        static_cast<void>(Decode(record, r));
         h225::ReleaseH323UserInformation(&record);
       });
     case Family::kH245:
       return CostOfDecode(reader, [](PerReader& r) {
         h245::H245MessageRecord record{};
-        h245::DecodeMultimediaSystemControlMessage(record, r);
+        static_cast<void>(Decode(record, r));
         h245::ReleaseH245Message(record);
       });
   }

@@ -1,7 +1,7 @@
 // Decodes a gatekeeperReject with its spare octet by what is installed, and releases it.
 #include <stdio.h>
 
-#include "api/kelvra.h"
+#include "kelvra/kelvra.h"
 
 int main() {
   const uint8_t octets[] = {0x08, 0x00, 0x81, 0x76, 0x06, 0x00, 0x08, 0x91, 0x4A, 0x00, 0x04, 0x40, 0x00};

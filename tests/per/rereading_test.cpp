@@ -74,7 +74,7 @@ TEST(Rereading, OfARefusedValueCountsTheOctetThatItReadInPart) {
 TEST(Rereading, CountsABitmapThatIsReadToTheEnd) {
   Input input(BitWriter().OpenType(BitWriter().NormallySmall(0x7FFFFFFE)).Octets(std::vector<uint8_t>(500, 0xFF)));
   OpenTypeBegin(input.reader);
-  PerNoteUnknownAdditions(input.reader, PerReadBitmapLength(input.reader));
+  PerCountUnknownAdditions(input.reader, PerReadBitmapLength(input.reader));
   OpenTypeEnd(input.reader);
   EXPECT_EQ(input.reader.reread, 500U);
 }

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "kelvra/begin_descriptions.h"
+
 namespace kelvra {
 namespace {
 
@@ -11,45 +13,52 @@ struct Leaf {
   uint8_t number;
   OctetStringValue octets;
 
+  KELVRA_SEQUENCE
+    KELVRA_MEMBER(number, Integer(0, 255));
+    KELVRA_MEMBER(octets, OctetString());
+  KELVRA_END
+};
+
+struct Unknown {
   template <class Record, class Visitor>
-  static void Walk(Record& m, Visitor& v) {
-    v.Number("number", m.number);
-    WalkOctets(v, "octets", m.octets);
+  static void Walk(Record&, Visitor& v) {
+    v.UnknownExtension(9);
+    v.UnknownRoot(9);
   }
 };
 
 struct Tree {
-  uint8_t isPresent;
+  uint32_t isPresent;
   OctetStringValue octets;
   BMPStringValue characters;
   ObjectIdentifierValue identifier;
-  uint8_t leafCount;
+  uint8_t leavesCount;
   Leaf* leaves;
   Leaf* one;
-  uint8_t stringCount;
+  uint8_t stringsCount;
   OctetStringValue* strings;
+  uint8_t fixedStringsCount;
   OctetStringValue* fixedStrings;
-  uint8_t identifierCount;
+  uint8_t identifiersCount;
   ObjectIdentifierValue* identifiers;
-  uint8_t numberCount;
+  uint8_t numbersCount;
   uint16_t* numbers;
   Leaf embedded;
+  Unknown unknown;
 
-  template <class Record, class Visitor>
-  static void Walk(Record& m, Visitor& v) {
-    if (m.isPresent) WalkOctets(v, "octets", m.octets);
-    v.Characters16("characters", m.characters);
-    v.ObjectIdentifier("identifier", m.identifier);
-    v.List("leaves", KELVRA_COUNTED_LIST(m.leafCount, m.leaves));
-    v.Pointer("one", KELVRA_SLOT(m.one));
-    v.OctetStrings("strings", KELVRA_COUNTED_LIST(m.stringCount, m.strings), OctetNotation::kOctets);
-    v.FixedOctetStrings("fixedStrings", KELVRA_COUNTED_LIST(m.stringCount, m.fixedStrings), 4);
-    v.ObjectIdentifiers("identifiers", KELVRA_COUNTED_LIST(m.identifierCount, m.identifiers));
-    v.Numbers("numbers", KELVRA_COUNTED_LIST(m.numberCount, m.numbers));
-    v.Record("embedded", m.embedded);
-    v.UnknownExtension(9);
-    v.UnknownRoot(9);
-  }
+  KELVRA_SEQUENCE
+    KELVRA_OPTIONAL(isPresent, octets, OctetString());
+    KELVRA_MEMBER(characters, BMPString());
+    KELVRA_MEMBER(identifier, ObjectIdentifier());
+    KELVRA_MEMBER_LIST(leaves, SequenceOf(DefinedType()));
+    KELVRA_MEMBER(one, IndirectType());
+    KELVRA_MEMBER_LIST(strings, SequenceOf(OctetString()));
+    KELVRA_MEMBER_LIST(fixedStrings, SequenceOf(UncountedOctetString(4)));
+    KELVRA_MEMBER_LIST(identifiers, SequenceOf(ObjectIdentifier()));
+    KELVRA_MEMBER_LIST(numbers, SequenceOf(Integer(0, 65535)));
+    KELVRA_MEMBER(embedded, DefinedType());
+    KELVRA_MEMBER(unknown, DefinedType());
+  KELVRA_END
 };
 
 #pragma pack(pop)
@@ -70,22 +79,23 @@ Tree FullTree() {
   tree.octets = {3, Block<uint8_t>(3)};
   tree.characters = {2, Block<uint16_t>(2)};
   tree.identifier = {4, Block<uint32_t>(4)};
-  tree.leafCount = 3;
+  tree.leavesCount = 3;
   tree.leaves = Block<Leaf>(3);
   tree.leaves[0] = {11, {5, Block<uint8_t>(5)}};
   tree.leaves[2] = {13, {6, Block<uint8_t>(6)}};
   tree.one = Block<Leaf>();
   tree.one[0] = {14, {7, Block<uint8_t>(7)}};
-  tree.stringCount = 2;
+  tree.stringsCount = 2;
   tree.strings = Block<OctetStringValue>(2);
   tree.strings[1] = {1, Block<uint8_t>()};
+  tree.fixedStringsCount = 2;
   tree.fixedStrings = Block<OctetStringValue>(2);
   tree.fixedStrings[0] = {0, Block<uint8_t>(4)};
-  tree.identifierCount = 2;
+  tree.identifiersCount = 2;
   tree.identifiers = Block<ObjectIdentifierValue>(2);
   tree.identifiers[0] = {2, Block<uint32_t>(2)};
   tree.identifiers[1] = {3, Block<uint32_t>(3)};
-  tree.numberCount = 5;
+  tree.numbersCount = 5;
   tree.numbers = Block<uint16_t>(5);
   tree.embedded = {15, {8, Block<uint8_t>(8)}};
   return tree;
@@ -112,10 +122,10 @@ TEST(ReleaseVisitor, GivesBackEveryBlockAndKeepsTheRest) {
   EXPECT_EQ(+tree.octets.length, 3u);
   EXPECT_EQ(+tree.characters.length, 2u);
   EXPECT_EQ(+tree.identifier.count, 4u);
-  EXPECT_EQ(+tree.leafCount, 3u);
-  EXPECT_EQ(+tree.stringCount, 2u);
-  EXPECT_EQ(+tree.identifierCount, 2u);
-  EXPECT_EQ(+tree.numberCount, 5u);
+  EXPECT_EQ(+tree.leavesCount, 3u);
+  EXPECT_EQ(+tree.stringsCount, 2u);
+  EXPECT_EQ(+tree.identifiersCount, 2u);
+  EXPECT_EQ(+tree.numbersCount, 5u);
   EXPECT_EQ(+tree.embedded.number, 15u);
   EXPECT_EQ(+tree.embedded.octets.length, 8u);
 }
@@ -125,15 +135,15 @@ TEST(ReleaseVisitor, DoesNothingTheSecondTime) {
   Release(tree);
   Release(tree);
   ExpectNoBlocks(tree);
-  EXPECT_EQ(+tree.leafCount, 3u);
+  EXPECT_EQ(+tree.leavesCount, 3u);
 }
 
 TEST(ReleaseVisitor, PassesOverCountsWithoutABlock) {
   Tree tree{};
-  tree.leafCount = 255;
-  tree.stringCount = 255;
-  tree.identifierCount = 255;
-  tree.numberCount = 255;
+  tree.leavesCount = 255;
+  tree.stringsCount = 255;
+  tree.identifiersCount = 255;
+  tree.numbersCount = 255;
   tree.identifier.count = 1000;
   Release(tree);
   ExpectNoBlocks(tree);
@@ -159,3 +169,5 @@ TEST(ReleaseVisitor, LeavesAbsentMembersAlone) {
 
 }  // namespace
 }  // namespace kelvra
+
+#include "kelvra/end_descriptions.h"

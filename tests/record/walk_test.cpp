@@ -1,4 +1,4 @@
-#include "record/walk.h"
+#include "kelvra/walk.h"
 
 #include <gtest/gtest.h>
 

@@ -9,8 +9,8 @@
 #include <string>
 #include <vector>
 
-#include "api/kelvra.h"
 #include "hex.h"
+#include "kelvra/kelvra.h"
 #include "record_json.h"
 
 namespace {

@@ -1,8 +1,8 @@
 #include "h225/call/q931_frame.h"
 
 #include "codec/trace.h"
-#include "h225/call/h323_user_information_decode.h"
 #include "h225/release.h"
+#include "per/decoder.h"
 
 namespace kelvra::h225 {
 namespace {
@@ -149,7 +149,7 @@ bool DecodeUserInformationElement(H323UserInformation& m, const Q931Frame& frame
   PerReader reader;
   PerReaderInit(reader, PerAdvance(frame.octets, first), element.length + uint32_t{1},
                 frame.available > first ? frame.available - first : 0);
-  if (DecodeH323UserInformation(m, reader) == kDecoded && reader.position != reader.end) return true;
+  if (Decode(m, reader) == kDecoded && reader.position != reader.end) return true;
   ReleaseH323UserInformation(&m);
   return false;
 }

@@ -3,7 +3,7 @@
 
 #include <stdint.h>
 
-#include "h225/call/q931_message.h"
+#include "kelvra/h225/call/q931_message.h"
 
 namespace kelvra::h225 {
 

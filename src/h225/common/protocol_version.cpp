@@ -11,22 +11,18 @@ constexpr uint32_t kProtocolIdentifierArcs = 6;  // itu-t recommendation h 2250 
 
 std::atomic<int32_t> processMode{kNoVersionMode};
 
-int32_t ModeOf(const ObjectIdentifierValue& identifier) {
-  if (identifier.count != kProtocolIdentifierArcs || identifier.arcs == nullptr) return kNoVersionMode;
-  switch (identifier.arcs[kProtocolIdentifierArcs - 1]) {
-    case 1:
-    case 2: return kVersion2Mode;
-    case 3: return kVersion3Mode;
-    case 4: return kVersion4Mode;
-    default: return kNoVersionMode;
-  }
+// The version that the identifier names, 1 to 4; 0 when it names none of these.
+int32_t VersionOf(const ObjectIdentifierValue& identifier) {
+  if (identifier.count != kProtocolIdentifierArcs || identifier.arcs == nullptr) return 0;
+  const uint32_t version = identifier.arcs[kProtocolIdentifierArcs - 1];
+  return version <= 4 ? static_cast<int32_t>(version) : 0;
 }
 
-int32_t ReadMode(ObjectIdentifierValue& protocolIdentifier, PerReader& reader) {
+int32_t ReadVersion(ObjectIdentifierValue& protocolIdentifier, PerReader& reader) {
   PerReadObjectIdentifier(protocolIdentifier, reader);
-  const int32_t mode = ModeOf(protocolIdentifier);
-  if (mode != kNoVersionMode) processMode.store(mode, std::memory_order_relaxed);
-  return mode;
+  const int32_t version = VersionOf(protocolIdentifier);
+  if (version != 0) processMode.store(version < 3 ? kVersion2Mode : version - 2, std::memory_order_relaxed);
+  return version;
 }
 
 }  // namespace
@@ -34,12 +30,12 @@ int32_t ReadMode(ObjectIdentifierValue& protocolIdentifier, PerReader& reader) {
 int32_t ProtocolVersionMode() { return processMode.load(std::memory_order_relaxed); }
 
 void ReadProtocolIdentifier(ObjectIdentifierValue& protocolIdentifier, PerReader& reader) {
-  ReadMode(protocolIdentifier, reader);
+  ReadVersion(protocolIdentifier, reader);
 }
 
-Status ReadRegistrationProtocolIdentifier(ObjectIdentifierValue& protocolIdentifier, PerReader& reader, int32_t& mode) {
-  mode = ReadMode(protocolIdentifier, reader);
-  if (mode != kNoVersionMode) return kDecoded;
+Status ReadRegistrationProtocolIdentifier(ObjectIdentifierValue& protocolIdentifier, PerReader& reader) {
+  reader.senderVersion = ReadVersion(protocolIdentifier, reader);
+  if (reader.senderVersion != 0) return kDecoded;
   PerMoveToEnd(reader);
   return kUnsupportedVersion;
 }

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "codec/status.h"
+#include "kelvra/values.h"
 #include "per/reader.h"
-#include "record/values.h"
 
 namespace kelvra::h225 {
 
@@ -21,9 +21,9 @@ int32_t ProtocolVersionMode();
 // identifier leaves it alone.
 void ReadProtocolIdentifier(ObjectIdentifierValue& protocolIdentifier, PerReader& reader);
 
-// Reads the protocolIdentifier of a registration and reports the version mode it names, which becomes that
-// of the process too. A registration goes by its own mode, so that one decoded on another thread does not
-// matter. An identifier of no version from 1 to 4 is kUnsupportedVersion.
-Status ReadRegistrationProtocolIdentifier(ObjectIdentifierValue& protocolIdentifier, PerReader& reader, int32_t& mode);
+// Reads the protocolIdentifier of a registration. Its version becomes that of the reader, by which the registration
+// goes, so that one decoded on another thread does not matter; its mode becomes that of the process too. An identifier
+// of no version from 1 to 4 is kUnsupportedVersion.
+Status ReadRegistrationProtocolIdentifier(ObjectIdentifierValue& protocolIdentifier, PerReader& reader);
 
 }  // namespace kelvra::h225

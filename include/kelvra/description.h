@@ -1,0 +1,308 @@
+// The vocabulary in which a record is described: one word for each ASN.1 type and constraint that occurs.
+//
+// A record type describes itself in the order of its ASN.1, in a function that the macros of
+// kelvra/begin_descriptions.h open and close:
+//
+//   struct AlternateGK {
+//     TransportAddress rasAddress;
+//     ...
+//     KELVRA_SEQUENCE
+//       KELVRA_MEMBER(rasAddress, DefinedType());
+//       KELVRA_OPTIONAL(hasGatekeeperIdentifier, gatekeeperIdentifier, DefinedType(BMPString(1, 128)));
+//       KELVRA_MEMBER(needToRegister, Boolean());
+//       KELVRA_MEMBER(priority, Integer(0, 127));
+//       KELVRA_EXTENSION(isExtended);
+//     KELVRA_END
+//   };
+//
+// A description says nothing about reading or writing. What follows it (a decoder, a walk, a check) is an object
+// that is shown each component in turn: its name, its place in the record and its kind, which is one of the
+// classes below.
+#pragma once
+
+#include <stdint.h>
+#include <string.h>
+
+#include "list.h"
+#include "values.h"
+
+namespace kelvra {
+
+// How the octets of a string are to be read by a person.
+enum class OctetNotation : uint8_t {
+  kOctets,      // OCTET STRING, or an open type kept whole
+  kCharacters,  // IA5String, GeneralString and the like
+  kDigits,      // 4-bit codes: 0 '#', 1 '*', 2 ',', 3 to 12 the digits 0 to 9
+  kBits,        // BIT STRING of variable size: the count is in bits
+  kFixedBits,   // BIT STRING of fixed size: the count is in bits
+};
+
+namespace asn1 {
+
+inline constexpr int64_t kUnsigned32Maximum = 0xFFFFFFFF;
+
+// --- Kinds: what the words below return ---
+
+struct BooleanKind {};
+struct NullKind {};
+struct IntegerKind {
+  int64_t low, high;
+};
+struct ExtensibleIntegerKind {
+  int64_t low, high;
+};
+struct UnconstrainedIntegerKind {};
+struct ObjectIdentifierKind {};
+
+// The units that a string is encoded in.
+enum class StringUnits : uint8_t {
+  kOctets,
+  kBits,
+  kNumberDigits,
+  kNumericCharacters,
+  kTBCDDigits,
+  kPrintableCharacters,
+  kWideCharacters,
+};
+// SIZE (size), SIZE (low..high), and a length determinant.
+template <StringUnits kUnits, OctetNotation kNotation>
+struct FixedStringKind {
+  uint32_t size;
+};
+template <StringUnits kUnits, OctetNotation kNotation>
+struct SizedStringKind {
+  uint32_t low, high;
+};
+template <StringUnits kUnits, OctetNotation kNotation>
+struct UnsizedStringKind {};
+struct ClearedOctetStringKind {};
+struct UncountedOctetStringKind {
+  uint32_t size;
+};
+struct CheckedIA5StringKind {
+  uint32_t low, high;
+};
+struct SignalTypeKind {};
+
+struct DefinedTypeKind {};
+struct InlineTypeKind {};
+struct IndirectKind {};
+template <class Kind>
+struct AliasKind {
+  Kind kind;
+};
+struct ContainingKind {};
+template <class Kind>
+struct EvenIfMissingKind {
+  Kind kind;
+};
+template <class Kind>
+struct SequenceOfKind {
+  Kind element;
+};
+template <class Kind>
+struct SizedSequenceOfKind {
+  int64_t low, high;
+  Kind element;
+};
+template <class Kind>
+struct NamedKind {
+  const char* name;
+  Kind kind;
+};
+
+// --- Simple types ---
+
+// BOOLEAN.
+constexpr BooleanKind Boolean() { return {}; }
+// NULL; where a record has a member for it, that stays zero.
+constexpr NullKind Null() { return {}; }
+// INTEGER (low..high). The number is not checked against its range where its field is wider.
+constexpr IntegerKind Integer(int64_t low, int64_t high) { return {low, high}; }
+// INTEGER (low..high, ...).
+constexpr ExtensibleIntegerKind ExtensibleInteger(int64_t low, int64_t high) { return {low, high}; }
+// INTEGER.
+constexpr UnconstrainedIntegerKind Integer() { return {}; }
+// OBJECT IDENTIFIER.
+constexpr ObjectIdentifierKind ObjectIdentifier() { return {}; }
+
+// --- Strings: SIZE (low..high), SIZE (size), and without a size constraint ---
+
+template <StringUnits kUnits, OctetNotation kNotation>
+struct StringWord {
+  constexpr SizedStringKind<kUnits, kNotation> operator()(uint32_t low, uint32_t high) const { return {low, high}; }
+  constexpr FixedStringKind<kUnits, kNotation> operator()(uint32_t size) const { return {size}; }
+  constexpr UnsizedStringKind<kUnits, kNotation> operator()() const { return {}; }
+};
+
+// OCTET STRING. Without a size constraint its length is kept as sent, even where octets are missing.
+inline constexpr StringWord<StringUnits::kOctets, OctetNotation::kOctets> OctetString{};
+// The same where a length past the end leaves an empty value instead.
+constexpr ClearedOctetStringKind ClearedOctetString() { return {}; }
+// OCTET STRING (SIZE (size)) whose length word stays zero.
+constexpr UncountedOctetStringKind UncountedOctetString(uint32_t size) { return {size}; }
+// IA5String and GeneralString, 8 bits per character.
+inline constexpr StringWord<StringUnits::kOctets, OctetNotation::kCharacters> IA5String{};
+inline constexpr StringWord<StringUnits::kOctets, OctetNotation::kCharacters> GeneralString{};
+// IA5String (SIZE (low..high)) whose length is checked against `high`, which its 16 bits can exceed.
+constexpr CheckedIA5StringKind CheckedIA5String(uint32_t low, uint32_t high) { return {low, high}; }
+// IA5String (SIZE (1)) of few characters, which is not aligned (X.691 27.5.6).
+constexpr SignalTypeKind SignalType() { return {}; }
+// IA5String (FROM ("0123456789#*,")), 4 bits per character, kept as codes.
+inline constexpr StringWord<StringUnits::kNumberDigits, OctetNotation::kDigits> NumberDigits{};
+// NumericString.
+inline constexpr StringWord<StringUnits::kNumericCharacters, OctetNotation::kCharacters> NumericString{};
+// TBCD-STRING, IA5String (FROM ("0123456789#*abc")), kept as characters.
+inline constexpr StringWord<StringUnits::kTBCDDigits, OctetNotation::kCharacters> TBCDString{};
+// PrintableString.
+inline constexpr StringWord<StringUnits::kPrintableCharacters, OctetNotation::kCharacters> PrintableString{};
+// BMPString.
+inline constexpr StringWord<StringUnits::kWideCharacters, OctetNotation::kCharacters> BMPString{};
+
+// BIT STRING.
+constexpr SizedStringKind<StringUnits::kBits, OctetNotation::kBits> BitString(uint32_t low, uint32_t high) {
+  return {low, high};
+}
+constexpr FixedStringKind<StringUnits::kBits, OctetNotation::kFixedBits> BitString(uint32_t size) { return {size}; }
+constexpr UnsizedStringKind<StringUnits::kBits, OctetNotation::kBits> BitString() { return {}; }
+
+// --- Records ---
+
+// A SEQUENCE or CHOICE with a name of its own. In H.225.0 and H.235 its decoder fails where nothing is left.
+constexpr DefinedTypeKind DefinedType() { return {}; }
+// Any other type with a name of its own, which stands for `kind`.
+template <class Kind>
+constexpr AliasKind<Kind> DefinedType(Kind kind) {
+  return {kind};
+}
+// A SEQUENCE or CHOICE that the ASN.1 writes out in place.
+constexpr InlineTypeKind InlineType() { return {}; }
+// A defined type in a block of its own.
+constexpr IndirectKind IndirectType() { return {}; }
+// OCTET STRING (CONTAINING a defined type), decoded in place.
+constexpr ContainingKind Containing() { return {}; }
+
+// SEQUENCE OF and SET OF: with a length determinant, and of SIZE (low..high).
+template <class Kind>
+constexpr SequenceOfKind<Kind> SequenceOf(Kind element) {
+  return {element};
+}
+template <class Kind>
+constexpr SizedSequenceOfKind<Kind> SequenceOf(int64_t low, int64_t high, Kind element) {
+  return {low, high, element};
+}
+
+// An element of a list that is read even where the message has ended: its length is kept.
+template <class Kind>
+constexpr EvenIfMissingKind<Kind> EvenIfMissing(Kind kind) {
+  return {kind};
+}
+
+// A component whose identifier in the ASN.1 is not that of the record's member.
+template <class Kind>
+constexpr NamedKind<Kind> Named(const char* name, Kind kind) {
+  return {name, kind};
+}
+
+// --- Places ---
+
+// The place of a scalar in a packed record, which may be any address.
+template <class T>
+class Scalar {
+ public:
+  explicit Scalar(const void* address) : address_(const_cast<void*>(address)) {}
+  T Get() const {
+    T value;
+    memcpy(&value, address_, sizeof value);
+    return value;
+  }
+  void Set(T value) const { memcpy(address_, &value, sizeof value); }
+  void* Address() const { return address_; }
+
+ private:
+  void* address_;
+};
+using Flag = Scalar<uint32_t>;
+
+namespace detail {
+
+template <class T>
+struct PlaceMaker {
+  static T& Make(void* address) { return *static_cast<T*>(address); }
+};
+template <class T>
+struct PlaceMaker<T*> {
+  static Slot<T> Make(void* address) { return Slot<T>(address); }
+};
+template <>
+struct PlaceMaker<uint8_t> {
+  static Scalar<uint8_t> Make(void* address) { return Scalar<uint8_t>(address); }
+};
+template <>
+struct PlaceMaker<uint16_t> {
+  static Scalar<uint16_t> Make(void* address) { return Scalar<uint16_t>(address); }
+};
+template <>
+struct PlaceMaker<uint32_t> {
+  static Scalar<uint32_t> Make(void* address) { return Scalar<uint32_t>(address); }
+};
+template <>
+struct PlaceMaker<int32_t> {
+  static Scalar<int32_t> Make(void* address) { return Scalar<int32_t>(address); }
+};
+
+}  // namespace detail
+
+// The place of a member: a record by reference, a pointer by its slot, any other scalar by its address.
+template <class T>
+decltype(auto) PlaceOf(const void* address) {
+  return detail::PlaceMaker<T>::Make(const_cast<void*>(address));
+}
+
+// --- Kinds that refer to another member ---
+
+// OCTET STRING whose length is kept in `length`: any, or of SIZE (size).
+struct SplitOctetStringKind {
+  Scalar<uint32_t> length;
+};
+struct FixedSplitOctetStringKind {
+  Scalar<uint32_t> length;
+  uint32_t size;
+};
+inline SplitOctetStringKind OctetStringOf(Scalar<uint32_t> length) { return {length}; }
+inline FixedSplitOctetStringKind OctetStringOf(Scalar<uint32_t> length, uint32_t size) { return {length, size}; }
+
+// An inline SEQUENCE whose extension bit is kept in `flag`, a member of what holds it.
+struct ExtendedInlineTypeKind {
+  Flag flag;
+};
+inline ExtendedInlineTypeKind InlineTypeExtendedBy(Flag flag) { return {flag}; }
+
+// An addition that is read where `flag`, that of another addition, is set.
+template <class Kind>
+struct GatedKind {
+  Flag flag;
+  Kind kind;
+};
+template <class Kind>
+GatedKind<Kind> GatedBy(Flag flag, Kind kind) {
+  return {flag, kind};
+}
+
+// --- Types ---
+
+enum class TypeForm : uint8_t { kSequence, kChoice, kEnumerated };
+
+}  // namespace asn1
+
+// The families differ in what a decoder reports: those of H.225.0 and H.235 return a status, which travels up to
+// the message; those of H.245 return nothing, and what is around a failure goes on where it left the reader.
+constexpr bool ReportsFailures(...) { return true; }
+namespace h245 {
+template <class T>
+constexpr bool ReportsFailures(const T*) {
+  return false;
+}
+}  // namespace h245
+
+}  // namespace kelvra

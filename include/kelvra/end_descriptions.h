@@ -1,0 +1,23 @@
+// Takes back the macros of kelvra/begin_descriptions.h. Included again for each header with descriptions.
+
+#undef KELVRA_INLINE
+#undef KELVRA_SEQUENCE
+#undef KELVRA_CHOICE
+#undef KELVRA_END
+#undef KELVRA_DESCRIPTION
+#undef KELVRA_PLACE
+#undef KELVRA_LIST_PLACE
+#undef KELVRA_MEMBER
+#undef KELVRA_OPTIONAL
+#undef KELVRA_EXTENSION
+#undef KELVRA_ADDITION
+#undef KELVRA_MEMBER_LIST
+#undef KELVRA_OPTIONAL_LIST
+#undef KELVRA_ADDITION_LIST
+#undef KELVRA_VERSIONS
+#undef KELVRA_ALTERNATIVE
+#undef KELVRA_NULL
+#undef KELVRA_PASSED_OVER
+#undef KELVRA_ELEMENTS
+#undef KELVRA_ENUMERATED
+#undef KELVRA_NULL_CHOICE

@@ -1,0 +1,67 @@
+// Call identifiers and small shared choices.
+#pragma once
+
+#include <stdint.h>
+
+#include "../../null_choice.h"
+#include "../../walk.h"
+
+#include "../../begin_descriptions.h"
+
+namespace kelvra::h225 {
+
+#pragma pack(push, 1)
+
+// OCTET STRING (SIZE (16)).
+using GloballyUniqueID = OctetStringValue;
+using ConferenceIdentifier = GloballyUniqueID;
+
+// BMPString (SIZE (1..128)).
+using IdentifierString = BMPStringValue;
+using EndpointIdentifier = IdentifierString;
+using GatekeeperIdentifier = IdentifierString;
+
+struct CallIdentifier {
+  GloballyUniqueID guid;
+  uint32_t isExtended;
+  KELVRA_SEQUENCE
+    KELVRA_MEMBER(guid, DefinedType(OctetString(16)));
+    KELVRA_EXTENSION(isExtended);
+  KELVRA_END
+};
+
+struct CallTypeNames {
+  static constexpr bool kExtensionIndexIsNotKept = true;
+  static constexpr uint32_t kRoots = 4;
+  static constexpr const char* kAlternatives[] = {"pointToPoint", "oneToN", "nToOne", "nToN"};
+};
+using CallType = NullChoice<CallTypeNames>;
+
+KELVRA_NULL_CHOICE(NullChoice, CallModel, 2, "direct", "gatekeeperRouted");
+KELVRA_NULL_CHOICE(NullChoice, TransportQOS, 3, "endpointControlled", "gatekeeperControlled", "noControl");
+KELVRA_NULL_CHOICE(NullChoice, UseSpecifiedTransport, 2, "tcp", "annexE");
+
+struct PresentationIndicatorNames {
+  static constexpr bool kExtensionIndexIsNotKept = true;
+  static constexpr uint32_t kRoots = 3;
+  static constexpr const char* kAlternatives[] = {"presentationAllowed", "presentationRestricted",
+                                                  "addressNotAvailable"};
+};
+using PresentationIndicator = NullChoice<PresentationIndicatorNames>;
+
+// ENUMERATED. Its decoder, written by hand, reads no extension bit: the values come out halved and the reader stays
+// one bit short. After an open type it resumes at the right place; the one that travels outside, in an
+// ExtendedAliasAddress, shifts what follows it. `isExtended` is never set.
+struct ScreeningIndicator {
+  uint32_t value;
+  uint32_t isExtended;
+
+  KELVRA_ENUMERATED(value, "userProvidedNotScreened", "userProvidedVerifiedAndPassed", "userProvidedVerifiedAndFailed",
+                    "networkProvided")
+};
+
+#pragma pack(pop)
+
+}  // namespace kelvra::h225
+
+#include "../../end_descriptions.h"

@@ -1,0 +1,32 @@
+// The private messages that a NonStandardMessage of the identifier 86/1/1 carries; docs/private_messages.md
+// has their ASN.1.
+#pragma once
+
+#include <stdint.h>
+
+#include "../../walk.h"
+
+#include "../../begin_descriptions.h"
+
+namespace kelvra::h245 {
+
+#pragma pack(push, 1)
+
+// The four sets, one for each message class, are alike.
+struct PrivateMessage {
+  uint8_t messageType;
+  uint32_t hasPayload;
+  OctetStringValue payload;
+  uint32_t isExtended;
+  KELVRA_SEQUENCE
+    KELVRA_MEMBER(messageType, Integer(0, 255));
+    KELVRA_OPTIONAL(hasPayload, payload, OctetString());
+    KELVRA_EXTENSION(isExtended);
+  KELVRA_END
+};
+
+#pragma pack(pop)
+
+}  // namespace kelvra::h245
+
+#include "../../end_descriptions.h"

@@ -1,0 +1,85 @@
+// Pointers and lists in packed records. A pointer is moved by its octets, because it may stand at any
+// address.
+#pragma once
+
+#include <stdint.h>
+#include <string.h>
+
+namespace kelvra {
+
+// The place of a pointer inside a packed record.
+template <class T>
+class Slot {
+ public:
+  explicit Slot(const void* address) : address_(const_cast<void*>(address)) {}
+
+  T* Get() const {
+    T* pointer = nullptr;
+    memcpy(static_cast<void*>(&pointer), address_, sizeof(T*));
+    return pointer;
+  }
+  void Set(T* pointer) const { memcpy(address_, static_cast<const void*>(&pointer), sizeof(T*)); }
+  void* Address() const { return address_; }
+
+ private:
+  void* address_;
+};
+
+// A list in a record: how many elements its block holds, and the slot of the pointer to the block. Iterating
+// over a list whose block was refused meets no element.
+template <class ElementType, class Count>
+class ListView {
+ public:
+  using Element = ElementType;
+  static constexpr uint32_t kCountOctets = sizeof(Count);
+
+  ListView(const void* count, const void* elements) : count_(const_cast<void*>(count)), elements_(elements) {}
+
+  uint32_t Size() const {
+    Count count;
+    memcpy(&count, count_, sizeof count);
+    return count;
+  }
+  // Keeps as many of the low bits as the record has room for.
+  void SetSize(uint32_t size) const {
+    const Count count = static_cast<Count>(size);
+    memcpy(count_, &count, sizeof count);
+  }
+  void* CountAddress() const { return count_; }
+  Slot<Element> Elements() const { return elements_; }
+
+  Element* begin() const { return elements_.Get(); }
+  Element* end() const {
+    Element* first = elements_.Get();
+    return first == nullptr ? nullptr : first + Size();
+  }
+
+ private:
+  void* count_;
+  Slot<Element> elements_;
+};
+
+namespace detail {
+
+template <class Pointer, class Count>
+struct ListViewOf;
+template <class Element, class Count>
+struct ListViewOf<Element*, Count> {
+  using Type = ListView<Element, Count>;
+};
+
+}  // namespace detail
+
+// The list of a count and a pointer that are members of a record, by their addresses.
+template <class Count, class Pointer>
+typename detail::ListViewOf<Pointer, Count>::Type ListAt(const void* count, const void* elements) {
+  return {count, elements};
+}
+
+// A list that is a record of its own, with `count` and `elements`, as an alternative of a CHOICE is.
+template <class Record>
+auto ListOf(Record& list) {
+  return ListAt<decltype(list.count), decltype(list.elements)>(&list.count, &list.elements);
+}
+
+}  // namespace kelvra

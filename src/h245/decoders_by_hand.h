@@ -1,0 +1,100 @@
+// What the descriptions of H.245 records cannot say: decoders written by hand. A comment at each record says why.
+#pragma once
+
+#include "kelvra/h245/channels/data_type.h"
+#include "kelvra/h245/messages/non_standard_message.h"
+#include "per/decoder.h"
+#include "record/release.h"
+
+namespace kelvra::h245 {
+
+// Where the block of rtpRedundancyEncoding.secondary was refused, the secondaryEncoding decoded before is released at
+// once.
+template <class R>
+[[gnu::always_inline]] inline Status DecodeByHand(RedundancyEncoding& m, R& r) {
+  const Status status = DecodeDescribed(m, r);
+  const RedundancyEncoding::RtpRedundancyEncoding& rtp = m.rtpRedundancyEncoding;
+  const bool refused =
+      rtp.hasSecondary && rtp.secondaryCount != 0 && Slot<RedundancyEncodingElement>(&rtp.secondary).Get() == nullptr;
+  if (refused) {
+    ReleaseVisitor release("codec/h245func");
+    release.Pointer("secondaryEncoding", Slot<DataType>(&m.secondaryEncoding));
+  }
+  return status;
+}
+
+// The payload of a private message. Unlike elsewhere, octets that are missing are a failure, those of the length
+// included; so is a length in fragments. After `messageType` the reader stands at an octet.
+inline Status DecodePrivatePayload(OctetStringValue& m, PerReader& r) {
+  const uint8_t first = PerPeekOctet(r, 0);
+  if (first >= 0xC0 || PerOctetsLeft(r) < (first < 0x80 ? 1U : 2U)) return kMalformed;
+  const uint32_t length = PerReadLength(r);
+  if (length > PerOctetsLeft(r)) return kMalformed;
+  m.length = length;
+  m.data = PerReadOctets(r, length);
+  return length != 0 && m.data == nullptr ? kRefused : kDecoded;
+}
+
+template <class R>
+Status DecodeByHand(PrivateMessage& m, R& r) {
+  PerFlags flags = PerReadFlags(r, 2);
+  m.isExtended = flags.Next();
+  m.hasPayload = flags.Next();
+  if (PerOctetsLeft(r) < 2) return kMalformed;
+  m.messageType = PerReadNumber<uint8_t>(r, 0, 255);
+  if (m.hasPayload) KELVRA_TRY(DecodePrivatePayload(m.payload, r));
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+  return kDecoded;
+}
+
+inline bool IsPrivate(const NonStandardIdentifier& m) {
+  const NonStandardIdentifier::H221NonStandard& vendor = m.h221NonStandard;
+  return m.choiceTag == 1 && vendor.t35CountryCode == 86 && vendor.t35Extension == 1 && vendor.manufacturerCode == 1;
+}
+
+// The private message of `length` octets that begins here. The reader is bounded to them, so that what the message
+// claims counts as claimed by the whole; it resumes past them, whatever was consumed.
+template <class R>
+Status DecodeBounded(PrivateMessage& m, R& r, uint32_t length) {
+  Status status = kDecoded;
+  {
+    const PerBounds bounds(r, length);
+    status = DecodeByHand(m, r);
+  }
+  if (status != kDecoded) PerMoveToEnd(r);
+  return status;
+}
+
+// Data of length 0 holds no message and is none of the failures.
+template <class R>
+Status DecodePrivateData(H245NonStandardMessageRecord& m, R& r) {
+  const uint32_t length = PerReadLength(r);
+  if (length == 0) return kDecoded;
+  if (m.messageClass > kIndication) return kMalformed;
+  KELVRA_TRY(DecodeBounded(m.privateMessage, r, length));
+  m.privateMessageDecoded = 1;
+  return kDecoded;
+}
+
+template <class R>
+Status DecodeByHand(H245NonStandardMessageRecord& m, R& r) {
+  m.isExtended = PerReadBit(r);
+  static_cast<void>(Decode(m.nonStandardData.nonStandardIdentifier, r));
+  if (IsPrivate(m.nonStandardData.nonStandardIdentifier)) {
+    KELVRA_TRY(DecodePrivateData(m, r));
+  } else {
+    uint32_t length = 0;
+    m.nonStandardData.data = PerReadOctetString(r, &length);
+    m.nonStandardData.dataLength = length;
+  }
+  if (m.isExtended) PerSkipExtensionAdditions(r);
+  return kDecoded;
+}
+
+template <class R>
+Status DecodeKind(H245NonStandardMessageRecord& m, R& r, NonStandardMessageKind kind) {
+  m.messageClass = kind.messageClass;
+  return Decode(m, r);
+}
+
+}  // namespace kelvra::h245
