@@ -93,9 +93,10 @@ function(_kelvra_described_types result header)
   set(${result} ${types} PARENT_SCOPE)
 endfunction()
 
-# Writes a unit for each header with descriptions, which instantiates the decoders of its types, and a header by which
-# no other unit does. Sets <result> to the units; they include <directory>/declarations.h.
-function(kelvra_decoder_units result directory)
+# Writes a unit for each header with descriptions, which instantiates the decoders of its types for a <reader> that is
+# declared in <reader_header>, and a header by which no other unit does. Sets <result> to the units; they include
+# <directory>/declarations.h.
+function(kelvra_decoder_units result directory reader reader_header)
   set(include_dir ${PROJECT_SOURCE_DIR}/include)
   file(GLOB_RECURSE headers CONFIGURE_DEPENDS RELATIVE ${include_dir}
     ${include_dir}/kelvra/h225/*.h ${include_dir}/kelvra/h235/*.h ${include_dir}/kelvra/h245/*.h)
@@ -116,13 +117,13 @@ function(kelvra_decoder_units result directory)
     set(instances "")
     foreach(type IN LISTS types)
       string(APPEND forward "namespace kelvra::${family} { struct ${type}; }\n")
-      string(APPEND declarations "extern template kelvra::Status kelvra::Decode(kelvra::${family}::${type}&, kelvra::PerReader&);\n")
-      string(APPEND instances "template kelvra::Status kelvra::Decode(kelvra::${family}::${type}&, kelvra::PerReader&);\n")
+      string(APPEND declarations "extern template kelvra::Status kelvra::Decode(kelvra::${family}::${type}&, kelvra::${reader}&);\n")
+      string(APPEND instances "template kelvra::Status kelvra::Decode(kelvra::${family}::${type}&, kelvra::${reader}&);\n")
     endforeach()
     string(REGEX REPLACE "[/.]" "_" name ${header})
     set(unit ${directory}/${name}.cpp)
     file(CONFIGURE OUTPUT ${unit} @ONLY CONTENT
-      "#include \"${header}\"\n\n#include \"${by_hand}/decoders_by_hand.h\"\n#include \"per/define_decoder.h\"\n#include \"declarations.h\"\n\n${instances}")
+      "#include \"${header}\"\n\n#include \"${by_hand}/decoders_by_hand.h\"\n#include \"per/define_decoder.h\"\n#include \"${reader_header}\"\n#include \"declarations.h\"\n\n${instances}")
     list(APPEND units ${unit})
   endforeach()
   file(CONFIGURE OUTPUT ${directory}/declarations.h @ONLY CONTENT

@@ -1,7 +1,11 @@
-// The entry that libFuzzer and the driver of AFL++ call; each fuzzer defines KELVRA_FUZZ_BODY as its own.
+// The entry of libFuzzer: one family's body, and the observed decode held against the plain one.
+#include <stdlib.h>
+
 #include "decode_and_release.h"
+#include "observer/comparison.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* octets, size_t size) {
   kelvra::fuzz::KELVRA_FUZZ_BODY(octets, size);
+  if (!kelvra::test::ObservedDecodeAgrees(kelvra::test::Family::KELVRA_FUZZ_FAMILY, octets, size)) abort();
   return 0;
 }

@@ -61,7 +61,7 @@ Status DecodeBounded(PrivateMessage& m, R& r, uint32_t length) {
     const PerBounds bounds(r, length);
     status = DecodeByHand(m, r);
   }
-  if (status != kDecoded) PerMoveToEnd(r);
+  if (status != kDecoded) PerMoveToEnd(r, PerCause::kLengthPastEnd);
   return status;
 }
 
@@ -70,23 +70,33 @@ template <class R>
 Status DecodePrivateData(H245NonStandardMessageRecord& m, R& r) {
   const uint32_t length = PerReadLength(r);
   if (length == 0) return kDecoded;
+  if constexpr (R::kObserves) {
+    if (length > PerOctetsLeft(r)) r.Stop(PerCause::kLengthPastEnd);
+  }
   if (m.messageClass > kIndication) return kMalformed;
   KELVRA_TRY(DecodeBounded(m.privateMessage, r, length));
   m.privateMessageDecoded = 1;
   return kDecoded;
 }
 
+// NonStandardParameter, unless its data hold a private message.
+struct NonStandardDataKind : asn1::DefinedTypeKind {
+  H245NonStandardMessageRecord& message;
+};
+
+template <class R>
+Status DecodeKind(NonStandardParameter& m, R& r, NonStandardDataKind kind) {
+  ValueReader<false, R> reader(r);
+  KELVRA_TRY(reader.Read("nonStandardIdentifier", m.nonStandardIdentifier, asn1::DefinedType()));
+  if (IsPrivate(m.nonStandardIdentifier)) return DecodePrivateData(kind.message, r);
+  return reader.Read("data", Slot<uint8_t>(&m.data), asn1::OctetStringOf(asn1::Scalar<uint32_t>(&m.dataLength)));
+}
+
 template <class R>
 Status DecodeByHand(H245NonStandardMessageRecord& m, R& r) {
   m.isExtended = PerReadBit(r);
-  static_cast<void>(Decode(m.nonStandardData.nonStandardIdentifier, r));
-  if (IsPrivate(m.nonStandardData.nonStandardIdentifier)) {
-    KELVRA_TRY(DecodePrivateData(m, r));
-  } else {
-    uint32_t length = 0;
-    m.nonStandardData.data = PerReadOctetString(r, &length);
-    m.nonStandardData.dataLength = length;
-  }
+  // A failure of private data is the one that ends the message.
+  KELVRA_TRY((ValueReader<true, R>(r).Read("nonStandardData", m.nonStandardData, NonStandardDataKind{{}, m})));
   if (m.isExtended) PerSkipExtensionAdditions(r);
   return kDecoded;
 }

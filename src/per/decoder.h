@@ -5,7 +5,7 @@
 // root, to take the presence bits of its additions and to read these. All of it is inline, so that what a pass has
 // no use for folds away and bounds and counts are constants.
 //
-// `R` is the reader: a PerReader, or one that reports what is read (per/observer.h).
+// `R` is the reader: a PerReader, or one that reports what is read (observer/observed_reader.h).
 #pragma once
 
 #include <type_traits>
@@ -141,6 +141,7 @@ class ValueReader {
     const Status status = Read(name, place, kind);
     if constexpr (kReports) KELVRA_TRY(status);
     OpenTypeEnd(r);
+    if constexpr (R::kObserves) r.LeftOpenType();
     return kDecoded;
   }
 
@@ -184,7 +185,10 @@ class ValueReader {
   }
   [[gnu::always_inline]] Status Value(OctetStringValue& value, asn1::CheckedIA5StringKind kind) {
     const auto length = PerReadNumber<uint32_t>(r, kind.low, kind.high);
-    if (length > kind.high) return kExhausted;
+    if (length > kind.high) {
+      if constexpr (R::kObserves) r.Stop(PerCause::kNumberTooWide);
+      return kExhausted;
+    }
     value.length = length;
     value.data = PerReadOctets(r, length);
     return kDecoded;
@@ -194,7 +198,10 @@ class ValueReader {
   template <class T>
   [[gnu::always_inline]] Status Value(T& record, asn1::DefinedTypeKind) {
     if constexpr (kReports && !kReportsFailures<T>) {
-      if (PerAtEnd(r)) return kExhausted;
+      if (PerAtEnd(r)) {
+        if constexpr (R::kObserves) r.Stop(PerCause::kEndOfMessage);
+        return kExhausted;
+      }
     }
     const Status status = DecodeDefined(record);
     return kReports ? status : kDecoded;
@@ -213,6 +220,7 @@ class ValueReader {
     OpenTypeBegin(r);
     static_cast<void>(Decode(record, r));
     OpenTypeEnd(r);
+    if constexpr (R::kObserves) r.LeftOpenType();
     return kDecoded;
   }
   template <class T>
@@ -304,7 +312,10 @@ class ValueReader {
     if (elements == nullptr) return kRefused;
     for (Element& element : list) {
       if constexpr (!kElementReports<Element, Kind>) {
-        if (PerAtEnd(r)) break;
+        if (PerAtEnd(r)) {
+          if constexpr (R::kObserves) r.Stop(PerCause::kEndOfMessage);
+          break;
+        }
       }
       if constexpr (kIsDecodedInPlace<Element> && !R::kObserves) {
         static_assert(!kReportsFailures<Element>);
@@ -318,6 +329,13 @@ class ValueReader {
 
   R& r;
 };
+
+// Open types of which nothing is known.
+template <class R>
+[[gnu::always_inline]] inline void SkipOpenTypes(R& r, int32_t count) {
+  PerSkipOpenTypes(r, count);
+  if constexpr (R::kObserves) r.LeftOpenType();
+}
 
 // --- SEQUENCE ---
 
@@ -480,6 +498,7 @@ template <class T, class R>
   constexpr bool kReports = kReportsFailures<T>;
   if (count.additions == 0) {
     PerSkipExtensionAdditions(r);
+    if constexpr (R::kObserves) r.LeftOpenType();
     return kDecoded;
   }
   int32_t bitmap = PerReadBitmapLength(r);
@@ -494,7 +513,7 @@ template <class T, class R>
   if constexpr (kReports) r.extensionPresentCount = unknown;
   AdditionPass<kReports, R> additions(r);
   if (!T::Describe(m, additions)) return additions.status;
-  PerSkipOpenTypes(r, kReports ? r.extensionPresentCount : unknown);
+  SkipOpenTypes(r, kReports ? r.extensionPresentCount : unknown);
   return kDecoded;
 }
 
@@ -547,12 +566,15 @@ struct AlternativePass {
   }
   [[gnu::always_inline]] bool NullAlternative(const char*) {
     if (chosen != next++) return true;
-    if (next > asn1::kFirstExtension) PerPassOverOpenType(r);
+    if (next > asn1::kFirstExtension) {
+      PerPassOverOpenType(r);
+      if constexpr (R::kObserves) r.LeftOpenType();
+    }
     return false;
   }
   [[gnu::always_inline]] bool PassedOver(const char*) {
     if (chosen != next++) return true;
-    PerSkipOpenTypes(r, 1);
+    SkipOpenTypes(r, 1);
     return false;
   }
 };
@@ -595,8 +617,11 @@ template <class T, class R>
   if (isExtension && !kKeepsExtensionIndex<T>) choice.tag.Set(0);
   AlternativePass<kReportsFailures<T>, R> alternatives(r, asn1::AlternativeNumber(isExtension, index));
   if (!T::Describe(m, alternatives)) return alternatives.status;
-  if (!isExtension) return kMalformed;
-  PerSkipOpenTypes(r, 1);
+  if (!isExtension) {
+    if constexpr (R::kObserves) r.Stop(PerCause::kUndefinedIndex);
+    return kMalformed;
+  }
+  SkipOpenTypes(r, 1);
   return kDecoded;
 }
 
@@ -616,11 +641,17 @@ inline constexpr bool kAsksAfterExtensionBit<Names, std::void_t<decltype(Names::
 // The alternative `index` of a CHOICE of NULLs.
 template <uint32_t kRoots, uint32_t kExtensions, class R>
 Status DecodeNull(R& r, uint32_t index, bool isExtension) {
-  if (!isExtension) return index < kRoots ? kDecoded : kMalformed;
+  if (!isExtension) {
+    if constexpr (R::kObserves) {
+      if (index >= kRoots) r.Stop(PerCause::kUndefinedIndex);
+    }
+    return index < kRoots ? kDecoded : kMalformed;
+  }
   if (index < kExtensions) {
     PerPassOverOpenType(r);
+    if constexpr (R::kObserves) r.LeftOpenType();
   } else {
-    PerSkipOpenTypes(r, 1);
+    SkipOpenTypes(r, 1);
   }
   return kDecoded;
 }
@@ -695,7 +726,8 @@ template <class T, class R>
   } else if constexpr (kIsRecursive<T>) {
     const RecursionLevel level(r);
     if (level.TooDeep()) {
-      if constexpr (!kReportsFailures<T>) PerMoveToEnd(r);
+      if constexpr (R::kObserves) r.Stop(PerCause::kTooDeep);
+      if constexpr (!kReportsFailures<T>) PerMoveToEnd(r, PerCause::kTooDeep);
       return kMalformed;
     }
     return DecodeDescribed(m, r);

@@ -3,7 +3,8 @@
 namespace kelvra {
 
 void PerSkipOpenTypes(PerReader& reader, int32_t count) {
-  for (int32_t i = 0; i < count && !PerAtEnd(reader); ++i) {
+  for (int32_t i = 0; i < count; ++i) {
+    if (PerAtEnd(reader)) return PerNoteCause(reader, PerCause::kEndOfMessage);
     const uint32_t length = PerReadLength(reader);
     reader.position = PerAdvance(reader.position, length);
   }

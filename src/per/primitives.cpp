@@ -10,6 +10,13 @@ enum RefusalLine : int32_t { kBlockRefused = 192, kFragmented = 275 };
 
 uint32_t Minimum(uint32_t a, uint32_t b) { return a < b ? a : b; }
 
+// Whether nothing is left for a value that takes bits.
+inline bool IsMissing(PerReader& reader) {
+  if (!PerAtEnd(reader)) return false;
+  PerNoteCause(reader, PerCause::kEndOfMessage);
+  return true;
+}
+
 uint64_t LoadWord(const uint8_t* octets) {
   uint64_t word = 0;
   __builtin_memcpy(&word, octets, sizeof word);
@@ -81,7 +88,7 @@ Character* ReadCharacters(PerReader& reader, uint32_t count, Map map) {
     reader.bitOffset = static_cast<BitOffset>(bits % 8);
     return characters;
   }
-  for (uint32_t i = 0; i < count && !PerAtEnd(reader); ++i) {
+  for (uint32_t i = 0; i < count && !IsMissing(reader); ++i) {
     characters[i] = static_cast<Character>(map(PerReadBitsAtEdge(reader, kWidth)));
   }
   return characters;
@@ -89,9 +96,9 @@ Character* ReadCharacters(PerReader& reader, uint32_t count, Map map) {
 
 template <class Map>
 uint8_t* ReadNibbleString(PerReader& reader, uint32_t count, Map map) {
-  if (PerAtEnd(reader) || count == 0) return nullptr;
+  if (count == 0 || IsMissing(reader)) return nullptr;
   if (count / 2 > PerOctetsLeft(reader) + 1) {
-    PerMoveToEnd(reader);
+    PerMoveToEnd(reader, PerCause::kLengthPastEnd);
     return nullptr;
   }
   return ReadCharacters<uint8_t, 4>(reader, count, map);
@@ -145,13 +152,13 @@ void ReadArcs(PerReader& reader, uint32_t* arcs, uint32_t count) {
 
 }  // namespace
 
-void PerRefuseBlock(PerReader& reader) {
+void PerRefuseBlock(PerReader& reader, uint64_t size) {
   CodecTrace(kTraceDecoder, kTraceError, kReasonAllocation, kSourceStrings, kBlockRefused);
-  PerMoveToEnd(reader);
+  PerMoveToEnd(reader, size > reader.allowance ? PerCause::kTooMuchMemory : PerCause::kRefusedBlock);
 }
 
 uint32_t PerReadConstrainedWholeNumberAtEdge(PerReader& reader, uint32_t range) {
-  if (PerAtEnd(reader)) return 0;
+  if (IsMissing(reader)) return 0;
   if (range <= 65536) {
     PerAlign(reader);
     return PerReadBits(reader, range == 256 ? 8 : 16);
@@ -164,12 +171,12 @@ uint32_t PerReadConstrainedWholeNumberAtEdge(PerReader& reader, uint32_t range) 
 }
 
 uint32_t PerReadLengthAtEdge(PerReader& reader) {
-  if (PerAtEnd(reader)) return 0;
+  if (IsMissing(reader)) return 0;
   PerAlign(reader);
   if (PerReadBit(reader) == 0) return PerReadBits(reader, 7);
   if (PerReadBit(reader) == 0) return PerReadBits(reader, 14);
   CodecTrace(kTraceDecoder, kTraceError, kReasonDecode, kSourceLength, kFragmented);
-  PerMoveToEnd(reader);
+  PerMoveToEnd(reader, PerCause::kFragmentedLength);
   return 0;
 }
 
@@ -177,7 +184,7 @@ uint32_t PerReadNormallySmallAtEdge(PerReader& reader) {
   if (PerReadBit(reader) == 0) return PerReadBits(reader, 6);
   const uint32_t octets = PerReadLength(reader);
   if (octets > 4) {
-    PerMoveToEnd(reader);
+    PerMoveToEnd(reader, PerCause::kNumberTooWide);
     return 0;
   }
   return PerReadBits(reader, octets * 8);
@@ -191,7 +198,7 @@ uint32_t PerReadUnsignedWithLength(PerReader& reader) {
 int32_t PerReadInteger(PerReader& reader) {
   const uint32_t octets = PerReadLength(reader);
   if (octets > 4) {
-    PerMoveToEnd(reader);
+    PerMoveToEnd(reader, PerCause::kNumberTooWide);
     return 0;
   }
   if (octets == 0) return 0;
@@ -200,9 +207,9 @@ int32_t PerReadInteger(PerReader& reader) {
 }
 
 uint8_t* PerReadOctets(PerReader& reader, uint32_t count) {
-  if (PerAtEnd(reader) || count == 0) return nullptr;
+  if (count == 0 || IsMissing(reader)) return nullptr;
   if (count > PerOctetsLeft(reader)) {
-    PerMoveToEnd(reader);
+    PerMoveToEnd(reader, PerCause::kLengthPastEnd);
     return nullptr;
   }
   auto* octets = static_cast<uint8_t*>(PerAllocate(reader, count));
@@ -223,16 +230,16 @@ void PerReadOctetStringRecord(OctetStringValue& value, PerReader& reader) {
   value.length = PerReadLength(reader);
   if (value.length > PerOctetsLeft(reader)) {
     value.length = 0;
-    PerMoveToEnd(reader);
+    PerMoveToEnd(reader, PerCause::kLengthPastEnd);
     return;
   }
   value.data = PerReadOctets(reader, value.length);
 }
 
 uint8_t* PerReadBitString(PerReader& reader, uint32_t count) {
-  if (PerAtEnd(reader) || count == 0) return nullptr;
+  if (count == 0 || IsMissing(reader)) return nullptr;
   if (count / 8 > PerOctetsLeft(reader) + 1) {
-    PerMoveToEnd(reader);
+    PerMoveToEnd(reader, PerCause::kLengthPastEnd);
     return nullptr;
   }
   auto* octets = static_cast<uint8_t*>(PerAllocate(reader, (uint64_t{count} + 7) / 8));
@@ -243,8 +250,8 @@ uint8_t* PerReadBitString(PerReader& reader, uint32_t count) {
     done = Minimum(count / 8, PerOctetsLeft(reader));
     TakeOctets(reader, octets, done);
   }
-  for (; done < count / 8 && !PerAtEnd(reader); ++done) octets[done] = static_cast<uint8_t>(PerReadBits(reader, 8));
-  if (const uint32_t rest = count % 8; rest != 0 && !PerAtEnd(reader)) {
+  for (; done < count / 8 && !IsMissing(reader); ++done) octets[done] = static_cast<uint8_t>(PerReadBits(reader, 8));
+  if (const uint32_t rest = count % 8; rest != 0 && !IsMissing(reader)) {
     octets[count / 8] = static_cast<uint8_t>(PerReadBits(reader, rest) << (8 - rest));
   }
   return octets;
@@ -263,18 +270,18 @@ uint8_t* PerReadTBCDString(PerReader& reader, uint32_t count) {
 }
 
 uint8_t* PerReadPrintableString(PerReader& reader, uint32_t count) {
-  if (PerAtEnd(reader) || count == 0) return nullptr;
+  if (count == 0 || IsMissing(reader)) return nullptr;
   if (count > PerOctetsLeft(reader)) {
-    PerMoveToEnd(reader);
+    PerMoveToEnd(reader, PerCause::kLengthPastEnd);
     return nullptr;
   }
   return ReadCharacters<uint8_t, 8>(reader, count, PrintableCharacter);
 }
 
 uint16_t* PerReadBMPString(PerReader& reader, uint32_t count) {
-  if (PerAtEnd(reader) || count == 0) return nullptr;
+  if (count == 0 || IsMissing(reader)) return nullptr;
   if (uint64_t{count} * 2 > PerOctetsLeft(reader)) {
-    PerMoveToEnd(reader);
+    PerMoveToEnd(reader, PerCause::kLengthPastEnd);
     return nullptr;
   }
   return ReadCharacters<uint16_t, 16>(reader, count, [](uint32_t unit) { return unit; });
@@ -306,7 +313,7 @@ void PerReadObjectIdentifier(ObjectIdentifierValue& value, PerReader& reader) {
   const uint32_t count = 1 + CountSubidentifiers(reader.position, inside, readable) + (counted - inside);
   value.count = count;
   if (length > left) {
-    PerMoveToEnd(reader);
+    PerMoveToEnd(reader, PerCause::kLengthPastEnd);
     PerCountRereading(reader, counted);
     return;
   }

@@ -18,8 +18,8 @@ namespace kelvra {
 // The range that stands for 2^32 values.
 inline constexpr uint32_t kFullRange = 0xFFFFFFFF;
 
-// Reports a refused block; the reader moves to its end.
-[[gnu::cold]] void PerRefuseBlock(PerReader& reader);
+// Reports that a block of `size` octets was refused; the reader moves to its end.
+[[gnu::cold]] void PerRefuseBlock(PerReader& reader, uint64_t size);
 
 // A zeroed block of `size` octets against the message's allowance; refused, the reader moves to its end.
 inline void* PerAllocate(PerReader& reader, uint64_t size) {
@@ -27,7 +27,7 @@ inline void* PerAllocate(PerReader& reader, uint64_t size) {
   if (size <= reader.allowance) [[likely]]
     block = CodecAlloc(static_cast<size_t>(size));
   if (block == nullptr) [[unlikely]] {
-    PerRefuseBlock(reader);
+    PerRefuseBlock(reader, size);
     return nullptr;
   }
   reader.allowance -= static_cast<uint32_t>(size);

@@ -45,13 +45,13 @@ PerBounds::~PerBounds() {
   SetEnd(reader_, outerEnd_);
   PerMoveTo(reader_, behind_);
   reader_.stoppedAt = nullptr;
-  if (reader_.reread > kMaximumRereading) PerMoveToEnd(reader_);
+  if (reader_.reread > kMaximumRereading) PerMoveToEnd(reader_, PerCause::kTooMuchRereading);
 }
 
 bool PerCountRereading(PerReader& reader, uint32_t octets) {
   reader.reread = reader.reread + octets > kMaximumRereading ? kMaximumRereading + 1 : reader.reread + octets;
   if (reader.reread <= kMaximumRereading) return true;
-  PerMoveToEnd(reader);
+  PerMoveToEnd(reader, PerCause::kTooMuchRereading);
   return false;
 }
 
@@ -68,15 +68,18 @@ uint8_t PerPeekOctet(const PerReader& reader, uint32_t index) {
 }
 
 uint32_t PerReadBitsAtEdge(PerReader& reader, uint32_t count) {
-  if (PerAtEnd(reader)) return 0;
+  if (PerAtEnd(reader)) {
+    if (count != 0) PerNoteCause(reader, PerCause::kEndOfMessage);
+    return 0;
+  }
   if (uint64_t{PerOctetsLeft(reader)} * 8 < uint64_t{reader.bitOffset} + count) {
     TraceRefusal(kReadPastEnd);
-    PerMoveToEnd(reader);
+    PerMoveToEnd(reader, PerCause::kEndOfMessage);
     return 0;
   }
   if (count > 32) {
     TraceRefusal(kReadTooWide);
-    PerMoveToEnd(reader);
+    PerMoveToEnd(reader, PerCause::kNumberTooWide);
     return 0;
   }
   if (count == 0) return 0;
@@ -104,7 +107,7 @@ void PerSkipBits(PerReader& reader, uint32_t count) {
   }
   const uint64_t total = uint64_t{reader.bitOffset} + count;
   if (total / 8 > PerOctetsLeft(reader)) {
-    PerMoveToEnd(reader);
+    PerMoveToEnd(reader, PerCause::kEndOfMessage);
     TraceRefusal(kSkipPastEnd);
     return;
   }

@@ -41,6 +41,21 @@ struct OpenTypeRing {
 // Of a type that no record has, so that the compiler knows a reader's offset to survive a store to a record.
 using BitOffset = unsigned long;
 
+// Why a read failed, for those who ask afterwards; no decode does.
+enum class PerCause : uint8_t {
+  kNone,
+  kEndOfMessage,      // the bits are not there
+  kLengthPastEnd,     // a length announces more than there is
+  kFragmentedLength,  // a length comes in fragments
+  kNumberTooWide,     // a number of more than 32 bits, or a length past its bound
+  kUndefinedIndex,    // an index past the alternatives of a CHOICE
+  kRefusedBlock,      // the heap refused a block
+  kTooMuchMemory,     // the message claims more memory than it may
+  kTooDeep,           // types nest deeper than they may
+  kTooMuchRereading,  // the message has more read again than it may
+  kUnknownVersion,    // a registration names a version that is not known
+};
+
 // There is no error flag: a read that fails moves `position` to `end`, and from then on every read
 // yields 0. An open type's length can carry `position` beyond `end`, which counts as exhausted.
 struct PerReader {
@@ -58,6 +73,7 @@ struct PerReader {
   // State that belongs to the decoding of this one message.
   OpenTypeRing openTypes;
   int32_t extensionPresentCount;  // unknown additions to skip, as the last bitmap left it
+  PerCause cause;                 // of the first failure
   int32_t senderVersion;          // the version that the message names, where it decides which additions follow
   uint32_t depth;                 // recursive types entered
   uint32_t allowance;             // octets that blocks may still claim
@@ -103,7 +119,13 @@ inline const uint8_t* PerBoundary(const PerReader& reader, BitOffset offset) {
 }
 inline const uint8_t* PerBoundary(const PerReader& reader) { return PerBoundary(reader, reader.bitOffset); }
 
-inline void PerMoveToEnd(PerReader& reader) {
+// Notes why a read failed, unless one has failed before.
+inline void PerNoteCause(PerReader& reader, PerCause cause) {
+  if (reader.cause == PerCause::kNone) reader.cause = cause;
+}
+
+inline void PerMoveToEnd(PerReader& reader, PerCause cause) {
+  PerNoteCause(reader, cause);
   if (!PerAtEnd(reader)) reader.stoppedAt = PerBoundary(reader);
   reader.position = reader.end;
   reader.bitOffset = 0;

@@ -12,20 +12,12 @@
 namespace kelvra::test {
 namespace {
 
-constexpr uint32_t kTpktHeader = 4;
-constexpr uint32_t kElementHeader = 4;  // identifier, length, protocol discriminator
-constexpr uint8_t kUserUser = 0x7E;
-
 // Lets `reader` begin at the user information; false when there is none.
 bool BeginUserInformation(PerReader& reader, const std::vector<uint8_t>& octets) {
-  if (octets.size() <= kTpktHeader) return false;
-  const uint32_t available = static_cast<uint32_t>(octets.size()) - kTpktHeader;
-  const h225::Q931Frame frame{octets.data() + kTpktHeader, available, static_cast<uint16_t>(available)};
-  h225::Q931Element element;
-  if (h225::FindQ931Element(&frame, kUserUser, &element) != h225::kQ931Decoded) return false;
-  const uint32_t first = element.position + kElementHeader;
-  if (first >= available) return false;
-  PerReaderInit(reader, frame.octets + first, element.length + uint32_t{1}, available - first);
+  const h225::Q931Frame frame = h225::FrameOf(octets.data(), static_cast<int32_t>(octets.size()));
+  h225::Q931Element element{};
+  if (h225::FindQ931Element(&frame, h225::kUserUser, &element) != h225::kQ931Decoded) return false;
+  h225::BeginUserInformation(reader, frame, element);
   return true;
 }
 

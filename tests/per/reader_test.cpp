@@ -252,7 +252,7 @@ TEST(PerOctetsLeft, CountsTheOctetThatIsPartlyConsumed) {
   EXPECT_EQ(PerOctetsLeft(input.reader), 3u);
   PerReadBits(input.reader, 9);
   EXPECT_EQ(PerOctetsLeft(input.reader), 2u);
-  PerMoveToEnd(input.reader);
+  PerMoveToEnd(input.reader, PerCause::kEndOfMessage);
   EXPECT_EQ(PerOctetsLeft(input.reader), 0u);
 }
 

@@ -124,7 +124,7 @@ TEST_F(TooMuchRereading, LeavesTheReaderAtItsEndForGood) {
   for (uint32_t i = 0; i <= kTimes; ++i) ReadInOpenType(input.reader, kOctets);
   ASSERT_TRUE(input.AtExactEnd());
   for (int level = 0; level < 3; ++level) {
-    PerMoveToEnd(input.reader);
+    PerMoveToEnd(input.reader, PerCause::kEndOfMessage);
     OpenTypeEnd(input.reader);
     EXPECT_TRUE(input.AtExactEnd());
   }
@@ -172,7 +172,7 @@ TEST(PerBounds, ForgetHowFarAReaderGotThatStoppedWithinThem) {
   OpenTypeBegin(input.reader);
   {
     const PerBounds bounds(input.reader, 10);
-    PerMoveToEnd(input.reader);
+    PerMoveToEnd(input.reader, PerCause::kEndOfMessage);
   }
   while (!PerAtEnd(input.reader)) input.Next();
   OpenTypeEnd(input.reader);

@@ -9,7 +9,6 @@ namespace {
 
 constexpr uint32_t kTpktHeader = 4;
 constexpr uint16_t kFirstElement = 5;
-constexpr uint8_t kUserUser = 0x7E;
 
 enum Q931ElementIdentifier : uint8_t {
   kBearerCapability = 0x04,
@@ -141,20 +140,28 @@ void CopyElements(Q931MessageRecord& m, const Q931Frame& frame, const FirstEleme
       copy.Octets(kCallingPartySubaddress, 1, m.callingPartySubaddress, 23, kCallingPartySubaddressPresent);
 }
 
-// Decodes the contents of the user-user element behind their protocol discriminator. The reader's
-// limit lies two octets behind the element, so that a value which fills it to the last bit still ends
-// before the limit; a decode that reaches the limit has failed.
 bool DecodeUserInformationElement(H323UserInformation& m, const Q931Frame& frame, const Q931Element& element) {
-  const uint32_t first = element.position + uint32_t{4};
   PerReader reader;
-  PerReaderInit(reader, PerAdvance(frame.octets, first), element.length + uint32_t{1},
-                frame.available > first ? frame.available - first : 0);
+  BeginUserInformation(reader, frame, element);
   if (Decode(m, reader) == kDecoded && reader.position != reader.end) return true;
   ReleaseH323UserInformation(&m);
   return false;
 }
 
 }  // namespace
+
+Q931Frame FrameOf(const uint8_t* buffer, int32_t length) {
+  const uint32_t octets = length > 0 ? static_cast<uint32_t>(length) : 0;
+  const uint32_t available = octets > kTpktHeader ? octets - kTpktHeader : 0;
+  return {available == 0 ? buffer : buffer + kTpktHeader, available,
+          static_cast<uint16_t>(static_cast<uint32_t>(length) - kTpktHeader)};
+}
+
+void BeginUserInformation(PerReader& reader, const Q931Frame& frame, const Q931Element& element) {
+  const uint32_t first = element.position + uint32_t{4};
+  PerReaderInit(reader, PerAdvance(frame.octets, first), element.length + uint32_t{1},
+                frame.available > first ? frame.available - first : 0);
+}
 
 int32_t FindQ931Element(const Q931Frame* frame, uint8_t identifier, Q931Element* element) {
   if (frame == nullptr || frame->octets == nullptr || element == nullptr) {
@@ -178,10 +185,7 @@ int32_t DecodeQ931Frame(Q931MessageRecord* record, const uint8_t* buffer, int32_
     Trace(kTraceError, kReasonArgument, __LINE__);
     return kQ931BadArgument;
   }
-  const uint32_t octets = length > 0 ? static_cast<uint32_t>(length) : 0;
-  const uint32_t available = octets > kTpktHeader ? octets - kTpktHeader : 0;
-  const Q931Frame frame{available == 0 ? buffer : buffer + kTpktHeader, available,
-                        static_cast<uint16_t>(static_cast<uint32_t>(length) - kTpktHeader)};
+  const Q931Frame frame = FrameOf(buffer, length);
   record->protocolDiscriminator = frame.At(0);
   record->callReferenceLength = frame.At(1);
   record->callReferenceValue = static_cast<uint16_t>(frame.At(2) << 8 | frame.At(3));

@@ -4,8 +4,11 @@
 #include <stdint.h>
 
 #include "kelvra/h225/call/q931_message.h"
+#include "per/reader.h"
 
 namespace kelvra::h225 {
+
+inline constexpr uint8_t kUserUser = 0x7E;  // the identifier of the user-user element
 
 inline constexpr int32_t kQ931Decoded = 0;
 inline constexpr int32_t kQ931Rejected = -1;
@@ -34,7 +37,15 @@ struct Q931Element {
 // it finds all elements in one pass.
 int32_t FindQ931Element(const Q931Frame* frame, uint8_t identifier, Q931Element* element);
 
-// Decodes the message behind the 4 octets of the TPKT header into a cleared record.
+// The frame after the TPKT header of a message.
+Q931Frame FrameOf(const uint8_t* buffer, int32_t length);
+
+// Sets `reader` up for the H323-UserInformation in a user-user element, after its protocol discriminator. The reader's
+// limit lies two octets past the element, so that a value which fills it to the last bit still ends before the limit; a
+// decode that reaches the limit has failed.
+void BeginUserInformation(PerReader& reader, const Q931Frame& frame, const Q931Element& element);
+
+// Decodes the message after the 4 octets of the TPKT header into a cleared record.
 int32_t DecodeQ931Frame(Q931MessageRecord* record, const uint8_t* buffer, int32_t length);
 
 }  // namespace kelvra::h225

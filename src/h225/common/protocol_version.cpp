@@ -36,7 +36,7 @@ void ReadProtocolIdentifier(ObjectIdentifierValue& protocolIdentifier, PerReader
 Status ReadRegistrationProtocolIdentifier(ObjectIdentifierValue& protocolIdentifier, PerReader& reader) {
   reader.senderVersion = ReadVersion(protocolIdentifier, reader);
   if (reader.senderVersion != 0) return kDecoded;
-  PerMoveToEnd(reader);
+  PerMoveToEnd(reader, PerCause::kUnknownVersion);
   return kUnsupportedVersion;
 }
 

@@ -1,0 +1,130 @@
+// The reader of an observed decode (observer/observer.h), which per/decoder.h tells of each component.
+#pragma once
+
+#include <vector>
+
+#include "observer/observer.h"
+#include "per/decoder.h"
+
+namespace kelvra {
+
+class ObservedReader : public PerReader {
+ public:
+  static constexpr bool kObserves = true;
+
+  ObservedReader(const PerReader& reader, DecodeObserver& observer)
+      : PerReader(reader), observer_(observer), start_(reader.position) {}
+
+  uint64_t Bit() const {
+    return uint64_t{reinterpret_cast<uintptr_t>(position) - reinterpret_cast<uintptr_t>(start_)} * 8 + bitOffset;
+  }
+
+  // The component that is read while it lives.
+  class Component {
+   public:
+    template <class Place, class Kind>
+    Component(ObservedReader& reader, const char* name, Place& place, Kind kind)
+        : reader_(reader), component_{name, KindOf(kind), reader.Bit(), AddressOf(place)} {
+      reader_.Begin(component_, HasBits(place, kind));
+    }
+    ~Component() { reader_.End(component_); }
+    Component(const Component&) = delete;
+    Component& operator=(const Component&) = delete;
+
+   private:
+    ObservedReader& reader_;
+    kelvra::Component component_;
+  };
+
+  // The decode stops in the innermost component, for a reason that does not move the reader to its end.
+  void Stop(PerCause reason);
+  // An open type was left, which may have brought the reader back from its end.
+  void LeftOpenType();
+
+  void Begin(const kelvra::Component& component, bool hasBits);
+  void End(const kelvra::Component& component);
+
+ private:
+  struct Step {
+    const kelvra::Component* component;
+    uint32_t elements;  // begun so far
+    uint32_t index;     // among the elements of its list
+    bool isRead;
+  };
+
+  template <class T>
+  static const void* AddressOf(const T& record) {
+    return &record;
+  }
+  template <class T>
+  static const void* AddressOf(const asn1::Scalar<T>& scalar) {
+    return scalar.Address();
+  }
+  template <class T>
+  static const void* AddressOf(const Slot<T>& slot) {
+    return slot.Address();
+  }
+  template <class Element, class Count>
+  static const void* AddressOf(const ListView<Element, Count>& list) {
+    return list.Elements().Address();
+  }
+
+  static ComponentKind KindOf(asn1::BooleanKind) { return ComponentKind::kBoolean; }
+  static ComponentKind KindOf(asn1::NullKind) { return ComponentKind::kNull; }
+  static ComponentKind KindOf(asn1::IntegerKind) { return ComponentKind::kInteger; }
+  static ComponentKind KindOf(asn1::ExtensibleIntegerKind) { return ComponentKind::kInteger; }
+  static ComponentKind KindOf(asn1::UnconstrainedIntegerKind) { return ComponentKind::kInteger; }
+  static ComponentKind KindOf(asn1::ObjectIdentifierKind) { return ComponentKind::kObjectIdentifier; }
+  static ComponentKind KindOf(asn1::DefinedTypeKind) { return ComponentKind::kRecord; }
+  static ComponentKind KindOf(asn1::InlineTypeKind) { return ComponentKind::kRecord; }
+  static ComponentKind KindOf(asn1::ExtendedInlineTypeKind) { return ComponentKind::kRecord; }
+  static ComponentKind KindOf(asn1::ContainingKind) { return ComponentKind::kRecord; }
+  static ComponentKind KindOf(asn1::IndirectKind) { return ComponentKind::kRecord; }
+  template <class Kind>
+  static ComponentKind KindOf(asn1::AliasKind<Kind> alias) {
+    return KindOf(alias.kind);
+  }
+  template <class Kind>
+  static ComponentKind KindOf(asn1::EvenIfMissingKind<Kind> element) {
+    return KindOf(element.kind);
+  }
+  template <class Kind>
+  static ComponentKind KindOf(asn1::SequenceOfKind<Kind>) {
+    return ComponentKind::kList;
+  }
+  template <class Kind>
+  static ComponentKind KindOf(asn1::SizedSequenceOfKind<Kind>) {
+    return ComponentKind::kList;
+  }
+  template <class Kind>
+  static ComponentKind KindOf(Kind) {
+    return ComponentKind::kString;
+  }
+
+  // Whether the component itself takes bits, so that one at the end of the message is missing. Of a record its
+  // components say so, unless its decoder asks on entry.
+  template <class Place, class Kind>
+  static bool HasBits(const Place&, Kind kind) {
+    const ComponentKind form = KindOf(kind);
+    return form != ComponentKind::kNull && form != ComponentKind::kRecord;
+  }
+  template <class T>
+  static bool HasBits(const T&, asn1::DefinedTypeKind) {
+    return kReportsFailures<T> || kIsNullChoice<T>;
+  }
+  template <class Place, class Kind>
+  static bool HasBits(const Place&, asn1::AliasKind<Kind>) {
+    return true;
+  }
+  static bool HasBits(const asn1::Scalar<uint8_t>&, asn1::IntegerKind kind) { return kind.low != kind.high; }
+
+  std::string Path() const;
+  void Report(PerCause reason, uint64_t bit);
+
+  DecodeObserver& observer_;
+  const uint8_t* start_;
+  std::vector<Step> steps_;  // innermost last
+  bool isStopped_ = false;
+};
+
+}  // namespace kelvra

@@ -1,0 +1,14 @@
+// Compares an observed decode with the library's own.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+#include "doubles/message_corpus.h"
+
+namespace kelvra::test {
+
+// Whether both leave the same record and blocks, the same status and the same position.
+bool ObservedDecodeAgrees(Family family, const uint8_t* octets, size_t size);
+
+}  // namespace kelvra::test
