@@ -650,6 +650,7 @@ struct ExtendedVideoCapability {
   GenericCapability* videoCapabilityExtension;
   uint32_t isExtended;
 
+  static constexpr bool kDecodedInPlace = true;
   KELVRA_SEQUENCE
     KELVRA_MEMBER_LIST(videoCapability, SequenceOf(DefinedType()));
     KELVRA_OPTIONAL_LIST(hasVideoCapabilityExtension, videoCapabilityExtension, SequenceOf(DefinedType()));
