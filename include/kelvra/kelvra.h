@@ -1,7 +1,7 @@
 // Kelvra: decodes H.323 signalling into plain packed records.
 //
 // Each family has a function that decodes one message and one that releases the heap blocks which a
-// decode hung off the record. The caller owns the record and the buffer. A decode clears the whole
+// decode attached to the record. The caller owns the record and the buffer. A decode clears the whole
 // record first, so every absent member, count and pointer is zero. The buffer is only read, and only
 // within its length. A record that was decoded, in whole or in part, is released once it is no longer
 // needed; releasing it again does nothing. Between calls nothing of a message is kept but the H.225.0 version
@@ -53,7 +53,7 @@ KELVRA_API intptr_t KELVRA_CALL KelvraDecodeRASMessage(kelvra::h225::RasMessageR
 // A null record is ignored.
 KELVRA_API void KELVRA_CALL KelvraFreeRASMessage(kelvra::h225::RasMessageRecord* record);
 
-// Decodes one Q.931 call-signalling message behind its TPKT header, with the H323-UserInformation in
+// Decodes one Q.931 call-signalling message after its TPKT header, with the H323-UserInformation in
 // its user-user element. `buffer` starts with the 4 octets of the TPKT header.
 //
 // Returns 0 when decoded; -1 on a null argument, or when the user-user element is missing or malformed

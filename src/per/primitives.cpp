@@ -226,7 +226,7 @@ uint8_t* PerReadOctetString(PerReader& reader, uint32_t* length) {
   return PerReadOctets(reader, octets);
 }
 
-void PerReadOctetStringRecord(OctetStringValue& value, PerReader& reader) {
+void PerReadClearedOctetString(OctetStringValue& value, PerReader& reader) {
   value.length = PerReadLength(reader);
   if (value.length > PerOctetsLeft(reader)) {
     value.length = 0;

@@ -101,7 +101,7 @@ inline uint8_t* PerReadSizedOctets(PerReader& reader, uint32_t* length, uint32_t
   return PerReadOctets(reader, octets);
 }
 // OCTET STRING with a length determinant; a length past the end leaves an empty value.
-void PerReadOctetStringRecord(OctetStringValue& value, PerReader& reader);
+void PerReadClearedOctetString(OctetStringValue& value, PerReader& reader);
 // BIT STRING (15) of `count` bits, aligned when longer than 16.
 uint8_t* PerReadBitString(PerReader& reader, uint32_t count);
 

@@ -74,7 +74,7 @@ template <class String, asn1::StringUnits kUnits, OctetNotation kNotation>
 }
 
 inline void PerReadString(OctetStringValue& value, PerReader& r, asn1::ClearedOctetStringKind) {
-  PerReadOctetStringRecord(value, r);
+  PerReadClearedOctetString(value, r);
 }
 
 inline void PerReadString(OctetStringValue& value, PerReader& r, asn1::UncountedOctetStringKind kind) {

@@ -301,20 +301,20 @@ TEST(PerReadSizedOctets, KeepsTheLengthOfMissingOctets) {
   EXPECT_TRUE(input.AtExactEnd());
 }
 
-TEST(PerReadOctetStringRecord, FillsTheRecord) {
+TEST(PerReadClearedOctetString, FillsTheRecord) {
   Input input({0x02, 0xAA, 0xBB});
   OctetStringValue value{};
-  PerReadOctetStringRecord(value, input.reader);
+  PerReadClearedOctetString(value, input.reader);
   EXPECT_EQ(uint32_t{value.length}, 2u);
   EXPECT_EQ(Taken(static_cast<uint8_t*>(value.data), 2), (Numbers{0xAA, 0xBB}));
 }
 
-TEST(PerReadOctetStringRecord, IsEmptyWhereTheOctetsAreMissing) {
+TEST(PerReadClearedOctetString, IsEmptyWhereTheOctetsAreMissing) {
   for (const Octets& octets : {Octets{0x03, 0xAA, 0xBB}, Octets{}, Octets{0xC1, 0x00}}) {
     SCOPED_TRACE(testing::PrintToString(octets));
     Input input(octets);
     OctetStringValue value{77, nullptr};
-    PerReadOctetStringRecord(value, input.reader);
+    PerReadClearedOctetString(value, input.reader);
     EXPECT_EQ(uint32_t{value.length}, 0u);
     EXPECT_EQ(static_cast<uint8_t*>(value.data), nullptr);
     EXPECT_TRUE(input.AtExactEnd());
