@@ -178,8 +178,9 @@ class ValueWalk {
 
   template <class List, class Kind>
   void ShowList(const char* name, List list, Kind kind) {
-    visitor_.List(name, list,
-                  [this, kind](auto& element) { Show(nullptr, PlaceOf<typename List::Element>(&element), kind); });
+    visitor_.List(name, list, [this, kind](auto& element) {
+      this->Show(nullptr, PlaceOf<typename List::Element>(&element), kind);
+    });
   }
   template <class Element, class Count>
   static ListView<Element, Count> AsList(ListView<Element, Count> list) {
