@@ -286,8 +286,18 @@ struct IdentifierCheck : EmptyVisitor {
   void EnumeratedValue(uint32_t, const char* name) { identifier = name; }
 };
 
+// A decoder reads the flags of a SEQUENCE at once, and notes which of its components are BOOLEANs in a word.
+void AddIfTooManyFlags(const FlagCount& count, Faults& faults) {
+  if (count.extensionBits + count.optionals > 32) faults.Add("there are more than 32 flags before the root");
+  if (count.additions > 32) faults.Add("there are more than 32 known additions");
+  if (count.components > 63) faults.Add("there are more than 63 components");
+}
+
 template <class Record>
 void CheckSequence(Record& record, Faults& faults) {
+  FlagCount count;
+  static_cast<void>(Record::Describe(record, count));
+  AddIfTooManyFlags(count, faults);
   SequenceCheck check(record, faults);
   static_cast<void>(Record::Describe(record, check));
   check.AddUncovered();
@@ -509,6 +519,23 @@ TEST(DescriptionsTest, FaultsOfASequenceAreSeen) {
             NameList({"first stands before the extension marker", "second stands after the extension marker"}));
 }
 
+TEST(DescriptionsTest, FindsMoreFlagsThanADecoderReadsAtOnce) {
+  const auto faultsOf = [](uint32_t optionals, uint32_t additions, uint32_t components) {
+    FlagCount count;
+    count.extensionBits = 1;
+    count.optionals = optionals;
+    count.additions = additions;
+    count.components = components;
+    Faults faults;
+    AddIfTooManyFlags(count, faults);
+    return faults.Found().size();
+  };
+  EXPECT_EQ(faultsOf(31, 32, 63), 0U);
+  EXPECT_EQ(faultsOf(32, 32, 63), 1U);
+  EXPECT_EQ(faultsOf(31, 33, 63), 1U);
+  EXPECT_EQ(faultsOf(31, 32, 64), 1U);
+}
+
 struct UnionMembers {
   uint8_t choiceTag;
   union {
@@ -582,3 +609,4 @@ TEST(DescriptionsTest, FaultsOfAChoiceAreSeen) {
 }  // namespace kelvra
 
 #include "kelvra/end_descriptions.h"
+#include "per/decoder.h"
