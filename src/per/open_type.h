@@ -17,7 +17,7 @@ inline void OpenTypeBegin(PerReader& reader) {
   ring.starts[ring.index] = reader.position;
 }
 
-// Leaves the innermost open type: the reader resumes behind it, whatever was consumed, unless the message
+// Leaves the innermost open type: the reader resumes past it, whatever was consumed, unless the message
 // has had too much read again.
 inline void OpenTypeEnd(PerReader& reader) {
   OpenTypeRing& ring = reader.openTypes;

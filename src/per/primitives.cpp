@@ -329,7 +329,7 @@ void PerReadObjectIdentifier(ObjectIdentifierValue& value, PerReader& reader) {
   } else {
     ReadArcs(reader, arcs, count);
   }
-  // Octets behind the last subidentifier that ends were looked at only.
+  // Octets after the last subidentifier that ends were only looked at.
   if (reader.position < behind) PerCountRereading(reader, static_cast<uint32_t>(behind - reader.position));
 }
 

@@ -89,7 +89,7 @@ void PerReaderInit(PerReader& reader, const uint8_t* buffer, uint32_t length, ui
 // `pointer` plus `count`, held at the last address instead of wrapping round.
 inline const uint8_t* PerAdvance(const uint8_t* pointer, uint32_t count) {
   const auto address = reinterpret_cast<uintptr_t>(pointer);
-  // An address behind the buffer is only compared, which the arithmetic of pointers does not allow for.
+  // An address past the buffer is only compared, which the arithmetic of pointers does not allow for.
   // NOLINTNEXTLINE(performance-no-int-to-ptr)
   return reinterpret_cast<const uint8_t*>(count > UINTPTR_MAX - address ? UINTPTR_MAX : address + count);
 }
@@ -247,7 +247,7 @@ class PerFlags {
   return PerReadFlags(reader, count, count);
 }
 
-// Bounds the reader to the next `length` octets while it lives. Afterwards the reader stands behind them,
+// Bounds the reader to the next `length` octets while it lives. Afterwards the reader stands past them,
 // whatever was consumed.
 class PerBounds {
  public:

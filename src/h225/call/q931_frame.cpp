@@ -102,7 +102,7 @@ class ElementCopier {
     return frame_.At(element->position + uint32_t{2} + index);
   }
 
-  // The contents behind their first `skipped` octets, where 1 to `room` are left. Returns how many.
+  // The contents after their first `skipped` octets, where 1 to `room` are left. Returns how many.
   uint8_t Octets(uint8_t identifier, uint32_t skipped, uint8_t* octets, uint32_t room, Q931Presence bit) {
     const Q931Element* element = elements_.Find(identifier);
     if (element == nullptr) return 0;

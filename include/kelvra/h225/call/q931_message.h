@@ -28,7 +28,7 @@ enum Q931Presence : uint32_t {
 #pragma pack(push, 1)
 
 // Octets of information elements are kept raw, extension and coding bits included. Party numbers start
-// behind the type-of-number octet and end with a NUL; an octet 3a counts as the first digit.
+// after the type-of-number octet and end with a NUL; an octet 3a counts as the first digit.
 struct Q931MessageRecord {
   uint32_t presenceMask;  // Q931Presence
   uint8_t protocolDiscriminator;

@@ -6,7 +6,7 @@
 namespace kelvra::h225 {
 
 // nonStandardDataForm tells the form that is filled. It is always 0, a NonStandardParameter; the room
-// for the private form stays zero and only fixes where the members behind it stand.
+// for the private form stays zero and only fixes where the members after it stand.
 inline constexpr uint32_t kPrivateFormOctets = 50;
 
 }  // namespace kelvra::h225
