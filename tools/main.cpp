@@ -3,9 +3,9 @@
 #include <exception>
 
 #include "console.h"
-#include "decode.h"
-#include "formats.h"
-#include "json_path.h"
+#include "decode/decode.h"
+#include "decode/json_path.h"
+#include "formats/formats.h"
 #include "options.h"
 
 namespace {

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "endpoint.h"
+#include "text/endpoint.h"
 
 enum class Family : uint8_t { kRas, kQ931, kH245 };
 

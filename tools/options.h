@@ -4,9 +4,9 @@
 #include <optional>
 #include <string>
 
-#include "capture.h"
-#include "formats.h"
-#include "input.h"
+#include "formats/formats.h"
+#include "input/capture.h"
+#include "input/input.h"
 
 struct Options {
   std::string file = "-";

@@ -15,7 +15,7 @@
 #include "doubles/record_digest.h"
 #include "per/reader.h"
 #ifdef KELVRA_PRINT_RECORDS
-#include "record_json.h"
+#include "decode/record_json.h"
 #endif
 
 namespace kelvra::test {

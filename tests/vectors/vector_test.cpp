@@ -9,9 +9,9 @@
 #include <string>
 #include <vector>
 
-#include "hex.h"
+#include "decode/record_json.h"
 #include "kelvra/kelvra.h"
-#include "record_json.h"
+#include "text/hex.h"
 
 namespace {
 

@@ -1,0 +1,124 @@
+#include "text/utf8.h"
+
+namespace {
+
+constexpr uint32_t kReplacement = 0xFFFD;
+
+void Append(std::string& text, uint32_t point) {
+  const auto tail = [&text, point](unsigned shift) { text += static_cast<char>(0x80 | (point >> shift & 0x3F)); };
+  if (point < 0x80) {
+    text += static_cast<char>(point);
+  } else if (point < 0x800) {
+    text += static_cast<char>(0xC0 | point >> 6);
+    tail(0);
+  } else if (point < 0x10000) {
+    text += static_cast<char>(0xE0 | point >> 12);
+    tail(6);
+    tail(0);
+  } else {
+    text += static_cast<char>(0xF0 | point >> 18);
+    tail(12);
+    tail(6);
+    tail(0);
+  }
+}
+
+bool IsHighSurrogate(uint32_t unit) { return unit >= 0xD800 && unit < 0xDC00; }
+bool IsLowSurrogate(uint32_t unit) { return unit >= 0xDC00 && unit < 0xE000; }
+
+void AppendEscape(std::string& text, unsigned unit) {
+  static const char digits[] = "0123456789abcdef";
+  text += "\\u";
+  for (int shift = 12; shift >= 0; shift -= 4) text += digits[unit >> shift & 15];
+}
+
+// Characters without a shape of their own that break lines or turn the direction of the text around them.
+bool ShapesLines(unsigned unit) {
+  return unit == 0x61C || unit == 0x200E || unit == 0x200F || (unit >= 0x2028 && unit <= 0x202E) ||
+         (unit >= 0x2066 && unit <= 0x2069);
+}
+
+// The character of that kind, or the control character, that starts the text, and its octets; or none.
+struct Control {
+  unsigned unit = 0;
+  size_t octets = 0;
+};
+
+Control LeadingControl(std::string_view text) {
+  const auto octet = [text](size_t i) { return i < text.size() ? static_cast<unsigned char>(text[i]) : 0U; };
+  if (octet(0) < 0x20 || octet(0) == 0x7F) return {octet(0), 1};
+  if (octet(0) == 0xC2 && octet(1) >= 0x80 && octet(1) < 0xA0) return {octet(1), 2};
+  if (octet(0) >> 5 == 6) {
+    const unsigned unit = (octet(0) & 0x1F) << 6 | (octet(1) & 0x3F);
+    if (ShapesLines(unit)) return {unit, 2};
+  }
+  if (octet(0) >> 4 == 14) {
+    const unsigned unit = (octet(0) & 0x0F) << 12 | (octet(1) & 0x3F) << 6 | (octet(2) & 0x3F);
+    if (ShapesLines(unit)) return {unit, 3};
+  }
+  return {};
+}
+
+bool MayBeginControl(char character) {
+  const auto octet = static_cast<unsigned char>(character);
+  return octet < 0x20 || octet == 0x7F || octet == 0xC2 || octet == 0xD8 || octet == 0xE2;
+}
+
+}  // namespace
+
+std::string FromLatin1(std::span<const uint8_t> characters) {
+  std::string text;
+  for (const uint8_t character : characters) Append(text, character);
+  return text;
+}
+
+std::string FromUtf16(std::span<const uint16_t> units) {
+  std::string text;
+  for (size_t i = 0; i < units.size(); ++i) {
+    const uint32_t unit = units[i];
+    if (IsHighSurrogate(unit) && i + 1 < units.size() && IsLowSurrogate(units[i + 1])) {
+      Append(text, 0x10000 + ((unit - 0xD800) << 10) + (units[++i] - 0xDC00U));
+    } else {
+      Append(text, IsHighSurrogate(unit) || IsLowSurrogate(unit) ? kReplacement : unit);
+    }
+  }
+  return text;
+}
+
+void AppendEscaped(std::string& json, std::string_view text) {
+  static constexpr std::string_view kShort = "\"\\\b\f\n\r\t";
+  static constexpr std::string_view kLetters = "\"\\bfnrt";
+  for (const char character : text) {
+    const auto octet = static_cast<unsigned char>(character);
+    if (octet >= 0x20 && character != '"' && character != '\\') {
+      json += character;
+    } else if (const size_t at = kShort.find(character); at != std::string_view::npos) {
+      json += '\\';
+      json += kLetters[at];
+    } else {
+      AppendEscape(json, octet);
+    }
+  }
+}
+
+std::string Printable(std::string_view text) {
+  std::string printable;
+  printable.reserve(text.size());
+  while (!text.empty()) {
+    // What stands before the next octet that could be or begin a control.
+    size_t plain = 0;
+    while (plain < text.size() && !MayBeginControl(text[plain])) ++plain;
+    printable += text.substr(0, plain);
+    text.remove_prefix(plain);
+    if (text.empty()) break;
+    const Control control = LeadingControl(text);
+    if (control.octets > 0) {
+      AppendEscape(printable, control.unit);
+      text.remove_prefix(control.octets);
+    } else {
+      printable += text.front();
+      text.remove_prefix(1);
+    }
+  }
+  return printable;
+}
