@@ -29,7 +29,7 @@ class Printer : public MessageSink {
   explicit Printer(Format format)
       : formatter_(MakeFormatter(format)), form_(format == Format::kJson ? Form::kText : Form::kTree) {}
 
-  std::vector<Endpoint> OnMessage(const Message& message) override {
+  std::vector<Announced> OnMessage(const Message& message) override {
     any_ = true;
     const Decoded decoded = Decode(message.family, message.octets, form_);
     all_decoded_ = all_decoded_ && decoded.ok;
@@ -38,7 +38,7 @@ class Printer : public MessageSink {
     if (written < text.size() || (flush_ && std::fflush(stdout) != 0)) {
       throw std::runtime_error("the output cannot be written");
     }
-    return AnnouncedH245(message, decoded);
+    return AnnouncedBy(message, decoded);
   }
 
   void OnLoss(const std::string& what) override {
@@ -47,18 +47,20 @@ class Printer : public MessageSink {
     Complain(what);
   }
 
+  void OnNotice(const std::string& what) override { Complain(what); }
+
   bool AllDecoded() const { return all_decoded_; }
   // Whether there was a message, or a loss that can have been one.
   bool Any() const { return any_; }
 
  private:
   // Only a capture has connections to be found, and few of its messages announce one.
-  static std::vector<Endpoint> AnnouncedH245(const Message& message, const Decoded& decoded) {
+  static std::vector<Announced> AnnouncedBy(const Message& message, const Decoded& decoded) {
     if (message.family != Family::kQ931 || !message.origin) return {};
     if (decoded.json.find("\"h245Address\":") == std::string::npos) return {};
     const Json tree = Json::parse(decoded.json);
     const auto address = ToEndpoint(Find(Chosen(UserInformationBody(tree)), {"h245Address"}));
-    return address ? std::vector{*address} : std::vector<Endpoint>();
+    return address ? std::vector{Announced{*address, Family::kH245}} : std::vector<Announced>();
   }
 
   std::unique_ptr<Formatter> formatter_;

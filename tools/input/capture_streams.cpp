@@ -8,10 +8,10 @@ constexpr size_t kMostHeldOctets = 0x4000000;
 
 }  // namespace
 
-std::vector<Endpoint> H245Addresses::OnMessage(const Message& message) {
-  std::vector<Endpoint> announced = sink_.OnMessage(message);
-  for (const Endpoint& endpoint : announced) {
-    if (!known_.insert(endpoint).second) continue;
+std::vector<Announced> AnnouncedAddresses::OnMessage(const Message& message) {
+  std::vector<Announced> announced = sink_.OnMessage(message);
+  for (const auto& [endpoint, family] : announced) {
+    if (!known_.insert_or_assign(endpoint, family).second) continue;
     oldest_first_.push_back(endpoint);
     if (oldest_first_.size() > kMostAddresses) {
       known_.erase(oldest_first_.front());
@@ -21,13 +21,19 @@ std::vector<Endpoint> H245Addresses::OnMessage(const Message& message) {
   return announced;
 }
 
+std::optional<Family> AnnouncedAddresses::FamilyOf(const Endpoint& endpoint) const {
+  const auto found = known_.find(endpoint);
+  return found == known_.end() ? std::nullopt : std::optional(found->second);
+}
+
 std::optional<Family> TcpStreams::FamilyOf(const Origin& origin) const {
   const auto uses = [&origin](const std::set<uint16_t>& ports) {
     return ports.contains(origin.source.port) || ports.contains(origin.destination.port);
   };
   if (uses(ports_.call_signalling)) return Family::kQ931;
-  const bool announced = addresses_.Contains(origin.source) || addresses_.Contains(origin.destination);
-  if (announced || uses(ports_.h245)) return Family::kH245;
+  if (const auto family = addresses_.FamilyOf(origin.destination)) return family;
+  if (const auto family = addresses_.FamilyOf(origin.source)) return family;
+  if (uses(ports_.h245)) return Family::kH245;
   return std::nullopt;
 }
 

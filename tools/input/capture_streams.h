@@ -11,18 +11,19 @@
 #include "input/capture.h"
 #include "input/capture_direction.h"
 
-// Passes messages on and keeps the addresses that they announce for H.245.
-class H245Addresses : public MessageSink {
+// Passes messages on and keeps the addresses that they announce.
+class AnnouncedAddresses : public MessageSink {
  public:
-  explicit H245Addresses(MessageSink& sink) : sink_(sink) {}
+  explicit AnnouncedAddresses(MessageSink& sink) : sink_(sink) {}
 
-  std::vector<Endpoint> OnMessage(const Message& message) override;
+  std::vector<Announced> OnMessage(const Message& message) override;
   void OnLoss(const std::string& what) override { sink_.OnLoss(what); }
-  bool Contains(const Endpoint& endpoint) const { return known_.contains(endpoint); }
+  // What a connection with this address carries, as far as messages announced it.
+  std::optional<Family> FamilyOf(const Endpoint& endpoint) const;
 
  private:
   MessageSink& sink_;
-  std::set<Endpoint> known_;
+  std::map<Endpoint, Family> known_;
   std::deque<Endpoint> oldest_first_;
 };
 
@@ -49,7 +50,7 @@ class TcpStreams {
   void KeepBounds();
 
   const CapturePorts& ports_;
-  H245Addresses addresses_;
+  AnnouncedAddresses addresses_;
   Entries entries_;  // least recently used first
   std::map<Key, Entries::iterator> index_;
   size_t held_ = 0;  // octets, of all entries
