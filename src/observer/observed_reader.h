@@ -3,6 +3,7 @@
 
 #include <vector>
 
+#include "kelvra/h225/common/protocol_identifier.h"
 #include "observer/observer.h"
 #include "per/decoder.h"
 
@@ -12,8 +13,15 @@ class ObservedReader : public PerReader {
  public:
   static constexpr bool kObserves = true;
 
-  ObservedReader(const PerReader& reader, DecodeObserver& observer)
-      : PerReader(reader), observer_(observer), start_(reader.position) {}
+  ObservedReader(const PerReader& reader, DecodeObserver& observer, const ObserverRules& rules)
+      : PerReader(reader), observer_(observer), rules_(rules), start_(reader.position) {
+    steps_.reserve(kUsualDepth);
+  }
+
+  const ObserverRules& Rules() const { return rules_; }
+  // A rule applies.
+  void Depart() { departed_ = true; }
+  bool Departed() const { return departed_; }
 
   uint64_t Bit() const {
     return uint64_t{reinterpret_cast<uintptr_t>(position) - reinterpret_cast<uintptr_t>(start_)} * 8 + bitOffset;
@@ -44,13 +52,27 @@ class ObservedReader : public PerReader {
   void Begin(const kelvra::Component& component, bool hasBits);
   void End(const kelvra::Component& component);
 
+  // The bitmap of the innermost component announces `counted` unknown additions, and more where some known ones are not
+  // of the sender's version.
+  void BeganAdditions(int32_t counted);
+  // How many unknown additions the innermost component has, where the decoder says `counted`.
+  int32_t UnknownAdditions(int32_t counted);
+
  private:
+  static constexpr size_t kUsualDepth = 32;
+
   struct Step {
     const kelvra::Component* component;
-    uint32_t elements;  // begun so far
-    uint32_t index;     // among the elements of its list
-    bool isRead;
+    uint32_t elements = 0;  // begun so far
+    uint32_t index = 0;     // among the elements of its list
+    bool isRead = true;
+    bool isAtAdditions = false;  // the bitmap is read, and no addition
+    int32_t unknown = -1;        // additions; below 0: as the decoder says
   };
+
+  static constexpr int32_t kUnset = -1;
+
+  void SettleUnknownAdditions(Step& step);
 
   template <class T>
   static const void* AddressOf(const T& record) {
@@ -122,9 +144,22 @@ class ObservedReader : public PerReader {
   void Report(PerCause reason, uint64_t bit);
 
   DecodeObserver& observer_;
+  ObserverRules rules_;
   const uint8_t* start_;
   std::vector<Step> steps_;  // innermost last
   bool isStopped_ = false;
+  bool departed_ = false;
+  int32_t sharedCount_ = 0;  // the counter of the message, while the bitmap of a SEQUENCE is looked at
 };
+
+// What the decoder does differently with this reader, by the rules.
+int32_t PerCountUnknownAdditions(ObservedReader& reader, int32_t additions);
+void SkipOpenTypes(ObservedReader& reader, int32_t count);
+
+namespace h225 {
+
+Status DecodeKind(ObjectIdentifierValue& value, ObservedReader& reader, RegistrationProtocolIdentifierKind);
+
+}  // namespace h225
 
 }  // namespace kelvra

@@ -1,14 +1,28 @@
 #include "observer/observer.h"
 
+#include <algorithm>
+
 #include "h225/call/q931_frame.h"
+#include "h225/common/protocol_version.h"
 #include "observer/observed_reader.h"
 
 namespace kelvra {
+namespace {
+
+constexpr uint32_t kProtocolIdentifierArcs = 6;  // itu-t recommendation h 2250 version N
+constexpr uint32_t kLastVersion = 4;             // whose additions the descriptions know
+
+}  // namespace
 
 void ObservedReader::Begin(const kelvra::Component& component, bool hasBits) {
-  uint32_t index = 0;
-  if (!steps_.empty() && component.name == nullptr) index = steps_.back().elements++;
-  steps_.push_back({&component, 0, index, !isStopped_});
+  Step step{&component};
+  step.isRead = !isStopped_;
+  if (!steps_.empty()) {
+    Step& holder = steps_.back();
+    if (component.name == nullptr) step.index = holder.elements++;
+    if (holder.isAtAdditions) SettleUnknownAdditions(holder);
+  }
+  steps_.push_back(step);
   observer_.Begin(component);
   if (!isStopped_ && hasBits && PerAtEnd(*this)) Report(PerCause::kEndOfMessage, component.firstBit);
 }
@@ -37,6 +51,33 @@ void ObservedReader::LeftOpenType() {
   observer_.Resumed(Bit());
 }
 
+void ObservedReader::BeganAdditions(int32_t counted) {
+  if (!rules_.countsAdditionsApart) return;
+  Step& step = steps_.back();
+  step.isAtAdditions = true;
+  step.unknown = counted;
+  sharedCount_ = extensionPresentCount;
+  extensionPresentCount = kUnset;
+}
+
+// A SEQUENCE of H.225.0 has set the shared counter to its own number by now; one of H.245 leaves it alone.
+void ObservedReader::SettleUnknownAdditions(Step& step) {
+  step.isAtAdditions = false;
+  if (extensionPresentCount == kUnset) {
+    extensionPresentCount = sharedCount_;
+  } else {
+    step.unknown = extensionPresentCount;
+  }
+}
+
+int32_t ObservedReader::UnknownAdditions(int32_t counted) {
+  Step& step = steps_.back();
+  if (step.isAtAdditions) SettleUnknownAdditions(step);
+  if (step.unknown < 0 || step.unknown == counted) return counted;
+  Depart();
+  return step.unknown;
+}
+
 void ObservedReader::Report(PerCause reason, uint64_t bit) {
   isStopped_ = true;
   for (Step& step : steps_) step.isRead = false;
@@ -56,17 +97,42 @@ std::string ObservedReader::Path() const {
   return path;
 }
 
+int32_t PerCountUnknownAdditions(ObservedReader& reader, int32_t additions) {
+  const int32_t unknown = PerCountUnknownAdditions(static_cast<PerReader&>(reader), additions);
+  reader.BeganAdditions(unknown);
+  return unknown;
+}
+
+void SkipOpenTypes(ObservedReader& reader, int32_t count) {
+  PerSkipOpenTypes(reader, reader.UnknownAdditions(count));
+  reader.LeftOpenType();
+}
+
+Status h225::DecodeKind(ObjectIdentifierValue& value, ObservedReader& reader, RegistrationProtocolIdentifierKind) {
+  if (!reader.Rules().readsLaterVersions) return ReadRegistrationProtocolIdentifier(value, reader);
+  ReadProtocolIdentifier(value, reader);
+  const bool namesVersion = value.count == kProtocolIdentifierArcs && value.arcs != nullptr;
+  const uint32_t version = namesVersion ? value.arcs[kProtocolIdentifierArcs - 1] : 0;
+  if (version == 0) {
+    PerMoveToEnd(reader, PerCause::kUnknownVersion);
+    return kUnsupportedVersion;
+  }
+  if (version > kLastVersion) reader.Depart();
+  reader.senderVersion = static_cast<int32_t>(std::min(version, kLastVersion));
+  return kDecoded;
+}
+
 namespace {
 
 template <class Record>
-DecodeEnd Observe(Record& record, const PerReader& reader, DecodeObserver& observer) {
-  ObservedReader observed(reader, observer);
+DecodeEnd Observe(Record& record, const PerReader& reader, DecodeObserver& observer, const ObserverRules& rules) {
+  ObservedReader observed(reader, observer, rules);
   Status status = kDecoded;
   {
     const ObservedReader::Component message(observed, "", record, asn1::DefinedType());
     status = Decode(record, observed);
   }
-  return {status, observed.Bit(), PerAtEnd(observed)};
+  return {status, observed.Bit(), PerAtEnd(observed), observed.Departed()};
 }
 
 // RAS and H.245 keep the low 16 bits of a length.
@@ -78,8 +144,9 @@ PerReader ReaderOver(const uint8_t* buffer, uint32_t length) {
 
 }  // namespace
 
-DecodeEnd ObserveRas(h225::RasMessageRecord& record, const uint8_t* buffer, uint32_t length, DecodeObserver& observer) {
-  return Observe(record, ReaderOver(buffer, length), observer);
+DecodeEnd ObserveRas(h225::RasMessageRecord& record, const uint8_t* buffer, uint32_t length, DecodeObserver& observer,
+                     const ObserverRules& rules) {
+  return Observe(record, ReaderOver(buffer, length), observer, rules);
 }
 
 DecodeEnd ObserveUserInformation(h225::H323UserInformation& record, const uint8_t* buffer, int32_t length,
@@ -89,12 +156,19 @@ DecodeEnd ObserveUserInformation(h225::H323UserInformation& record, const uint8_
   if (h225::FindQ931Element(&frame, h225::kUserUser, &element) != h225::kQ931Decoded) return {kExhausted, 0, true};
   PerReader reader;
   h225::BeginUserInformation(reader, frame, element);
-  return Observe(record, reader, observer);
+  return Observe(record, reader, observer, {});
 }
 
-DecodeEnd ObserveH245(h245::H245MessageRecord& record, const uint8_t* buffer, uint32_t length,
-                      DecodeObserver& observer) {
-  return Observe(record, ReaderOver(buffer, length), observer);
+DecodeEnd ObserveUserInformation(h225::H323UserInformation& record, const uint8_t* octets, uint32_t length,
+                                 DecodeObserver& observer, const ObserverRules& rules) {
+  PerReader reader;
+  PerReaderInit(reader, octets, length);
+  return Observe(record, reader, observer, rules);
+}
+
+DecodeEnd ObserveH245(h245::H245MessageRecord& record, const uint8_t* buffer, uint32_t length, DecodeObserver& observer,
+                      const ObserverRules& rules) {
+  return Observe(record, ReaderOver(buffer, length), observer, rules);
 }
 
 }  // namespace kelvra

@@ -1,6 +1,7 @@
 // Decodes that report what they read: each component with its path, its kind and its bits, and where a decode stops the
 // component, the place and the cause. They follow the same descriptions as the library's own decoders, and leave the
-// same record, status and position. For tools and tests; the shared library does not contain them.
+// same record, status and position, unless the rules say otherwise. For tools and tests; the shared library does not
+// contain them.
 #pragma once
 
 #include <stdint.h>
@@ -51,21 +52,36 @@ class DecodeObserver {
   virtual void Resumed(uint64_t /*bit*/) {}
 };
 
-// What the library's own decode has ended with.
+// Where an observed decode departs from the library's own; by default it does not.
+struct ObserverRules {
+  // A registration of a later version is read as one of version 4, which the library refuses.
+  bool readsLaterVersions = false;
+  // A SEQUENCE skips as many unknown additions as its own bitmap announces (X.691 18.8), also where one inside it has
+  // overwritten the counter that all of an H.225.0 message share.
+  bool countsAdditionsApart = false;
+};
+
+// What the decode has ended with, as the library's own does.
 struct DecodeEnd {
   Status status;
-  uint64_t bit;  // where the reader stands
-  bool isAtEnd;  // of what it was given
+  uint64_t bit;           // where the reader stands
+  bool isAtEnd;           // of what it was given
+  bool departed = false;  // a rule made it read otherwise than the library does
 };
 
 // Each decodes into a cleared record, which the caller releases whatever the result. The buffer is that of the function
 // of the same message in kelvra.h; that of a RAS message needs no spare octet here. For Q.931 only the
 // H323-UserInformation is decoded, and its bits are counted from its own first octet; a frame without a user-user
 // element ends as kExhausted.
-DecodeEnd ObserveRas(h225::RasMessageRecord& record, const uint8_t* buffer, uint32_t length, DecodeObserver& observer);
+DecodeEnd ObserveRas(h225::RasMessageRecord& record, const uint8_t* buffer, uint32_t length, DecodeObserver& observer,
+                     const ObserverRules& rules = {});
 DecodeEnd ObserveUserInformation(h225::H323UserInformation& record, const uint8_t* buffer, int32_t length,
                                  DecodeObserver& observer);
-DecodeEnd ObserveH245(h245::H245MessageRecord& record, const uint8_t* buffer, uint32_t length,
-                      DecodeObserver& observer);
+// The H323-UserInformation alone: `octets` are the contents of the user-user element after its protocol discriminator.
+// It ends with them, where the library reads up to two octets further.
+DecodeEnd ObserveUserInformation(h225::H323UserInformation& record, const uint8_t* octets, uint32_t length,
+                                 DecodeObserver& observer, const ObserverRules& rules);
+DecodeEnd ObserveH245(h245::H245MessageRecord& record, const uint8_t* buffer, uint32_t length, DecodeObserver& observer,
+                      const ObserverRules& rules = {});
 
 }  // namespace kelvra
