@@ -27,7 +27,12 @@ function(kelvra_library_options target)
     POSITION_INDEPENDENT_CODE ON)
 endfunction()
 
-# Tools and tests.
+# Tools, which are tested as they ship.
+function(kelvra_tool_options target)
+  _kelvra_common(${target})
+endfunction()
+
+# Tests.
 function(kelvra_program_options target)
   _kelvra_common(${target})
   if(KELVRA_BUILD_TESTS)

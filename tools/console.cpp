@@ -2,11 +2,13 @@
 
 #include <array>
 #include <cstdio>
+#include <filesystem>
 
 #if defined(_WIN32)
 #include <fcntl.h>
 #include <io.h>
 #else
+#include <sys/stat.h>
 #include <unistd.h>
 #endif
 
@@ -33,5 +35,16 @@ bool OutputIsTerminal() {
   return _isatty(kOutput) != 0;
 #else
   return isatty(STDOUT_FILENO) != 0;
+#endif
+}
+
+bool IsRegularFile(const std::string& path) {
+  if (path != "-") return std::filesystem::is_regular_file(path);
+#if defined(_WIN32)
+  struct _stat64 status {};
+  return _fstat64(kInput, &status) == 0 && (status.st_mode & _S_IFMT) == _S_IFREG;
+#else
+  struct stat status {};
+  return fstat(STDIN_FILENO, &status) == 0 && S_ISREG(status.st_mode);
 #endif
 }

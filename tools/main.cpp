@@ -1,10 +1,11 @@
 // kelvra-dump prints the H.323 signalling of a capture, or single messages.
+#include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <exception>
 
 #include "console.h"
-#include "decode/decode.h"
-#include "decode/json_path.h"
+#include "decode/decoded_message.h"
 #include "formats/formats.h"
 #include "options.h"
 
@@ -15,10 +16,10 @@ void Complain(const std::string& what) {
   std::fprintf(stderr, "kelvra-dump: %s\n", what.c_str());
 }
 
-std::unique_ptr<Formatter> MakeFormatter(Format format) {
+std::unique_ptr<Formatter> MakeFormatter(Format format, const FormatOptions& options) {
   switch (format) {
-    case Format::kSummary: return MakeSummary();
-    case Format::kTree: return MakeTree();
+    case Format::kSummary: return MakeSummary(options);
+    case Format::kTree: return MakeTree(options);
     case Format::kJson: break;
   }
   return MakeJson();
@@ -26,49 +27,62 @@ std::unique_ptr<Formatter> MakeFormatter(Format format) {
 
 class Printer : public MessageSink {
  public:
-  explicit Printer(Format format)
-      : formatter_(MakeFormatter(format)), form_(format == Format::kJson ? Form::kText : Form::kTree) {}
+  Printer(std::unique_ptr<Formatter> formatter, bool flushes) : formatter_(std::move(formatter)), flushes_(flushes) {}
 
   std::vector<Announced> OnMessage(const Message& message) override {
     any_ = true;
-    const Decoded decoded = Decode(message.family, message.octets, form_);
-    all_decoded_ = all_decoded_ && decoded.ok;
-    const std::string text = formatter_->Print(message, decoded);
-    const size_t written = std::fwrite(text.data(), 1, text.size(), stdout);
-    if (written < text.size() || (flush_ && std::fflush(stdout) != 0)) {
-      throw std::runtime_error("the output cannot be written");
-    }
-    return AnnouncedBy(message, decoded);
+    const DecodedMessage decoded = DecodeMessage(message.family, message.octets);
+    all_complete_ = all_complete_ && AreComplete(decoded);
+    text_.clear();
+    formatter_->Print(message, decoded, text_);
+    Write();
+    return message.origin ? AnnouncedBy(decoded) : std::vector<Announced>();
   }
 
   void OnLoss(const std::string& what) override {
     any_ = true;
-    all_decoded_ = false;
+    all_complete_ = false;
     Complain(what);
   }
 
   void OnNotice(const std::string& what) override { Complain(what); }
 
-  bool AllDecoded() const { return all_decoded_; }
+  // After the last message.
+  void Finish() {
+    text_.clear();
+    formatter_->Finish(text_);
+    Write();
+    if (std::fflush(stdout) != 0) throw std::runtime_error(kUnwritable);
+  }
+
+  bool AllComplete() const { return all_complete_; }
   // Whether there was a message, or a loss that can have been one.
   bool Any() const { return any_; }
 
  private:
-  // Only a capture has connections to be found, and few of its messages announce one.
-  static std::vector<Announced> AnnouncedBy(const Message& message, const Decoded& decoded) {
-    if (message.family != Family::kQ931 || !message.origin) return {};
-    if (decoded.json.find("\"h245Address\":") == std::string::npos) return {};
-    const Json tree = Json::parse(decoded.json);
-    const auto address = ToEndpoint(Find(Chosen(UserInformationBody(tree)), {"h245Address"}));
-    return address ? std::vector{Announced{*address, Family::kH245}} : std::vector<Announced>();
+  static constexpr const char* kUnwritable = "the output cannot be written";
+
+  static bool AreComplete(const DecodedMessage& decoded) {
+    return decoded.IsComplete() && std::all_of(decoded.tunnelled.begin(), decoded.tunnelled.end(), AreComplete);
+  }
+
+  void Write() {
+    const size_t written = std::fwrite(text_.data(), 1, text_.size(), stdout);
+    if (written < text_.size() || (flushes_ && std::fflush(stdout) != 0)) throw std::runtime_error(kUnwritable);
   }
 
   std::unique_ptr<Formatter> formatter_;
-  Form form_;
-  bool flush_ = OutputIsTerminal();
-  bool all_decoded_ = true;
+  bool flushes_;
+  std::string text_;
+  bool all_complete_ = true;
   bool any_ = false;
 };
+
+bool WantsColor(ColorChoice choice) {
+  if (choice != ColorChoice::kAuto) return choice == ColorChoice::kAlways;
+  const char* noColor = std::getenv("NO_COLOR");
+  return OutputIsTerminal() && (noColor == nullptr || *noColor == '\0');
+}
 
 Family RequiredFamily(const Options& options) {
   if (!options.family) {
@@ -95,13 +109,12 @@ void Run(const Options& options, Printer& printer) {
 int RunProgram(int count, char** arguments) {
   Options options;
   if (const auto status = ParseOptions(count, arguments, options)) return *status;
-  Printer printer(options.format);
+  options.formatting.isColored = WantsColor(options.color);
+  const bool flushes = options.flushesLines || OutputIsTerminal() || !IsRegularFile(options.file);
+  Printer printer(MakeFormatter(options.format, options.formatting), flushes);
   Run(options, printer);
-  if (std::fflush(stdout) != 0) {
-    Complain("the output cannot be written");
-    return kUnusable;
-  }
-  return printer.AllDecoded() ? kAllDecoded : kSomeMalformed;
+  printer.Finish();
+  return printer.AllComplete() ? kAllComplete : kSomeIncomplete;
 }
 
 }  // namespace

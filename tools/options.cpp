@@ -13,12 +13,15 @@ constexpr const char* kFooter =
     "header, an H.245 message does not. In a capture the ports tell the families; H.245\n"
     "connections are found by the h245Address of call signalling.\n"
     "\n"
-    "The viewer hands a RAS message to the library with one spare zero octet behind it, counted in\n"
+    "What was read of a message is printed, and what is wrong with it: where it ends early, claims more than\n"
+    "there is or leaves octets over. A registration of a later version is read as one of version 4.\n"
+    "\n"
+    "The viewer hands a RAS message to the library with one spare zero octet after it, counted in\n"
     "the length. A caller of the library should do the same: success is judged by the reader\n"
     "standing before the end of the buffer, so a message that ends exactly with it is refused.\n"
     "\n"
-    "Exit status: 0 all messages were decoded; 1 some were not, or octets held no message where one\n"
-    "was due; 2 bad usage, or input that cannot be read.";
+    "Exit status: 0 all messages are complete; 1 some are not, or data was found where a message\n"
+    "was expected; 2 bad usage, or input that cannot be read.";
 
 template <class Value>
 using Keywords = std::vector<std::pair<const char*, Value>>;
@@ -26,6 +29,8 @@ using Keywords = std::vector<std::pair<const char*, Value>>;
 const Keywords<InputKind> kInputs{
     {"auto", InputKind::kAuto}, {"capture", InputKind::kCapture}, {"hex", InputKind::kHex}, {"raw", InputKind::kRaw}};
 const Keywords<Format> kFormats{{"summary", Format::kSummary}, {"tree", Format::kTree}, {"json", Format::kJson}};
+const Keywords<ColorChoice> kColors{
+    {"auto", ColorChoice::kAuto}, {"always", ColorChoice::kAlways}, {"never", ColorChoice::kNever}};
 const Keywords<Family> kFamilies{{"ras", Family::kRas}, {"q931", Family::kQ931}, {"h245", Family::kH245}};
 
 template <class Value, class Target>
@@ -57,20 +62,29 @@ std::optional<int> ParseOptions(int count, char** arguments, Options& options) {
 
   CLI::App app("Prints the H.323 signalling of a capture, or single messages.", "kelvra-dump");
   app.footer(kFooter);
+  app.set_version_flag("--version", "kelvra-dump " KELVRA_VERSION);
   // A path may start with '/' under Wine and the like.
   app.allow_windows_style_options(false);
   app.add_option("FILE", options.file, "what to read; - or nothing: standard input");
   AddKeyword(app, "--input", kInputs, options.input, "what the input is (auto: told by its first octets)");
   AddKeyword(app, "--as", kFamilies, options.family, "the family of hexadecimal or raw messages, which no port tells");
   AddKeyword(app, "--format", kFormats, options.format,
-             "a line a message (summary), every member (tree), or an object a line (json)");
-  AddPorts(app, "--ras-port", options.ports.ras, "a UDP port of RAS beside 1718 and 1719");
-  AddPorts(app, "--call-port", options.ports.call_signalling, "a TCP port of call signalling beside 1720");
+             "one line per message (summary), every member (tree), or one object per line (json)");
+  const auto setTimes = [&options](TimeStyle style) { return [&options, style] { options.formatting.times = style; }; };
+  auto* local = app.add_flag_callback("--local", setTimes(TimeStyle::kLocal), "times of this machine's zone, not UTC");
+  app.add_flag_callback("--relative", setTimes(TimeStyle::kRelative), "seconds since the first message")
+      ->excludes(local);
+  app.add_flag("--octets", options.formatting.showsOctets,
+               "the tree shows the octets and bits of each member, octet.bit-octet.bit, and the message's octets");
+  AddKeyword(app, "--color", kColors, options.color, "colours (auto: on a terminal, unless NO_COLOR is set)");
+  app.add_flag("-l", options.flushesLines, "print each message at once; always so where the input is no regular file");
+  AddPorts(app, "--ras-port", options.ports.ras, "a UDP port of RAS in addition to 1718 and 1719");
+  AddPorts(app, "--call-port", options.ports.call_signalling, "a TCP port of call signalling in addition to 1720");
   AddPorts(app, "--h245-port", options.ports.h245, "a TCP port of H.245");
   try {
     app.parse(count, arguments);
   } catch (const CLI::ParseError& error) {
-    return app.exit(error) == 0 ? kAllDecoded : kUnusable;
+    return app.exit(error) == 0 ? kAllComplete : kUnusable;
   }
   return std::nullopt;
 }

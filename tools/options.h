@@ -8,17 +8,22 @@
 #include "input/capture.h"
 #include "input/input.h"
 
+enum class ColorChoice : uint8_t { kAuto, kAlways, kNever };
+
 struct Options {
   std::string file = "-";
   InputKind input = InputKind::kAuto;
   Format format = Format::kSummary;
+  FormatOptions formatting;
+  ColorChoice color = ColorChoice::kAuto;
+  bool flushesLines = false;
   std::optional<Family> family;
   CapturePorts ports;
 };
 
 // The exit statuses.
-constexpr int kAllDecoded = 0;
-constexpr int kSomeMalformed = 1;
+constexpr int kAllComplete = 0;
+constexpr int kSomeIncomplete = 1;
 constexpr int kUnusable = 2;
 
 // Fills the options; returns an exit status when there is nothing more to do.

@@ -124,7 +124,7 @@ class SingleMessages(unittest.TestCase):
         (printed,) = objects(result)
         self.assertEqual(printed, {
             "family": "ras", "name": "gatekeeperConfirm", "result": 27, "ok": True, "octets": 27,
-            "message": {"gatekeeperConfirm": {
+            "complete": True, "message": {"gatekeeperConfirm": {
                 "requestSeqNum": 1, "protocolIdentifier": "0.0.8.2250.0.4", "gatekeeperIdentifier": "GK-1",
                 "rasAddress": {"ipAddress": {"ip": "C0000201", "port": 1719}}}}})
 
@@ -182,11 +182,12 @@ class SingleMessages(unittest.TestCase):
         self.assertIn(b"\n  callReferenceValue: 4711\n", result.stdout)
 
     def test_summary_of_what_is_no_message(self):
-        result = run("--as", "q931", data=b"0300000408")
-        self.assertRegex(result.stdout, rb"Q\.931 +\(nothing decoded\) .*\[malformed, result -1\]")
+        result = run("--as", "q931", data=b"0300000508")
+        self.assertRegex(result.stdout, rb"Q\.931 +\(nothing decoded\) +"
+                         rb"\[octet 5: h323-UserInformation: there is no user-user element\]")
         result = run("--as", "h245", data=CHANNEL_ACK[:-2].encode())
         self.assertEqual(result.returncode, 1)
-        self.assertIn(b"[octets left over, or cut short, result 0]", result.stdout)
+        self.assertRegex(result.stdout, rb"openLogicalChannelAck .*\[octet \d+: .*: a length announces more octets")
 
     def test_registrations_of_version_3(self):
         text = "\n".join(v["hex"].replace("060008914a0004", "060008914a0003") for v in vectors("ras"))
@@ -238,7 +239,7 @@ class SingleMessages(unittest.TestCase):
             return run("--as", "q931", data=tpkt(call).hex().encode()).stdout
         self.assertRegex(summary(b"\x6c\x06\x01\x834001"), rb'crv 4711  from "4001"')
         self.assertRegex(summary(b"\x6c\x05\x814001"), rb'crv 4711  from "4001"')
-        self.assertRegex(summary(b"\x08\x02\x80\x90"), rb'cause 16\n')
+        self.assertRegex(summary(b"\x08\x02\x80\x90"), rb'cause 16 normal call clearing\n')
 
     def test_digits_of_each_kind_of_party_number(self):
         data, public, private = "8303102078", "8303000288", "8303300298"

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "decode/decode.h"
+#include "decode/decoded_message.h"
 
 // Separated by two blanks; control characters are escaped.
-std::string Details(Family family, const Decoded& decoded);
+std::string Details(const DecodedMessage& message);

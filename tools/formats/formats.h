@@ -5,17 +5,31 @@
 #include <memory>
 #include <string>
 
-#include "decode/decode.h"
+#include "decode/decoded_message.h"
 
 enum class Format : uint8_t { kSummary, kTree, kJson };
+
+enum class TimeStyle : uint8_t {
+  kUtc,
+  kLocal,
+  kRelative,  // to the first message
+};
+
+struct FormatOptions {
+  TimeStyle times = TimeStyle::kUtc;
+  bool showsOctets = false;  // of the tree: where each member stands, and the message in hexadecimal
+  bool isColored = false;
+};
 
 class Formatter {
  public:
   virtual ~Formatter() = default;
-  // Whole lines.
-  virtual std::string Print(const Message& message, const Decoded& decoded) = 0;
+  // Appends whole lines.
+  virtual void Print(const Message& message, const DecodedMessage& decoded, std::string& text) = 0;
+  // What follows the last message.
+  virtual void Finish(std::string& /*text*/) {}
 };
 
-std::unique_ptr<Formatter> MakeSummary();
-std::unique_ptr<Formatter> MakeTree();
+std::unique_ptr<Formatter> MakeSummary(const FormatOptions& options);
+std::unique_ptr<Formatter> MakeTree(const FormatOptions& options);
 std::unique_ptr<Formatter> MakeJson();

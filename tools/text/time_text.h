@@ -1,10 +1,19 @@
-// Times of a capture as text, in UTC.
+// Times of a capture as text.
 #pragma once
 
 #include <cstdint>
 #include <string>
 
-// "2024-01-31T23:59:59.000001Z"
+enum class TimeZone : uint8_t { kUtc, kLocal };
+
+// "2024-01-31T23:59:59.000001Z", always in UTC
 std::string IsoTime(int64_t microseconds);
+// "2024-01-31"
+std::string DateText(int64_t microseconds, TimeZone zone);
 // "23:59:59.000001"
-std::string ClockTime(int64_t microseconds);
+std::string ClockTime(int64_t microseconds, TimeZone zone = TimeZone::kUtc);
+// "+12.000001", in seconds
+std::string RelativeTime(int64_t microseconds);
+
+// The time that a clock of the zone shows, as if it were UTC: what has the same value on the same day.
+int64_t InZone(int64_t microseconds, TimeZone zone);

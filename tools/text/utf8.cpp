@@ -59,21 +59,45 @@ Control LeadingControl(std::string_view text) {
   return {};
 }
 
-bool MayBeginControl(char character) {
+// Whether a character may begin a control or be one, or be of those that JSON escapes.
+bool NeedsLook(char character) {
   const auto octet = static_cast<unsigned char>(character);
-  return octet < 0x20 || octet == 0x7F || octet == 0xC2 || octet == 0xD8 || octet == 0xE2;
+  return octet < 0x20 || octet == '"' || octet == '\\' || octet == 0x7F || octet == 0xC2 || octet == 0xD8 ||
+         octet == 0xE2;
+}
+
+// Appends the text with its controls escaped. `appendShort` is asked first about each character that may need it, and
+// may append an escape of its own.
+template <class AppendShort>
+void AppendEscaped(std::string& escaped, std::string_view text, AppendShort appendShort) {
+  while (!text.empty()) {
+    // What stands before the next octet that could be or begin a control.
+    size_t plain = 0;
+    while (plain < text.size() && !NeedsLook(text[plain])) ++plain;
+    escaped += text.substr(0, plain);
+    text.remove_prefix(plain);
+    if (text.empty()) return;
+    const Control control = LeadingControl(text);
+    size_t done = 1;
+    if (!appendShort(escaped, text.front())) {
+      if (control.octets > 0) {
+        AppendEscape(escaped, control.unit);
+        done = control.octets;
+      } else {
+        escaped += text.front();
+      }
+    }
+    text.remove_prefix(done);
+  }
 }
 
 }  // namespace
 
-std::string FromLatin1(std::span<const uint8_t> characters) {
-  std::string text;
+void AppendLatin1(std::string& text, std::span<const uint8_t> characters) {
   for (const uint8_t character : characters) Append(text, character);
-  return text;
 }
 
-std::string FromUtf16(std::span<const uint16_t> units) {
-  std::string text;
+void AppendUtf16(std::string& text, std::span<const uint16_t> units) {
   for (size_t i = 0; i < units.size(); ++i) {
     const uint32_t unit = units[i];
     if (IsHighSurrogate(unit) && i + 1 < units.size() && IsLowSurrogate(units[i + 1])) {
@@ -82,43 +106,28 @@ std::string FromUtf16(std::span<const uint16_t> units) {
       Append(text, IsHighSurrogate(unit) || IsLowSurrogate(unit) ? kReplacement : unit);
     }
   }
-  return text;
 }
 
-void AppendEscaped(std::string& json, std::string_view text) {
+void AppendJsonString(std::string& json, std::string_view text) {
   static constexpr std::string_view kShort = "\"\\\b\f\n\r\t";
   static constexpr std::string_view kLetters = "\"\\bfnrt";
-  for (const char character : text) {
-    const auto octet = static_cast<unsigned char>(character);
-    if (octet >= 0x20 && character != '"' && character != '\\') {
-      json += character;
-    } else if (const size_t at = kShort.find(character); at != std::string_view::npos) {
-      json += '\\';
-      json += kLetters[at];
-    } else {
-      AppendEscape(json, octet);
-    }
-  }
+  json += '"';
+  AppendEscaped(json, text, [](std::string& escaped, char character) {
+    const size_t at = kShort.find(character);
+    if (at == std::string_view::npos) return false;
+    escaped += '\\';
+    escaped += kLetters[at];
+    return true;
+  });
+  json += '"';
+}
+
+void AppendPrintable(std::string& printable, std::string_view text) {
+  AppendEscaped(printable, text, [](std::string&, char) { return false; });
 }
 
 std::string Printable(std::string_view text) {
   std::string printable;
-  printable.reserve(text.size());
-  while (!text.empty()) {
-    // What stands before the next octet that could be or begin a control.
-    size_t plain = 0;
-    while (plain < text.size() && !MayBeginControl(text[plain])) ++plain;
-    printable += text.substr(0, plain);
-    text.remove_prefix(plain);
-    if (text.empty()) break;
-    const Control control = LeadingControl(text);
-    if (control.octets > 0) {
-      AppendEscape(printable, control.unit);
-      text.remove_prefix(control.octets);
-    } else {
-      printable += text.front();
-      text.remove_prefix(1);
-    }
-  }
+  AppendPrintable(printable, text);
   return printable;
 }

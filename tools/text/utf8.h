@@ -6,13 +6,15 @@
 #include <string>
 #include <string_view>
 
-std::string FromLatin1(std::span<const uint8_t> characters);
+void AppendLatin1(std::string& text, std::span<const uint8_t> characters);
 
 // Surrogates that stand alone become U+FFFD.
-std::string FromUtf16(std::span<const uint16_t> units);
+void AppendUtf16(std::string& text, std::span<const uint16_t> units);
 
-// What stands between the quotation marks of a string of JSON.
-void AppendEscaped(std::string& json, std::string_view text);
+// A string of JSON with its quotation marks. Control characters, which could command a terminal, and line separators
+// become \u escapes.
+void AppendJsonString(std::string& json, std::string_view text);
 
-// With control characters, which could command a terminal, and line separators as \u escapes.
+// With the same characters as \u escapes.
+void AppendPrintable(std::string& printable, std::string_view text);
 std::string Printable(std::string_view text);
