@@ -141,6 +141,8 @@ class ObservedReader : public PerReader {
   static bool HasBits(const asn1::Scalar<uint8_t>&, asn1::IntegerKind kind) { return kind.low != kind.high; }
 
   std::string Path() const;
+  // The bit that a read had come to before the reader moved to its end; 0: it did not move.
+  uint64_t Reached() const;
   void Report(PerCause reason, uint64_t bit);
 
   DecodeObserver& observer_;

@@ -15,6 +15,8 @@ constexpr uint32_t kLastVersion = 4;             // whose additions the descript
 }  // namespace
 
 void ObservedReader::Begin(const kelvra::Component& component, bool hasBits) {
+  // The reader moved to its end while the component around this one was read, as over the index of a CHOICE.
+  if (!isStopped_ && cause != PerCause::kNone && !steps_.empty()) Report(cause, steps_.back().component->firstBit);
   Step step{&component};
   step.isRead = !isStopped_;
   if (!steps_.empty()) {
@@ -81,7 +83,12 @@ int32_t ObservedReader::UnknownAdditions(int32_t counted) {
 void ObservedReader::Report(PerCause reason, uint64_t bit) {
   isStopped_ = true;
   for (Step& step : steps_) step.isRead = false;
-  observer_.Stopped({Path(), bit, reason});
+  observer_.Stopped({Path(), bit, std::max(bit, Reached()), reason});
+}
+
+uint64_t ObservedReader::Reached() const {
+  if (!PerAtEnd(*this) || stoppedAt == nullptr) return 0;
+  return uint64_t{reinterpret_cast<uintptr_t>(stoppedAt) - reinterpret_cast<uintptr_t>(start_)} * 8;
 }
 
 std::string ObservedReader::Path() const {

@@ -36,6 +36,7 @@ struct Component {
 struct Fault {
   std::string path;  // of the component at which the decode stopped: "a.b[2].c"; empty: the message itself
   uint64_t bit;      // where that component begins
+  uint64_t reached;  // the bit, there or further on, up to which the message was read before it stopped
   PerCause cause;
 };
 

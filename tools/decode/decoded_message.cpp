@@ -76,14 +76,17 @@ void AddFault(DecodedMessage& decoded, Verdict verdict, std::string member, uint
   decoded.faults.push_back({verdict, std::move(member), bit, std::move(cause), false});
 }
 
-void AddStops(DecodedMessage& decoded, const DecodeLog& log, uint32_t firstBit) {
+// `size` is that of what was decoded, in octets.
+void AddStops(DecodedMessage& decoded, const DecodeLog& log, uint32_t firstBit, uint32_t size) {
   if (log.Stops().empty()) return;
   const std::string body = PathOfBody(decoded) + ".";
   for (const DecodeLog::Stop& stop : log.Stops()) {
     const Words words = WordsOf(stop.fault.cause);
     std::string member = stop.fault.path;
     if (member.starts_with(body)) member.erase(0, body.size());
-    AddFault(decoded, words.verdict, std::move(member), firstBit + stop.fault.bit, words.cause);
+    // An open type that claims too much carries the reader past the end.
+    const uint64_t bit = std::min<uint64_t>(stop.fault.reached, uint64_t{size} * 8);
+    AddFault(decoded, words.verdict, std::move(member), firstBit + bit, words.cause);
     decoded.faults.back().resumed = stop.resumed;
   }
 }
@@ -165,7 +168,7 @@ void DecodeRas(std::span<const uint8_t> octets, DecodeLog& log, DecodedMessage& 
   decoded.result = IsClean(log, end) ? OctetsOf(end.bit) : ExportRas(octets, kUsualSpareOctets);
   decoded.ok = decoded.result != 0;
   NoteVersion(decoded);
-  AddStops(decoded, log, 0);
+  AddStops(decoded, log, 0, size);
   AddRest(decoded, log, end, 0, size, "");
   if (decoded.faults.empty() && !decoded.ok) decoded.spareOctetsRequired = SpareOctetsRequired(octets);
 }
@@ -182,7 +185,7 @@ void DecodeH245(std::span<const uint8_t> octets, DecodeLog& log, DecodedMessage&
   // The export returns 1 where the reader stands at the very end, after alignment.
   decoded.ok = (end.isAtEnd ? end.bit / 8 : OctetsOf(end.bit)) == size;
   decoded.result = decoded.ok ? 1 : 0;
-  AddStops(decoded, log, 0);
+  AddStops(decoded, log, 0, size);
   AddRest(decoded, log, end, 0, size, "");
 }
 
@@ -241,7 +244,7 @@ void DecodeQ931(std::span<const uint8_t> octets, DecodeLog& log, DecodedMessage&
   TreeBuilder(decoded.nodes, log, first * 8, &elements).Build(record);
   decoded.name = decoded.Root().Find({"h323-UserInformation", "h323-uu-pdu", "h323-message-body"}).Alternative();
   NoteVersion(decoded);
-  AddStops(decoded, log, first * 8);
+  AddStops(decoded, log, first * 8, length);
   if (hasContents) AddRest(decoded, log, end, first * 8, length, " in the user-user element");
   AddFrameFaults(decoded, elements, size);
 }
