@@ -34,14 +34,53 @@ class ObservedReader : public PerReader {
     Component(ObservedReader& reader, const char* name, Place& place, Kind kind)
         : reader_(reader), component_{name, KindOf(kind), reader.Bit(), AddressOf(place)} {
       reader_.Begin(component_, HasBits(place, kind));
+      NoteOctets(place, kind);
     }
-    ~Component() { reader_.End(component_); }
+    ~Component() { reader_.End(component_, EndOfOctets()); }
     Component(const Component&) = delete;
     Component& operator=(const Component&) = delete;
 
    private:
+    // Of an OCTET STRING that does not begin at an octet, the decoder overlooks that the last octet is missing.
+    template <class Place, class Kind>
+    void NoteOctets(const Place&, Kind) {}
+    template <OctetNotation kNotation>
+    void NoteOctets(const OctetStringValue& value, asn1::FixedStringKind<asn1::StringUnits::kOctets, kNotation>) {
+      string_ = &value;
+    }
+    template <OctetNotation kNotation>
+    void NoteOctets(const OctetStringValue& value, asn1::SizedStringKind<asn1::StringUnits::kOctets, kNotation> kind) {
+      string_ = &value;
+      const uint32_t range = kind.high - kind.low + 1;
+      lengthBits_ = range < 256 ? PerBitsOfRange(range) : 0;
+    }
+    template <class Place>
+    void NoteOctets(const Place&, asn1::UncountedOctetStringKind kind) {
+      fixedOctets_ = kind.size;
+    }
+    template <class Place>
+    void NoteOctets(const Place&, asn1::FixedSplitOctetStringKind kind) {
+      fixedOctets_ = kind.size;
+    }
+    template <class Place, class Kind>
+    void NoteOctets(const Place& place, asn1::AliasKind<Kind> alias) {
+      NoteOctets(place, alias.kind);
+    }
+    template <class Place, class Kind>
+    void NoteOctets(const Place& place, asn1::EvenIfMissingKind<Kind> element) {
+      NoteOctets(place, element.kind);
+    }
+    // The bit after the octets of such a string; 0: it has none.
+    uint64_t EndOfOctets() const {
+      const uint64_t octets = string_ != nullptr ? string_->length : fixedOctets_;
+      return octets == 0 ? 0 : (component_.firstBit + lengthBits_ + 7) / 8 * 8 + octets * 8;
+    }
+
     ObservedReader& reader_;
     kelvra::Component component_;
+    const OctetStringValue* string_ = nullptr;
+    uint32_t fixedOctets_ = 0;
+    uint32_t lengthBits_ = 0;
   };
 
   // The decode stops in the innermost component, for a reason that does not move the reader to its end.
@@ -50,7 +89,8 @@ class ObservedReader : public PerReader {
   void LeftOpenType();
 
   void Begin(const kelvra::Component& component, bool hasBits);
-  void End(const kelvra::Component& component);
+  // `endOfOctets` is where an OCTET STRING should end; 0: the component is none.
+  void End(const kelvra::Component& component, uint64_t endOfOctets);
 
   // The bitmap of the innermost component announces `counted` unknown additions, and more where some known ones are not
   // of the sender's version.

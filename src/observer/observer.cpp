@@ -29,7 +29,8 @@ void ObservedReader::Begin(const kelvra::Component& component, bool hasBits) {
   if (!isStopped_ && hasBits && PerAtEnd(*this)) Report(PerCause::kEndOfMessage, component.firstBit);
 }
 
-void ObservedReader::End(const kelvra::Component& component) {
+void ObservedReader::End(const kelvra::Component& component, uint64_t endOfOctets) {
+  if (!isStopped_ && endOfOctets > Bit()) Report(PerCause::kEndOfMessage, component.firstBit);
   // A move to the end that nobody has reported yet happened while this component was read.
   if (!isStopped_ && cause != PerCause::kNone) Report(cause, component.firstBit);
   const bool isRead = steps_.back().isRead;
