@@ -64,7 +64,7 @@ class Captures(unittest.TestCase):
                         'input "5"  for 200 ms\n', "decision slave\n", "channel 101  by user\n", "end disconnect\n"):
             self.assertIn(details, summary)
         self.assertRegex(summary, r"Connect \(connect\) +crv 4711  ")
-        self.assertIn('from "4001"  to "4002"  media 192.0.2.10:5004/192.0.2.10:5005', summary)
+        self.assertIn('from "4001"  to "4002"  forward g711Ulaw64k  reverse g711Ulaw64k  media 192.0.2.10:5004/192.0.2.10:5005', summary)
         self.assertEqual(summary.count("+ H.245"), 2)
 
     def test_link_types_and_protocols(self):

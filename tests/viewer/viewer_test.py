@@ -187,7 +187,7 @@ class SingleMessages(unittest.TestCase):
                          rb"\[octet 5: h323-UserInformation: there is no user-user element\]")
         result = run("--as", "h245", data=CHANNEL_ACK[:-2].encode())
         self.assertEqual(result.returncode, 1)
-        self.assertRegex(result.stdout, rb"openLogicalChannelAck .*\[octet \d+: .*: a length announces more octets")
+        self.assertRegex(result.stdout, rb"openLogicalChannelAck .*\[octet 21: .*tsapIdentifier: the message ends here\]")
 
     def test_registrations_of_version_3(self):
         text = "\n".join(v["hex"].replace("060008914a0004", "060008914a0003") for v in vectors("ras"))
@@ -226,6 +226,57 @@ class SingleMessages(unittest.TestCase):
         self.assertEqual(self.printed_identifier((0xD83D, 0xDE00, 0xDFFF, 0xD800)), "\U0001f600\ufffd\ufffd")
         self.assertEqual(self.printed_identifier((8, 12, 10, 9)), "\b\f\n\t")
         self.assertEqual(self.printed_identifier((13, 0x22, 0x5C, 0x20AC)), "\r\"\\\u20ac")
+
+    def test_no_prefix_is_complete_or_shows_what_was_not_read(self):
+        def parts(part, whole):
+            """Whether a tree is the beginning of another."""
+            if isinstance(part, dict) and isinstance(whole, dict):
+                return all(name in whole and parts(part[name], whole[name]) for name in part)
+            if isinstance(part, list) and isinstance(whole, list):
+                return len(part) <= len(whole) and all(map(parts, part, whole))
+            return part == whole
+
+        step = 29 if EMULATED else 5
+        for family in ("ras", "q931", "h245"):
+            messages = [vector["hex"] for vector in vectors(family)]
+            wholes = objects(decode_hex(family, "\n".join(messages)))
+            cuts = [(n, size) for n, text in enumerate(messages) for size in range(2, len(text), 2)][::step]
+            result = decode_hex(family, "\n".join(messages[n][:size] for n, size in cuts))
+            self.assertEqual(result.returncode, 1)
+            for (n, size), printed in zip(cuts, objects(result), strict=True):
+                what = (family, n, size // 2)
+                self.assertFalse(printed["complete"], what)
+                self.assertLessEqual(printed["fault"]["octet"], size // 2, what)
+                self.assertEqual(printed["fault"]["bit"] // 8, printed["fault"]["octet"], what)
+                self.assertTrue(parts(printed["message"], wholes[n]["message"]), what)
+
+    def test_q931_prefix_whose_lengths_fit_is_not_complete(self):
+        for message in (bytes.fromhex(vector["hex"]) for vector in vectors("q931")[:20]):
+            start = message.index(b"\x7e") + 3
+            cuts = [tpkt(message[4:start - 2] + struct.pack(">H", size - start) + message[start:size])
+                    for size in range(start + 1, len(message))]
+            printed = objects(decode_hex("q931", "\n".join(cut.hex() for cut in cuts)))
+            self.assertEqual([o["complete"] for o in printed], [False] * len(cuts))
+
+    def test_times_version_and_color(self):
+        self.assertRegex(run("--version").stdout, rb"^kelvra-dump \d+\.\d+\.\d+\r?\n$")
+        self.assertEqual(run("--local", "--relative", data=b"").returncode, 2)
+        plain = run("--as", "ras", data=GATEKEEPER_CONFIRM.encode()).stdout
+        self.assertNotIn(b"\x1b", plain)
+        self.assertIn(b"\x1b[1mgatekeeperConfirm\x1b[0m",
+                      run("--as", "ras", "--color", "always", data=GATEKEEPER_CONFIRM.encode()).stdout)
+
+    @unittest.skipIf(EMULATED, "a terminal is for native programs")
+    def test_color_on_a_terminal_unless_the_environment_says_no(self):
+        import pty
+        for environment, colored in (({}, True), ({"NO_COLOR": ""}, True), ({"NO_COLOR": "1"}, False)):
+            master, terminal = pty.openpty()
+            settings = {**{k: v for k, v in os.environ.items() if k != "NO_COLOR"}, **environment}
+            subprocess.run([*COMMAND, "--as", "ras"], input=GATEKEEPER_CONFIRM.encode(), stdout=terminal,
+                           env=settings, timeout=60, check=True)
+            os.close(terminal)
+            self.assertEqual(b"\x1b[1m" in os.read(master, 4096), colored, environment)
+            os.close(master)
 
     def test_both_lists_of_tunnelled_messages(self):
         for name in ("h245Control", "parallelH245Control"):

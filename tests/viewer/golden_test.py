@@ -1,0 +1,68 @@
+#!/usr/bin/env python3
+"""Compares whole outputs of kelvra-dump with the files of golden/, which a person has read.
+
+Usage: golden_test.py KELVRA_DUMP [EMULATOR...]
+       golden_test.py --renew KELVRA_DUMP     writes the files anew; look at the difference
+"""
+import difflib
+import os
+import sys
+import unittest
+
+RENEW = "--renew" in sys.argv[1:]
+sys.argv = [a for a in sys.argv if a != "--renew"]
+
+from viewer_test import EMULATED, READS_CAPTURES, TOP, run  # noqa: E402
+
+GOLDEN = os.path.join(os.path.dirname(os.path.abspath(__file__)), "golden")
+SAMPLE = os.path.join(TOP, "samples", "call.pcap")
+# Three hours and a half east of Greenwich, and no summer time.
+os.environ["TZ"] = "EAST-3:30"
+
+
+class Golden(unittest.TestCase):
+    maxDiff = None
+
+    def check(self, name, *arguments, data=b"", status=0):
+        result = run(*arguments, data=data)
+        self.assertEqual(result.returncode, status, result.stderr)
+        path = os.path.join(GOLDEN, name)
+        if RENEW:
+            with open(path, "wb") as file:
+                file.write(result.stdout)
+            return
+        with open(path, "rb") as file:
+            wanted = file.read()
+        if wanted != result.stdout:
+            lines = (text.decode().splitlines() for text in (wanted, result.stdout))
+            self.fail("\n".join(difflib.unified_diff(*lines, name, "printed", lineterm="", n=1)))
+
+    def check_family(self, family, prefix, formats, status):
+        with open(os.path.join(GOLDEN, f"{prefix}{family}.hex"), "rb") as file:
+            messages = file.read()
+        for kind, arguments in formats.items():
+            self.check(f"{prefix}{family}.{kind}", "--as", family, *arguments, "-", data=messages, status=status)
+
+    def test_messages(self):
+        # Some of the H.245 messages that are tunnelled are octets at random.
+        for family, status in (("ras", 0), ("q931", 1), ("h245", 0)):
+            self.check_family(family, "", {"summary": [], "tree": ["--format", "tree"]}, status)
+
+    def test_faulty_messages(self):
+        for family in ("ras", "q931", "h245"):
+            self.check_family(family, "faulty-", {"summary": [], "octets": ["--format", "tree", "--octets"],
+                                                  "json": ["--format", "json"]}, 1)
+
+    @unittest.skipUnless(READS_CAPTURES, "reads no captures")
+    def test_sample_call(self):
+        self.check("call.summary", SAMPLE)
+        self.check("call.relative", "--relative", SAMPLE)
+        self.check("call.colored", "--color", "always", SAMPLE)
+
+    @unittest.skipUnless(READS_CAPTURES and not EMULATED, "reads no captures, or has no TZ")
+    def test_local_times(self):
+        self.check("call.local", "--local", SAMPLE)
+
+
+if __name__ == "__main__":
+    unittest.main(argv=sys.argv[:1])
