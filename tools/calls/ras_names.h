@@ -1,0 +1,22 @@
+// Which RAS message answers which.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+enum class RasRole : uint8_t { kRequest, kConfirm, kReject, kInProgress, kIndication };
+
+struct RasMeaning {
+  RasRole role = RasRole::kIndication;
+  std::string_view request;  // which it answers; empty: any
+};
+
+// An infoRequestResponse counts as an answer, though it may come unasked.
+RasMeaning MeaningOf(std::string_view name);
+
+inline bool IsAnswer(RasRole role) {
+  return role == RasRole::kConfirm || role == RasRole::kReject || role == RasRole::kInProgress;
+}
+
+// "admission" of "admissionRequest"
+std::string_view SubjectOfRequest(std::string_view request);
