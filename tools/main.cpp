@@ -6,6 +6,7 @@
 
 #include "console.h"
 #include "decode/decoded_message.h"
+#include "formats/calls.h"
 #include "formats/formats.h"
 #include "options.h"
 
@@ -16,13 +17,33 @@ void Complain(const std::string& what) {
   std::fprintf(stderr, "kelvra-dump: %s\n", what.c_str());
 }
 
-std::unique_ptr<Formatter> MakeFormatter(Format format, const FormatOptions& options) {
+std::unique_ptr<Formatter> MakeMessageFormatter(Format format, const FormatOptions& options) {
   switch (format) {
     case Format::kSummary: return MakeSummary(options);
     case Format::kTree: return MakeTree(options);
-    case Format::kJson: break;
+    default: return MakeJson();
   }
-  return MakeJson();
+}
+
+// Null: the format prints messages.
+std::unique_ptr<CallFormatter> MakeCallFormatter(const Options& options) {
+  switch (options.format) {
+    case Format::kCallTable: return MakeCallTable(options.formatting);
+    case Format::kCalls: return MakeCallBlocks();
+    case Format::kLadder: return MakeLadder(options.filter);
+    case Format::kHtml: return MakeHtml(options.filter);
+    default: return nullptr;
+  }
+}
+
+std::unique_ptr<Formatter> MakeFormatter(const Options& options) {
+  if (options.format == Format::kStatistics) return MakeStatistics(options.filter);
+  if (auto calls = MakeCallFormatter(options)) {
+    const CallOrder order = IsRegularFile(options.file) ? CallOrder::kByBeginning : CallOrder::kByEnd;
+    return MakeCallReport(std::move(calls), options.filter, order);
+  }
+  auto messages = MakeMessageFormatter(options.format, options.formatting);
+  return options.filter.IsEmpty() ? std::move(messages) : MakeSelection(std::move(messages), options.filter);
 }
 
 class Printer : public MessageSink {
@@ -46,6 +67,15 @@ class Printer : public MessageSink {
   }
 
   void OnNotice(const std::string& what) override { Complain(what); }
+
+  void OnMediaPacket(const Origin& origin, uint8_t payload_type, uint32_t /*ssrc*/) override {
+    formatter_->OnMediaPacket(origin, payload_type);
+  }
+
+  void OnRefusedConnection(const Origin& origin) override {
+    any_ = true;
+    formatter_->OnRefusedConnection(origin);
+  }
 
   // After the last message.
   void Finish() {
@@ -111,7 +141,7 @@ int RunProgram(int count, char** arguments) {
   if (const auto status = ParseOptions(count, arguments, options)) return *status;
   options.formatting.isColored = WantsColor(options.color);
   const bool flushes = options.flushesLines || OutputIsTerminal() || !IsRegularFile(options.file);
-  Printer printer(MakeFormatter(options.format, options.formatting), flushes);
+  Printer printer(MakeFormatter(options), flushes);
   Run(options, printer);
   printer.Finish();
   return printer.AllComplete() ? kAllComplete : kSomeIncomplete;

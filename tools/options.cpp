@@ -28,7 +28,8 @@ using Keywords = std::vector<std::pair<const char*, Value>>;
 
 const Keywords<InputKind> kInputs{
     {"auto", InputKind::kAuto}, {"capture", InputKind::kCapture}, {"hex", InputKind::kHex}, {"raw", InputKind::kRaw}};
-const Keywords<Format> kFormats{{"summary", Format::kSummary}, {"tree", Format::kTree}, {"json", Format::kJson}};
+const Keywords<Format> kFormats{{"summary", Format::kSummary}, {"tree", Format::kTree},     {"json", Format::kJson},
+                                {"calls", Format::kCalls},     {"ladder", Format::kLadder}, {"html", Format::kHtml}};
 const Keywords<ColorChoice> kColors{
     {"auto", ColorChoice::kAuto}, {"always", ColorChoice::kAlways}, {"never", ColorChoice::kNever}};
 const Keywords<Family> kFamilies{{"ras", Family::kRas}, {"q931", Family::kQ931}, {"h245", Family::kH245}};
@@ -54,6 +55,24 @@ void AddPorts(CLI::App& app, const char* name, std::set<uint16_t>& ports, const 
       ->allow_extra_args(false);
 }
 
+void AddTimeBound(CLI::App& app, const char* name, std::optional<TimeBound>& bound, const char* help) {
+  const auto set = [name, &bound](const std::string& text) {
+    bound = ParseTimeBound(text);
+    if (!bound) throw CLI::ValidationError(name, "neither a time nor a time of day: " + text);
+  };
+  app.add_option_function<std::string>(name, set, help)->type_name("TIME");
+}
+
+void AddFilter(CLI::App& app, Filter& filter) {
+  app.add_option("--call", filter.call, "only this call: its number, or the beginning of its identifier");
+  app.add_option("--party", filter.party, "only calls with a party whose alias, number or address holds this text");
+  app.add_option("--message", filter.message, "only messages of this name or Q.931 type, and calls with one");
+  AddKeyword(app, "--family", kFamilies, filter.family, "only messages of this family, and calls with one");
+  AddTimeBound(app, "--since", filter.since, "only messages from this UTC time or time of day on, and calls with one");
+  AddTimeBound(app, "--until", filter.until, "only messages up to this time, and calls with one");
+  app.add_flag("--faulty", filter.faulty, "only messages that are not complete, and calls in which something failed");
+}
+
 }  // namespace
 
 std::optional<int> ParseOptions(int count, char** arguments, Options& options) {
@@ -69,7 +88,14 @@ std::optional<int> ParseOptions(int count, char** arguments, Options& options) {
   AddKeyword(app, "--input", kInputs, options.input, "what the input is (auto: told by its first octets)");
   AddKeyword(app, "--as", kFamilies, options.family, "the family of hexadecimal or raw messages, which no port tells");
   AddKeyword(app, "--format", kFormats, options.format,
-             "one line per message (summary), every member (tree), or one object per line (json)");
+             "one line per message (summary), every member (tree), or one object per line (json); of whole calls all "
+             "facts (calls), a diagram (ladder) or a page (html)");
+  app.add_flag_callback(
+      "--calls", [&options] { options.format = Format::kCallTable; }, "one line per call");
+  app.add_flag_callback(
+      "--stats", [&options] { options.format = Format::kStatistics; },
+      "messages by kind, faults by cause, and how RAS requests were answered");
+  AddFilter(app, options.filter);
   const auto setTimes = [&options](TimeStyle style) { return [&options, style] { options.formatting.times = style; }; };
   auto* local = app.add_flag_callback("--local", setTimes(TimeStyle::kLocal), "times of this machine's zone, not UTC");
   app.add_flag_callback("--relative", setTimes(TimeStyle::kRelative), "seconds since the first message")

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 
+#include "calls/filter.h"
 #include "formats/formats.h"
 #include "input/capture.h"
 #include "input/input.h"
@@ -15,6 +16,7 @@ struct Options {
   InputKind input = InputKind::kAuto;
   Format format = Format::kSummary;
   FormatOptions formatting;
+  Filter filter;
   ColorChoice color = ColorChoice::kAuto;
   bool flushesLines = false;
   std::optional<Family> family;

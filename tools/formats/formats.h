@@ -7,7 +7,7 @@
 
 #include "decode/decoded_message.h"
 
-enum class Format : uint8_t { kSummary, kTree, kJson };
+enum class Format : uint8_t { kSummary, kTree, kJson, kCallTable, kCalls, kLadder, kHtml, kStatistics };
 
 enum class TimeStyle : uint8_t {
   kUtc,
@@ -26,6 +26,9 @@ class Formatter {
   virtual ~Formatter() = default;
   // Appends whole lines.
   virtual void Print(const Message& message, const DecodedMessage& decoded, std::string& text) = 0;
+  // What a capture has besides messages.
+  virtual void OnMediaPacket(const Origin& /*origin*/, uint8_t /*payload_type*/) {}
+  virtual void OnRefusedConnection(const Origin& /*origin*/) {}
   // What follows the last message.
   virtual void Finish(std::string& /*text*/) {}
 };

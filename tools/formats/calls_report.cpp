@@ -1,0 +1,92 @@
+// Calls instead of messages.
+#include <map>
+#include <unordered_set>
+#include <utility>
+
+#include "calls/call_tracker.h"
+#include "calls/words.h"
+#include "formats/calls.h"
+
+namespace {
+
+// Of calls that have ended, while one that began earlier goes on.
+constexpr size_t kMostWaitingOctets = 0x4000000;
+
+class CallReport : public Formatter, private CallListener {
+ public:
+  CallReport(std::unique_ptr<CallFormatter> formatter, const Filter& filter, CallOrder order)
+      : formatter_(std::move(formatter)), filter_(filter), order_(order), tracker_(*this, formatter_->NeedsMessages()) {
+    formatter_->Begin(ready_);
+  }
+
+  void Print(const Message& message, const DecodedMessage& decoded, std::string& text) override {
+    const auto calls = tracker_.OnMessage(message, decoded);
+    if (filter_.WantsMessage(message, decoded)) wanted_.insert(calls.begin(), calls.end());
+    text += std::exchange(ready_, {});
+  }
+
+  void OnMediaPacket(const Origin& origin, uint8_t payload_type) override {
+    tracker_.OnMediaPacket(origin, payload_type);
+  }
+
+  void OnRefusedConnection(const Origin& origin) override { tracker_.OnRefusedConnection(origin); }
+
+  void Finish(std::string& text) override {
+    tracker_.Close();
+    for (const auto& waiting : waiting_) ready_ += waiting.second;
+    formatter_->Finish(ready_);
+    text += std::exchange(ready_, {});
+  }
+
+ private:
+  void OnCallEnded(const Call& call) override {
+    std::string text;
+    if (Wants(call)) formatter_->Print(call, text);
+    wanted_.erase(&call);
+    if (order_ == CallOrder::kByEnd) {
+      ready_ += text;
+      return;
+    }
+    waiting_octets_ += text.size();
+    waiting_.emplace(call.order, std::move(text));
+    while (!waiting_.empty() && (waiting_.begin()->first <= next_ || waiting_octets_ > kMostWaitingOctets)) TakeFirst();
+  }
+
+  void TakeFirst() {
+    auto first = waiting_.extract(waiting_.begin());
+    next_ = std::max(next_, first.key() + 1);
+    waiting_octets_ -= first.mapped().size();
+    ready_ += first.mapped();
+  }
+
+  bool Wants(const Call& call) const {
+    if (filter_.faulty && Faults(call).empty()) return false;
+    const bool has_wanted = wanted_.contains(&call) || (call.signalling.empty() && HasWantedRefusal(call));
+    return has_wanted && filter_.WantsCall(call) == Wanted::kYes;
+  }
+
+  // A connection that was refused has no message.
+  bool HasWantedRefusal(const Call& call) const {
+    for (const Origin& refused : call.refusedConnections) {
+      if (filter_.WantsConnection(refused)) return true;
+    }
+    return false;
+  }
+
+  std::unique_ptr<CallFormatter> formatter_;
+  const Filter& filter_;
+  CallOrder order_;
+  CallTracker tracker_;
+  std::unordered_set<const Call*> wanted_;  // of which a message is wanted
+  std::map<uint64_t, std::string> waiting_;
+  size_t waiting_octets_ = 0;
+  uint64_t next_ = 0;  // in the order of calls
+  std::string ready_;
+};
+
+}  // namespace
+
+std::unique_ptr<Formatter> MakeCallReport(std::unique_ptr<CallFormatter> formatter, const Filter& filter,
+                                          CallOrder order) {
+  return std::make_unique<CallReport>(std::move(formatter), filter, order);
+}

@@ -1,0 +1,107 @@
+// One page with every call, its ladder and its messages.
+#include "calls/ladder_events.h"
+#include "calls/sections.h"
+#include "calls/words.h"
+#include "formats/calls.h"
+#include "formats/html_ladder.h"
+#include "formats/html_page.h"
+#include "formats/html_text.h"
+#include "text/concat.h"
+#include "text/hex.h"
+#include "text/time_text.h"
+
+namespace {
+
+class Html : public CallFormatter {
+ public:
+  explicit Html(const Filter& filter) : filter_(filter) {}
+
+  bool NeedsMessages() const override { return true; }
+  void Begin(std::string& html) override { html += kPageBegin; }
+  void Finish(std::string& html) override { html += kPageEnd; }
+
+  void Print(const Call& call, std::string& html) override {
+    const auto faults = Faults(call);
+    html +=
+        Concat({"<tbody", faults.empty() ? "" : " data-faulty", call.subject == Subject::kOther ? " data-outside" : "",
+                " data-identifier=\"", IdentifierAttribute(call), "\">\n"});
+    AppendRow(call, faults, html);
+    html += Concat({"<tr id=\"", DetailId(call), "\" hidden><td colspan=\"8\">\n"});
+    for (const Section& section : SectionsOf(call)) AppendSection(section, html);
+    const auto events = LadderEventsOf(call, filter_);
+    AppendSvgLadder(call, events, html);
+    html += "<h2>messages</h2>\n";
+    for (const LadderEvent& event : events) {
+      if (event.message != nullptr && !event.isTunnelled) AppendMessage(call, event, html);
+    }
+    html += "</td></tr>\n</tbody>\n";
+  }
+
+ private:
+  static std::string DetailId(const Call& call) { return Concat({"call", std::to_string(call.order)}); }
+
+  static std::string IdentifierAttribute(const Call& call) {
+    std::string text = IdentifierText(call);
+    for (char& digit : text) {
+      if (digit >= 'A') digit = static_cast<char>(digit - 'A' + 'a');
+    }
+    return text;
+  }
+
+  static std::string Cell(const std::string& text) { return Concat({"<td>", Escaped(text), "</td>"}); }
+
+  // A number to sort by, below 0 where there is none.
+  static std::string TimeCell(const std::optional<int64_t>& span) {
+    return Concat({"<td class=\"number\" data-value=\"", std::to_string(span.value_or(-1)), "\">",
+                   span ? Seconds(*span) : "-", "</td>"});
+  }
+
+  static void AppendRow(const Call& call, const std::vector<std::string>& faults, std::string& html) {
+    const Leg* leg = call.FirstLeg();
+    const bool is_call = call.subject == Subject::kCall;
+    html += Concat({"<tr class=\"row\"><td data-value=\"", std::to_string(call.number),
+                    "\"><button class=\"open\" aria-expanded=\"false\" aria-controls=\"", DetailId(call), "\">",
+                    is_call ? std::to_string(call.number) : "RAS", "</button></td>"});
+    html += Concat({Cell(IsoTime(call.first)), Cell(PartyText(call.caller)), Cell(PartyText(call.called))});
+    html += TimeCell(leg != nullptr ? leg->SetupTime() : std::nullopt);
+    html += TimeCell(leg != nullptr ? leg->Duration() : std::nullopt);
+    html += Concat({Cell(EndText(call)), "<td class=\"fault\">", Escaped(Joined(faults, "; ")), "</td></tr>\n"});
+  }
+
+  static void AppendSection(const Section& section, std::string& html) {
+    const char* kind = section.title == "faults" ? " class=\"fault\"" : "";
+    html += Concat({"<h2>", section.title, "</h2>\n<ul", kind, ">\n"});
+    for (const std::string& line : section.lines) html += Concat({"<li>", Escaped(line), "</li>\n"});
+    html += "</ul>\n";
+  }
+
+  static void AppendMessage(const Call& call, const LadderEvent& event, std::string& html) {
+    const auto index = static_cast<size_t>(event.message - call.messages.data());
+    html += Concat({"<details id=\"", MessageAnchor(call, index), "\"><summary",
+                    event.isMalformed ? " class=\"fault\"" : "", ">",
+                    Escaped(Concat({Since(call, event.origin.microseconds), "  ", ToText(event.origin.source), " -> ",
+                                    ToText(event.origin.destination), "  ", event.label,
+                                    event.fault.empty() ? "" : "  ! ", event.fault})),
+                    "</summary><pre>"});
+    AppendTree(*event.message, html);
+    html += "</pre></details>\n";
+  }
+
+  static void AppendTree(const Message& message, std::string& html) {
+    FormatOptions options;
+    options.showsOctets = true;
+    std::string tree;
+    MakeTree(options)->Print(message, DecodeMessage(message.family, message.octets), tree);
+    for (size_t start = 0; start < tree.size();) {
+      const size_t end = std::min(tree.find('\n', start), tree.size());
+      html += Concat({Escaped(std::string_view(tree).substr(start, end - start)), "\n"});
+      start = end + 1;
+    }
+  }
+
+  const Filter& filter_;
+};
+
+}  // namespace
+
+std::unique_ptr<CallFormatter> MakeHtml(const Filter& filter) { return std::make_unique<Html>(filter); }
