@@ -1,6 +1,9 @@
 # What the targets of this build share.
 
 set(kelvra_warnings -Wall -Wextra -Wconversion -Wshadow -Wpedantic -Werror)
+if(NOT PROJECT_IS_TOP_LEVEL)
+  set(kelvra_warnings -Wno-error)  # whatever another project's flags ask for
+endif()
 
 function(_kelvra_common target)
   target_compile_options(${target} PRIVATE ${kelvra_warnings})

@@ -1,0 +1,24 @@
+# What is installed, in three components: library, development, viewer (whose program tools/ installs).
+install(TARGETS ${libraries} EXPORT kelvraTargets
+  RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT library
+  LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT library NAMELINK_COMPONENT development
+  ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development
+  FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development)
+
+set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/kelvra)
+install(EXPORT kelvraTargets NAMESPACE kelvra:: DESTINATION ${package_dir} COMPONENT development)
+configure_package_config_file(cmake/kelvraConfig.cmake.in
+  ${CMAKE_CURRENT_BINARY_DIR}/kelvraConfig.cmake INSTALL_DESTINATION ${package_dir})
+write_basic_package_version_file(
+  ${CMAKE_CURRENT_BINARY_DIR}/kelvraConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+install(FILES
+  ${CMAKE_CURRENT_BINARY_DIR}/kelvraConfig.cmake
+  ${CMAKE_CURRENT_BINARY_DIR}/kelvraConfigVersion.cmake
+  DESTINATION ${package_dir} COMPONENT development)
+# The file finds its installation from where it lies itself.
+set(pkgconfig_dir ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+cmake_path(RELATIVE_PATH CMAKE_INSTALL_PREFIX
+  BASE_DIRECTORY ${CMAKE_INSTALL_PREFIX}/${pkgconfig_dir} OUTPUT_VARIABLE pc_prefix)
+configure_file(cmake/kelvra.pc.in ${CMAKE_CURRENT_BINARY_DIR}/kelvra.pc @ONLY)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/kelvra.pc
+  DESTINATION ${pkgconfig_dir} COMPONENT development)
