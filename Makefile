@@ -8,7 +8,7 @@ BUILD := build/linux-x64
 DUMP := $(BUILD)/bin/kelvra-dump
 CXX_FILES = $(shell find include src tools tests fuzz bench -name '*.cpp' -o -name '*.h')
 
-.PHONY: all demo test fuzz records digests format lint bench bench-check bench-baseline clean
+.PHONY: all demo test dist fuzz records digests format lint bench bench-check bench-baseline clean
 
 # The library and the viewer.
 all:
@@ -28,6 +28,11 @@ demo:
 test:
 	scripts/setup.sh test
 	scripts/test.sh
+
+# The packages, in build/dist.
+dist:
+	scripts/setup.sh test
+	scripts/dist.sh
 
 # Four hours a family by libFuzzer; scripts/fuzz.sh has other engines and times.
 fuzz:

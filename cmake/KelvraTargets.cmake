@@ -7,6 +7,9 @@ endif()
 
 function(_kelvra_common target)
   target_compile_options(${target} PRIVATE ${kelvra_warnings})
+  # No folder of this machine stands in what is built.
+  target_compile_options(${target} PRIVATE
+    -ffile-prefix-map=${PROJECT_BINARY_DIR}=build -ffile-prefix-map=${PROJECT_SOURCE_DIR}=.)
   if(KELVRA_SANITIZE)
     set(flags -fsanitize=${KELVRA_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_compile_options(${target} PRIVATE ${flags})
@@ -18,6 +21,7 @@ function(_kelvra_common target)
   if(WIN32)
     # A bare Windows has none of the compiler's own libraries.
     target_link_options(${target} PRIVATE -static -static-libgcc -static-libstdc++)
+    target_link_options(${target} PRIVATE -Wl,--no-insert-timestamp)  # the same octets from each build
   endif()
 endfunction()
 

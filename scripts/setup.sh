@@ -19,6 +19,7 @@ test_packages=(
   googletest binutils clang libclang-rt-14-dev python3 valgrind
   g++-multilib
   g++-mingw-w64-i686-posix g++-mingw-w64-x86-64-posix
+  dpkg-dev lld llvm unzip zip
 )
 bench_packages=(cmake ninja-build make g++ libbenchmark-dev valgrind python3)
 wine_packages=(wine wine64 wine32:i386)

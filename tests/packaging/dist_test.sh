@@ -1,0 +1,66 @@
+#!/usr/bin/env bash
+# Uses the packages of scripts/dist.sh as their readers do: dist_test.sh FOLDER. The Debian packages go into a root of
+# their own by dpkg; the zips are used under Wine, also by a program that LLVM's linker makes.
+set -euo pipefail
+here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+top=$here/../..
+dist=$(cd "$1" && pwd)
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+
+fail() { echo "dist: $*" >&2; exit 1; }
+
+shows_the_sample() {
+  "$@" "$top/samples/call.pcap" >"$work/shown" || fail "$* fails"
+  cmp -s "$work/shown" "$work/expected" || fail "$* shows other lines than the viewer of the build"
+}
+
+debian_packages() {
+  local root=$work/root
+  mkdir -p "$root/var/lib/dpkg/"{info,updates} "$root/var/log"
+  touch "$root/var/lib/dpkg/status"
+  # The root holds nothing else, so what the packages depend on is looked for on this machine.
+  dpkg --root="$root" --force-depends --force-not-root --force-script-chrootless --log="$work/dpkg.log" \
+    -i "$dist"/*.deb >/dev/null 2>&1 || fail "dpkg does not install the packages"
+  local package
+  for package in $(dpkg-deb -f "$dist"/kelvra-dump_*.deb Depends | tr ',' '\n' | sed 's/(.*)//; s/|.*//'); do
+    dpkg-query -W "$package" >/dev/null || fail "kelvra-dump depends on $package, which nobody has"
+  done
+  shows_the_sample "$root/usr/bin/kelvra-dump"
+  local libraries
+  libraries=$(dirname "$(find "$root" -name 'libkelvra.so.1')")
+  g++ -std=c++17 -I"$root/usr/include" "$here/consumer.cpp" -L"$(dirname "$(find "$root" -name libkelvra.so)")" \
+    -L"$libraries" -lkelvra -o "$work/consumer"
+  LD_LIBRARY_PATH=$libraries "$work/consumer" >/dev/null || fail "a program linked with the Debian packages fails"
+}
+
+tarball() {
+  tar -C "$work" -xzf "$dist"/kelvra-*-linux-x64.tar.gz
+  shows_the_sample "$(echo "$work"/kelvra-*-linux-x64)/bin/kelvra-dump"
+}
+
+windows_zip() {
+  local name=$1 mingw=$2 folder
+  unzip -q "$dist"/kelvra-*-"$name".zip -d "$work"
+  folder=$(echo "$work"/kelvra-*-"$name")
+  (cd "$folder" && sha256sum --quiet -c SHA256SUMS) || fail "$name: a checksum is wrong"
+  shows_the_sample "$top/scripts/wine.sh" "$folder/bin/kelvra-dump.exe"
+  "$mingw-g++-posix" -std=c++17 -static -I"$folder/include" "$here/consumer.cpp" "$folder/lib/libkelvra.dll.a" \
+    -o "$folder/bin/by_mingw.exe"
+  "$top/scripts/wine.sh" "$folder/bin/by_mingw.exe" >/dev/null || fail "$name: a program linked by MinGW fails"
+  # The same octets as from the other build of the tests.
+  local built=$top/build/$name/bin/kelvra.dll
+  [[ -e $built ]] || return 0
+  "$mingw-objcopy" --strip-all "$built" "$work/a.dll"
+  "$mingw-objcopy" --strip-all --remove-section=.gnu_debuglink "$folder/bin/kelvra.dll" "$work/b.dll"
+  cmp -s "$work/a.dll" "$work/b.dll" || fail "$name: two builds of kelvra.dll differ"
+}
+
+"$top/build/dist-linux-x64/bin/kelvra-dump" "$top/samples/call.pcap" >"$work/expected"
+(cd "$dist" && sha256sum --quiet -c SHA256SUMS) || fail "a checksum is wrong"
+! grep -rqF "$(cd "$top" && pwd)" "$dist" || fail "a folder of this machine stands in a package"
+debian_packages
+tarball
+windows_zip windows-x86 i686-w64-mingw32
+windows_zip windows-x64 x86_64-w64-mingw32
+echo "dist: all packages can be used"
