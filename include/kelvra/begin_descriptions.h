@@ -11,10 +11,12 @@
 #define KELVRA_INLINE inline
 #endif
 
-// Opens the description of a SEQUENCE, and of a CHOICE whose index is kept in `tag`. KELVRA_END closes either.
+// Opens the description of a SEQUENCE, and of a CHOICE whose index is kept in `tag`. KELVRA_END closes either. The
+// enumerators of a CHOICE are in names.h.
 #define KELVRA_SEQUENCE KELVRA_DESCRIPTION(kSequence)
-#define KELVRA_CHOICE(tag)    \
-  KELVRA_DESCRIPTION(kChoice) \
+#define KELVRA_CHOICE(tag)     \
+  enum Alternative : uint32_t; \
+  KELVRA_DESCRIPTION(kChoice)  \
   v.Tag(KELVRA_PLACE(tag));
 #define KELVRA_END \
   return true;     \
@@ -33,6 +35,7 @@
 
 // Describes an ENUMERATED by its member and its identifiers, in order of their values.
 #define KELVRA_ENUMERATED(member, ...)                                                       \
+  enum Value : uint32_t;                                                                     \
   static constexpr ::kelvra::asn1::TypeForm kForm = ::kelvra::asn1::TypeForm::kEnumerated;   \
   template <class Record_, class Visitor_>                                                   \
   static void Walk(Record_& m, Visitor_& visitor) {                                          \
@@ -45,6 +48,7 @@
 // alternatives, and the identifiers of all.
 #define KELVRA_NULL_CHOICE(record, name, roots, ...)              \
   struct name##Names {                                            \
+    enum Alternative : uint32_t;                                  \
     static constexpr uint32_t kRoots = roots;                     \
     static constexpr const char* kAlternatives[] = {__VA_ARGS__}; \
   };                                                              \

@@ -11,9 +11,14 @@
 
 #include <stdint.h>
 
+#include "alternative.h"
 #include "h225/call/q931_message.h"
 #include "h225/ras/ras_message.h"
 #include "h245/messages/h245_message.h"
+
+#if defined(KELVRA_C_FUNCTIONS)
+#error "kelvra/kelvra_c.h declares the functions for C; include kelvra/kelvra.h before it"
+#endif
 
 #if defined(KELVRA_BUILDING_LIBRARY) && !defined(_WIN32)
 #define KELVRA_API __attribute__((visibility("default")))

@@ -2,7 +2,8 @@
 //
 //   KELVRA_NULL_CHOICE(NullChoice, CallModel, 2, "direct", "gatekeeperRouted");
 //
-// names the root alternatives first, of which there are two.
+// names the root alternatives first, of which there are two. A record derives from its list, which gives it the
+// enumerators that names.h defines there.
 #pragma once
 
 #include <stdint.h>
@@ -35,7 +36,7 @@ void WalkNullChoice(Visitor& visitor, uint32_t isExtension, uint32_t tag) {
 
 // Of H.225.0 and H.235.
 template <class Names>
-struct NullChoice {
+struct NullChoice : Names {
   using AlternativeNames = Names;
 
   uint8_t choiceTag;
@@ -52,7 +53,7 @@ namespace h245 {
 
 // Of H.245, where the extension bit stands first.
 template <class Names>
-struct NullChoice {
+struct NullChoice : Names {
   using AlternativeNames = Names;
 
   uint32_t isExtension;
@@ -67,7 +68,7 @@ struct NullChoice {
 
 // The same without an extension marker.
 template <class Names>
-struct UnextensibleNullChoice {
+struct UnextensibleNullChoice : Names {
   using AlternativeNames = Names;
 
   uint8_t choiceTag;

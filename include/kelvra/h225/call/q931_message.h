@@ -3,6 +3,7 @@
 
 #include "../../walk.h"
 #include "h323_user_information.h"
+#include "q931_values.h"
 
 namespace kelvra::h225 {
 
@@ -34,11 +35,11 @@ struct Q931MessageRecord {
   uint8_t protocolDiscriminator;
   uint8_t callReferenceLength;
   uint16_t callReferenceValue;  // the flag bit included
-  uint8_t messageType;
+  uint8_t messageType;          // Q931MessageType
   uint8_t calledPartyNumber[33];
   uint8_t callingPartyNumber[33];
   uint8_t reservedBehindNumbers[51];
-  uint8_t causeValue;
+  uint8_t causeValue;  // CauseOf() names it
   uint8_t callState;
   uint8_t dateTime[6];
   uint8_t keypadFacility[34];

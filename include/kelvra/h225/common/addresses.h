@@ -26,6 +26,7 @@ struct TransportAddress {
 
   struct IpSourceRoute {
     struct RoutingNames {
+      enum Alternative : uint32_t;
       static constexpr bool kIsReadAtTheEnd = true;
       static constexpr uint32_t kRoots = 2;
       static constexpr const char* kAlternatives[] = {"strict", "loose"};

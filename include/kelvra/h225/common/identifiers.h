@@ -31,6 +31,7 @@ struct CallIdentifier {
 };
 
 struct CallTypeNames {
+  enum Alternative : uint32_t;
   static constexpr bool kExtensionIndexIsNotKept = true;
   static constexpr uint32_t kRoots = 4;
   static constexpr const char* kAlternatives[] = {"pointToPoint", "oneToN", "nToOne", "nToN"};
@@ -42,6 +43,7 @@ KELVRA_NULL_CHOICE(NullChoice, TransportQOS, 3, "endpointControlled", "gatekeepe
 KELVRA_NULL_CHOICE(NullChoice, UseSpecifiedTransport, 2, "tcp", "annexE");
 
 struct PresentationIndicatorNames {
+  enum Alternative : uint32_t;
   static constexpr bool kExtensionIndexIsNotKept = true;
   static constexpr uint32_t kRoots = 3;
   static constexpr const char* kAlternatives[] = {"presentationAllowed", "presentationRestricted",

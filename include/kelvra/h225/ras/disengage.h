@@ -19,6 +19,7 @@ namespace kelvra::h225 {
 
 // Input that ends with the extension bit counts as exhausted.
 struct DisengageReasonNames {
+  enum Alternative : uint32_t;
   static constexpr bool kEntryCheckFollowsExtensionBit = true;
   static constexpr uint32_t kRoots = 3;
   static constexpr const char* kAlternatives[] = {"forcedDrop", "normalDrop", "undefinedReason"};
@@ -26,6 +27,7 @@ struct DisengageReasonNames {
 using DisengageReason = NullChoice<DisengageReasonNames>;
 
 struct DisengageRejectReasonNames {
+  enum Alternative : uint32_t;
   static constexpr bool kEntryCheckFollowsExtensionBit = true;
   static constexpr uint32_t kRoots = 2;
   static constexpr const char* kAlternatives[] = {"notRegistered", "requestToDropOther", "securityDenial"};

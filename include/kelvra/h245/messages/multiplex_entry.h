@@ -101,16 +101,10 @@ struct MultiplexEntryRejection {
   KELVRA_END
 };
 
-struct MultiplexEntrySendCauseNames {
-  static constexpr uint32_t kRoots = 2;
-  static constexpr const char* kAlternatives[] = {"unspecifiedCause", "descriptorTooComplex"};
-};
+KELVRA_NULL_CHOICE(NullChoice, MultiplexEntrySendCause, 2, "unspecifiedCause", "descriptorTooComplex");
 using MultiplexEntryRejectionDescriptions = MultiplexEntryRejection<MultiplexEntrySendCauseNames>;
 
-struct RequestMultiplexEntryCauseNames {
-  static constexpr uint32_t kRoots = 1;
-  static constexpr const char* kAlternatives[] = {"unspecifiedCause"};
-};
+KELVRA_NULL_CHOICE(NullChoice, RequestMultiplexEntryCause, 1, "unspecifiedCause");
 using RequestMultiplexEntryRejectionDescriptions = MultiplexEntryRejection<RequestMultiplexEntryCauseNames>;
 
 struct MultiplexEntrySendReject {
