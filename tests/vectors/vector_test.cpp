@@ -4,55 +4,15 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
-#include <fstream>
-#include <memory>
-#include <nlohmann/json.hpp>
-#include <stdexcept>
 #include <string>
-#include <vector>
 
 #include "decode/decoded_message.h"
 #include "decode/tree_builder.h"
 #include "formats/json.h"
 #include "kelvra/kelvra.h"
-#include "text/hex.h"
+#include "vectors/vectors.h"
 
 namespace {
-
-using Json = nlohmann::json;
-
-struct Vector {
-  std::string name;
-  std::vector<uint8_t> octets;
-  Json expected;
-};
-
-std::vector<Vector> Load(const std::string& file) {
-  std::ifstream stream(KELVRA_TEST_DATA "/" + file);
-  std::vector<Vector> vectors;
-  for (std::string line; std::getline(stream, line);) {
-    const Json values = Json::parse(line);
-    vectors.push_back({file + ":" + std::to_string(vectors.size() + 1) + " " + values.at("alt").get<std::string>(),
-                       FromHex(values.at("hex").get<std::string>()), values.at("expected")});
-  }
-  if (vectors.empty()) throw std::runtime_error("no messages in " + file);
-  return vectors;
-}
-
-// A heap block of the very size, so that a sanitizer sees a read behind it.
-class ExactBuffer {
- public:
-  ExactBuffer(const std::vector<uint8_t>& octets, size_t spare)
-      : size_(octets.size() + spare), octets_(std::make_unique<uint8_t[]>(size_)) {
-    std::copy(octets.begin(), octets.end(), octets_.get());
-  }
-  const uint8_t* octets() const { return octets_.get(); }
-  uint32_t size() const { return static_cast<uint32_t>(size_); }
-
- private:
-  size_t size_;
-  std::unique_ptr<uint8_t[]> octets_;
-};
 
 // Names every place where the two differ; members may stand in any order.
 void Compare(const Json& expected, const Json& actual, const std::string& path, std::string& differences) {
@@ -97,7 +57,7 @@ void ExpectReadWhole(const Vector& vector, Family family) {
 }
 
 TEST(Vectors, RasMessagesHoldTheirValues) {
-  for (const Vector& vector : Load("ras.jsonl")) {
+  for (const Vector& vector : LoadVectors("ras.jsonl")) {
     const ExactBuffer buffer(vector.octets, 1);
     kelvra::h225::RasMessageRecord record;
     const intptr_t end = KelvraDecodeRASMessage(&record, buffer.octets(), buffer.size());
@@ -109,7 +69,7 @@ TEST(Vectors, RasMessagesHoldTheirValues) {
 }
 
 TEST(Vectors, Q931MessagesHoldTheirValues) {
-  for (const Vector& vector : Load("q931.jsonl")) {
+  for (const Vector& vector : LoadVectors("q931.jsonl")) {
     const ExactBuffer buffer(vector.octets, 0);
     kelvra::h225::Q931MessageRecord record;
     EXPECT_EQ(KelvraDecodeQ931Message(&record, buffer.octets(), static_cast<int32_t>(buffer.size())), 0) << vector.name;
@@ -120,7 +80,7 @@ TEST(Vectors, Q931MessagesHoldTheirValues) {
 }
 
 void ExpectH245(const std::string& file, bool isWhole = true) {
-  for (const Vector& vector : Load(file)) {
+  for (const Vector& vector : LoadVectors(file)) {
     const ExactBuffer buffer(vector.octets, 0);
     kelvra::h245::H245MessageRecord record;
     EXPECT_EQ(KelvraDecodeH245Message(&record, buffer.octets(), buffer.size()), 1) << vector.name;

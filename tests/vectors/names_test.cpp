@@ -1,0 +1,196 @@
+// The names and texts of names.h, alternative.h and text.h, compared with the carried messages.
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <set>
+#include <string>
+#include <type_traits>
+#include <typeindex>
+#include <utility>
+
+#include "kelvra/kelvra.h"
+#include "kelvra/text.h"
+#include "vectors/vectors.h"
+
+namespace {
+
+template <class T>
+concept HasAlternatives = requires(const T& record) {
+  kelvra::AlternativeOf(record);
+};
+template <class T>
+concept HasText = requires(const T& record) {
+  kelvra::TextOf(record);
+};
+
+using NameTable = std::map<std::pair<std::type_index, uint32_t>, std::string>;
+
+// What the ASN.1 calls each enumerator.
+const NameTable& Names() {
+  using namespace kelvra;
+  static const NameTable names = {
+#define LIST_NAME(record, enumerator, name) {{typeid(record), record::enumerator}, name},
+#include "name_list.inc"
+#undef LIST_NAME
+  };
+  return names;
+}
+
+// Goes through a record and the JSON that is expected of it at once.
+class NameCheck : public kelvra::EmptyVisitor {
+ public:
+  explicit NameCheck(std::set<NameTable::key_type>& seen) : seen_(seen) {}
+
+  template <class R>
+  void Check(R& record, const Json& json) {
+    if constexpr (HasAlternatives<R>) {
+      const NameTable::key_type alternative(typeid(R), kelvra::AlternativeOf(record));
+      const auto name = Names().find(alternative);
+      if (name != Names().end()) {
+        ASSERT_TRUE(json.is_object() && json.size() == 1) << json;
+        EXPECT_EQ(json.begin().key(), name->second);
+        EXPECT_STREQ(kelvra::NameOf(record), name->second.c_str());
+        seen_.insert(alternative);
+      }
+    }
+    const Json* outer = std::exchange(json_, &json);
+    R::Walk(record, *this);
+    json_ = outer;
+  }
+
+  template <class R>
+  void Record(const char* name, R& record) {
+    Check(record, name != nullptr ? At(name) : *element_);
+  }
+  template <class R>
+  void Pointer(const char* name, kelvra::Slot<R> slot) {
+    if (slot.Get() != nullptr) Record(name, *slot.Get());
+  }
+  template <class L, class Show>
+  void List(const char* name, L list, Show show) {
+    const Json& array = name != nullptr ? At(name) : *element_;
+    size_t index = 0;
+    for (auto& element : list) {
+      element_ = &array.at(index++);
+      show(element);
+    }
+  }
+  void EnumeratedValue(uint32_t value, const char* identifier) {
+    const auto name = Names().find({typeid(kelvra::h225::ScreeningIndicator), value});
+    ASSERT_NE(name, Names().end());
+    EXPECT_EQ(*json_, identifier);
+    EXPECT_EQ(name->second, identifier);
+    seen_.insert(name->first);
+  }
+
+ private:
+  // A list that is a record of its own has a member without a name.
+  const Json& At(const std::string& name) const { return name.empty() ? *json_ : json_->at(name); }
+
+  std::set<NameTable::key_type>& seen_;
+  const Json* json_ = nullptr;
+  const Json* element_ = nullptr;
+};
+
+struct Ras {
+  using Record = kelvra::h225::RasMessageRecord;
+  static constexpr size_t kSpare = 1;
+  static void Decode(Record& record, const ExactBuffer& buffer) {
+    KelvraDecodeRASMessage(&record, buffer.octets(), buffer.size());
+  }
+  static void Free(Record& record) { KelvraFreeRASMessage(&record); }
+};
+struct Q931 {
+  using Record = kelvra::h225::Q931MessageRecord;
+  static constexpr size_t kSpare = 0;
+  static void Decode(Record& record, const ExactBuffer& buffer) {
+    KelvraDecodeQ931Message(&record, buffer.octets(), static_cast<int32_t>(buffer.size()));
+  }
+  static void Free(Record& record) { KelvraFreeQ931Message(&record); }
+};
+struct H245 {
+  using Record = kelvra::h245::H245MessageRecord;
+  static constexpr size_t kSpare = 0;
+  static void Decode(Record& record, const ExactBuffer& buffer) {
+    KelvraDecodeH245Message(&record, buffer.octets(), buffer.size());
+  }
+  static void Free(Record& record) { KelvraFreeH245Message(&record); }
+};
+
+template <class Family>
+void CheckNames(const std::string& file, std::set<NameTable::key_type>& seen) {
+  const auto record = std::make_unique<typename Family::Record>();
+  for (const Vector& vector : LoadVectors(file)) {
+    SCOPED_TRACE(vector.name);
+    Family::Decode(*record, ExactBuffer(vector.octets, Family::kSpare));
+    NameCheck(seen).Check(*record, vector.expected);
+    Family::Free(*record);
+  }
+}
+
+TEST(Names, AreThoseThatTheDecoderLeadsTo) {
+  std::set<NameTable::key_type> seen;
+  CheckNames<Ras>("ras.jsonl", seen);
+  CheckNames<Q931>("q931.jsonl", seen);
+  CheckNames<H245>("h245.jsonl", seen);
+  CheckNames<H245>("private-h245.jsonl", seen);
+  size_t extensions = 0;
+  for (const auto& [type, alternative] : seen) extensions += alternative >= kelvra::asn1::kFirstExtension ? 1 : 0;
+  // The carried messages hold nearly all of the 1,014 names.
+  EXPECT_GE(seen.size(), 1000U);
+  EXPECT_GE(extensions, 230U);
+}
+
+// Takes every text of a record.
+struct TextVisitor : kelvra::EmptyVisitor {
+  size_t octets = 0;
+
+  void ObjectIdentifier(const char*, const kelvra::ObjectIdentifierValue& value) { Add(kelvra::TextOf(value)); }
+  void WideCharacters(const char*, const kelvra::BMPStringValue& value) { Add(kelvra::TextOf(value)); }
+  void Octets(const char*, kelvra::Slot<uint8_t> slot, uint32_t count, kelvra::OctetNotation notation) {
+    if (notation == kelvra::OctetNotation::kCharacters) Add(kelvra::CharactersOf({count, slot.Get()}));
+    if (notation == kelvra::OctetNotation::kDigits) Add(kelvra::DigitsOf({count, slot.Get()}));
+  }
+  template <class R>
+  void Record(const char*, R& record) {
+    if constexpr (HasText<R>) Add(kelvra::TextOf(record));
+    R::Walk(record, *this);
+  }
+  template <class R>
+  void Pointer(const char* name, kelvra::Slot<R> slot) {
+    if (slot.Get() != nullptr) Record(name, *slot.Get());
+  }
+  template <class L, class Show>
+  void List(const char*, L list, Show show) {
+    for (auto& element : kelvra::ElementsOf(list.Elements().Get(), list.Size())) show(element);
+  }
+  void Add(const std::string& text) { octets += text.size(); }
+};
+
+// Every message, and all that is left of it when it is cut short, before and after the release.
+template <class Family>
+size_t TextOfCutMessages(const std::string& file) {
+  TextVisitor visitor;
+  const auto record = std::make_unique<typename Family::Record>();
+  for (const Vector& vector : LoadVectors(file)) {
+    for (size_t count = 0; count <= vector.octets.size(); ++count) {
+      Family::Decode(*record, ExactBuffer(vector.octets, count, Family::kSpare));
+      visitor.Record(nullptr, *record);
+      Family::Free(*record);
+      const size_t before = visitor.octets;
+      visitor.Record(nullptr, *record);
+      EXPECT_EQ(visitor.octets, before) << vector.name << " shows text after its release";
+    }
+  }
+  return visitor.octets;
+}
+
+TEST(Text, OfCutAndReleasedMessagesStaysWithinTheirBlocks) {
+  EXPECT_GT(TextOfCutMessages<Ras>("ras.jsonl"), 0U);
+  EXPECT_GT(TextOfCutMessages<Q931>("q931.jsonl"), 0U);
+  EXPECT_GT(TextOfCutMessages<H245>("h245.jsonl"), 0U);
+}
+
+}  // namespace
