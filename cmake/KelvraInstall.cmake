@@ -26,6 +26,7 @@ install(FILES ${CMAKE_CURRENT_BINARY_DIR}/kelvra.pc
 if(KELVRA_BUILD_TOOLS)
   install(TARGETS kelvra-dump RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT viewer)
 endif()
+install(FILES docs/records.json DESTINATION ${CMAKE_INSTALL_DATADIR}/kelvra COMPONENT development)
 install(FILES README.md CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development)
 
 # Debian packages, made by cpack; scripts/dist.sh makes everything else.

@@ -5,12 +5,14 @@
 #include <cstdint>
 #include <fstream>
 #include <memory>
+#include <nlohmann/json.hpp>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "text/hex.h"
-#include "text/json.h"
+
+using Json = nlohmann::json;
 
 struct Vector {
   std::string name;
