@@ -6,6 +6,7 @@
 #   header, by VERIFY_INTERFACE_HEADER_SETS.)
 # - They use standard C++ only, but for what they use under a condition on the compiler. Clang itself takes many words
 #   that the Windows compiler does not, also when it compiles for Windows.
+# - kelvra/kelvra_c.h is C99 too, and says so where it stands before kelvra/kelvra.h.
 # - After kelvra/kelvra.h no macro is left defined but those that it documents.
 set -euo pipefail
 export LC_ALL=C
@@ -40,7 +41,7 @@ clang_for() {
     unknown) options=(-ffreestanding -nostdlibinc -isystem "$stand_in" -U__GNUC__ -U__clang__) ;;
     *) options=("--target=$target" -fms-extensions -fms-compatibility -ffreestanding -isystem "$stand_in") ;;
   esac
-  clang++ "${options[@]}" -std=c++20 -I "$root" -x c++ "$@" -
+  clang++ "${options[@]}" -std=c++17 -I "$root" -x c++ "$@" -
 }
 windows=(i686-pc-windows-msvc x86_64-pc-windows-msvc)
 
@@ -57,6 +58,27 @@ for header in "${headers[@]}"; do
       fail "$header does not compile alone for $target"
   done
 done
+
+# --- The header of C ---
+
+c_header=kelvra/kelvra_c.h
+for target in native "${windows[@]}"; do
+  for compiler in clang gcc; do
+    options=()
+    if [[ $target != native ]]; then
+      [[ $compiler == clang ]] || continue
+      options=("--target=$target" -fms-extensions -fms-compatibility -ffreestanding -isystem "$stand_in")
+    fi
+    compilations=$((compilations + 1))
+    include "$c_header" "$c_header" |
+      "$compiler" "${options[@]}" -std=c99 -I "$root" "${warnings[@]}" -fsyntax-only -x c - ||
+      fail "$c_header does not compile as C99 with $compiler for $target"
+  done
+done
+include kelvra/kelvra.h "$c_header" | clang_for native "${warnings[@]}" -fsyntax-only ||
+  fail "$c_header does not compile after kelvra/kelvra.h"
+refusal=$(include "$c_header" kelvra/kelvra.h | clang_for native -fsyntax-only 2>&1) || true
+[[ $refusal == *"include kelvra/kelvra.h before it"* ]] || fail "$c_header is not refused before kelvra/kelvra.h"
 
 # --- Words of one compiler ---
 

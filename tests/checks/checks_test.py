@@ -4,6 +4,7 @@
 LIBRARY is the shared library as shipped, DEF lists its exports.
 """
 import pathlib
+import shutil
 import subprocess
 import sys
 import tempfile
@@ -75,11 +76,14 @@ class GlobalsTest(ChecksTest):
 
 class HeadersTest(ChecksTest):
     MACROS = "#define KELVRA_API\n#define KELVRA_CALL\n"
+    REFUSAL = "#ifdef KELVRA_C_FUNCTIONS\n#error include kelvra/kelvra.h before it\n#endif\n"
+    C_HEADER = "#ifndef KELVRA_API\n#define KELVRA_C_FUNCTIONS\n#endif\n"
 
     def setUp(self):
         super().setUp()
         (self.folder / "kelvra").mkdir()
-        self.write("kelvra/kelvra.h", '#pragma once\n#include "some.h"\n' + self.MACROS)
+        self.write("kelvra/kelvra.h", '#pragma once\n#include "some.h"\n' + self.REFUSAL + self.MACROS)
+        self.write("kelvra/kelvra_c.h", self.C_HEADER)
 
     def assert_header(self, reason, text, guard="#pragma once\n"):
         """That `text` as a header is refused for `reason`, or passes where that is None."""
@@ -144,10 +148,39 @@ class HeadersTest(ChecksTest):
         self.write("kelvra/kelvra.h", "#pragma once\n#define KELVRA_API\n")
         self.assert_refuses("leaves other macros", "check-headers.sh", self.folder)
 
+    def test_a_header_of_c_that_is_not_c99_is_refused(self):
+        self.assert_header(None, "struct A {};")
+        for text in ("enum A : int { kB };", "struct B { int x; union { int y; int z; }; };", "// text"):
+            self.write("kelvra/kelvra_c.h", self.C_HEADER + "#ifndef G\n#define G\n" + text + "\n#endif\n")
+            with self.subTest(text):
+                self.assert_refuses("does not compile as C99", "check-headers.sh", self.folder)
+
+    def test_a_header_of_c_that_stands_before_that_of_cpp_is_refused(self):
+        self.assert_header(None, "struct A {};")
+        self.write("kelvra/kelvra.h", "#pragma once\n" + self.MACROS)
+        self.assert_refuses("is not refused before", "check-headers.sh", self.folder)
+
     def test_no_header_is_refused(self):
         for header in (self.folder / "kelvra").iterdir():
             header.unlink()
         self.assert_refuses("no public header found", "check-headers.sh", self.folder)
+
+
+class RecordsTest(ChecksTest):
+    def test_made_files_that_differ_from_the_headers_are_refused(self):
+        for folder in ("include", "docs", "scripts"):
+            shutil.copytree(SCRIPTS.parent / folder, self.folder / folder, ignore=shutil.ignore_patterns("__pycache__"))
+        made = [self.folder / name for name in ("docs/records.md", "docs/records.json", "include/kelvra/names.h",
+                                                "include/kelvra/kelvra_c.h")]
+        for path, (before, after) in zip(made, (("| 0 | 1 |", "| 1 | 1 |"), ('"offset64": 0', '"offset64": 1'),
+                                                ("kUrlID = 0x10000", "kUrlID = 0"), ("_URL_ID = 0", "_URL_ID = 1"))):
+            text = path.read_text()
+            self.assertIn(before, text)
+            path.write_text(text.replace(before, after, 1))
+        run = subprocess.run([self.folder / "scripts" / "records.py", "check"], capture_output=True, text=True)
+        self.assertEqual(run.returncode, 1)
+        for path in made:
+            self.assertIn(f"the headers differ from {path.relative_to(self.folder)};", run.stderr)
 
 
 if __name__ == "__main__":
