@@ -6,7 +6,7 @@ SHELL := bash
 
 BUILD := build/linux-x64
 DUMP := $(BUILD)/bin/kelvra-dump
-CXX_FILES = $(shell find include src tools tests fuzz bench -name '*.cpp' -o -name '*.h')
+CXX_FILES = $(shell find include src tools tests fuzz bench examples -name '*.cpp' -o -name '*.h')
 
 .PHONY: all demo test dist fuzz records digests format lint bench bench-check bench-baseline clean
 

@@ -77,7 +77,7 @@ class GlobalsTest(ChecksTest):
 class HeadersTest(ChecksTest):
     MACROS = "#define KELVRA_API\n#define KELVRA_CALL\n"
     REFUSAL = "#ifdef KELVRA_C_FUNCTIONS\n#error include kelvra/kelvra.h before it\n#endif\n"
-    C_HEADER = "#ifndef KELVRA_API\n#define KELVRA_C_FUNCTIONS\n#endif\n"
+    C_HEADER = "#ifndef KELVRA_API\n#define KELVRA_C_FUNCTIONS\n#endif\nextern int kelvra_c;\n"
 
     def setUp(self):
         super().setUp()
