@@ -12,13 +12,13 @@
 set -euo pipefail
 
 demo_packages=(
-  cmake ninja-build make g++ pkg-config
-  libcli11-dev nlohmann-json3-dev libpcap-dev libtins-dev
+  cmake ninja-build make g++
+  libcli11-dev nlohmann-json3-dev zlib1g-dev
 )
 test_packages=(
-  googletest binutils clang libclang-rt-14-dev python3 valgrind
-  g++-multilib
-  g++-mingw-w64-i686-posix g++-mingw-w64-x86-64-posix
+  googletest pkg-config binutils clang libclang-rt-14-dev python3 valgrind
+  g++-multilib lib32z1-dev
+  g++-mingw-w64-i686-posix g++-mingw-w64-x86-64-posix libz-mingw-w64-dev
   dpkg-dev lld llvm unzip zip
 )
 bench_packages=(cmake ninja-build make g++ libbenchmark-dev valgrind python3)

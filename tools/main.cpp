@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
+#include <memory>
 
 #include "console.h"
 #include "decode/decoded_message.h"
@@ -39,7 +40,8 @@ std::unique_ptr<CallFormatter> MakeCallFormatter(const Options& options) {
 std::unique_ptr<Formatter> MakeFormatter(const Options& options) {
   if (options.format == Format::kStatistics) return MakeStatistics(options.filter);
   if (auto calls = MakeCallFormatter(options)) {
-    const CallOrder order = IsRegularFile(options.file) ? CallOrder::kByBeginning : CallOrder::kByEnd;
+    const bool ends = std::all_of(options.files.begin(), options.files.end(), IsRegularFile);
+    const CallOrder order = ends ? CallOrder::kByBeginning : CallOrder::kByEnd;
     return MakeCallReport(std::move(calls), options.filter, order);
   }
   auto messages = MakeMessageFormatter(options.format, options.formatting);
@@ -48,14 +50,26 @@ std::unique_ptr<Formatter> MakeFormatter(const Options& options) {
 
 class Printer : public MessageSink {
  public:
-  Printer(std::unique_ptr<Formatter> formatter, bool flushes) : formatter_(std::move(formatter)), flushes_(flushes) {}
+  // `names_inputs`: each message is shown with the file that it comes from.
+  Printer(std::unique_ptr<Formatter> formatter, bool flushes, bool names_inputs)
+      : formatter_(std::move(formatter)), flushes_(flushes), names_inputs_(names_inputs) {}
+
+  void OnInput(const std::string& name) override { input_ = std::make_shared<const std::string>(name); }
+  // A program that waits for each message before it goes on gets it at once.
+  void FlushEachMessage() { flushes_ = true; }
 
   std::vector<Announced> OnMessage(const Message& message) override {
     any_ = true;
     const DecodedMessage decoded = DecodeMessage(message.family, message.octets);
     all_complete_ = all_complete_ && AreComplete(decoded);
     text_.clear();
-    formatter_->Print(message, decoded, text_);
+    if (names_inputs_) {
+      Message named = message;
+      named.file = input_;
+      formatter_->Print(named, decoded, text_);
+    } else {
+      formatter_->Print(message, decoded, text_);
+    }
     Write();
     return message.origin ? AnnouncedBy(decoded) : std::vector<Announced>();
   }
@@ -103,6 +117,8 @@ class Printer : public MessageSink {
 
   std::unique_ptr<Formatter> formatter_;
   bool flushes_;
+  bool names_inputs_;
+  std::shared_ptr<const std::string> input_;
   std::string text_;
   bool all_complete_ = true;
   bool any_ = false;
@@ -122,26 +138,47 @@ Family RequiredFamily(const Options& options) {
   return *options.family;
 }
 
-void Run(const Options& options, Printer& printer) {
-  ByteSource source(options.file);
+// Returns whether the file is a capture.
+bool RunFile(const std::string& file, const Options& options, CaptureReader& captures, Printer& printer) {
+  ByteSource source(file);
+  printer.OnInput(source.Name());
+  if (!source.IsRegularFile()) printer.FlushEachMessage();
   const auto input = options.input == InputKind::kAuto ? DetectInput(source) : options.input;
-  if (input == InputKind::kHex) return ReadHexLines(source, RequiredFamily(options), printer);
-  if (input == InputKind::kRaw) return ReadRaw(source, RequiredFamily(options), printer);
+  if (input == InputKind::kHex || input == InputKind::kRaw) {
+    const auto read = input == InputKind::kHex ? ReadHexText : ReadRaw;
+    read(source, RequiredFamily(options), printer);
+    return false;
+  }
   if (options.family) {
     throw std::runtime_error(
         "--as does not go with a capture, whose ports tell the families; see the "
         "options --ras-port, --call-port and --h245-port");
   }
-  ReadCapture(source, options.ports, printer);
-  if (!printer.Any()) Complain("no message found; see --ras-port, --call-port and --h245-port");
+  captures.Read(source);
+  return true;
+}
+
+void Run(const Options& options, Printer& printer) {
+  CaptureReader captures(options.ports, printer);
+  bool any_capture = false;
+  try {
+    for (const std::string& file : options.files) {
+      any_capture = RunFile(file, options, captures, printer) || any_capture;
+    }
+  } catch (const InputError&) {
+    captures.Close();  // what was read is shown
+    throw;
+  }
+  captures.Close();
+  if (any_capture && !printer.Any()) Complain("no message found; see --ras-port, --call-port and --h245-port");
 }
 
 int RunProgram(int count, char** arguments) {
   Options options;
   if (const auto status = ParseOptions(count, arguments, options)) return *status;
   options.formatting.isColored = WantsColor(options.color);
-  const bool flushes = options.flushesLines || OutputIsTerminal() || !IsRegularFile(options.file);
-  Printer printer(MakeFormatter(options), flushes);
+  const bool flushes = options.flushesLines || OutputIsTerminal();
+  Printer printer(MakeFormatter(options), flushes, options.files.size() > 1);
   Run(options, printer);
   printer.Finish();
   return printer.AllComplete() ? kAllComplete : kSomeIncomplete;

@@ -9,7 +9,9 @@ namespace {
 
 constexpr const char* kFooter =
     "Hexadecimal text holds one message a line; blanks and colons may stand between the octets, and\n"
-    "'#' starts a comment. Raw input is one message. A call-signalling message starts with its TPKT\n"
+    "'#' starts a comment. Dumps with offsets (xxd, hexdump -C, packet tools) and arrays of C are read\n"
+    "too, one message for each. Input that gzip has compressed is unpacked. Raw input is one message. A "
+    "call-signalling message starts with its TPKT\n"
     "header, an H.245 message does not. In a capture the ports tell the families; H.245\n"
     "connections are found by the h245Address of call signalling.\n"
     "\n"
@@ -84,7 +86,7 @@ std::optional<int> ParseOptions(int count, char** arguments, Options& options) {
   app.set_version_flag("--version", "kelvra-dump " KELVRA_VERSION);
   // A path may start with '/' under Wine and the like.
   app.allow_windows_style_options(false);
-  app.add_option("FILE", options.file, "what to read; - or nothing: standard input");
+  app.add_option("FILE", options.files, "what to read, one after the other; - or nothing: standard input");
   AddKeyword(app, "--input", kInputs, options.input, "what the input is (auto: told by its first octets)");
   AddKeyword(app, "--as", kFamilies, options.family, "the family of hexadecimal or raw messages, which no port tells");
   AddKeyword(app, "--format", kFormats, options.format,
@@ -112,5 +114,6 @@ std::optional<int> ParseOptions(int count, char** arguments, Options& options) {
   } catch (const CLI::ParseError& error) {
     return app.exit(error) == 0 ? kAllComplete : kUnusable;
   }
+  if (options.files.empty()) options.files = {"-"};
   return std::nullopt;
 }

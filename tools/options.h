@@ -3,6 +3,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "calls/filter.h"
 #include "formats/formats.h"
@@ -12,7 +13,7 @@
 enum class ColorChoice : uint8_t { kAuto, kAlways, kNever };
 
 struct Options {
-  std::string file = "-";
+  std::vector<std::string> files;  // at least one
   InputKind input = InputKind::kAuto;
   Format format = Format::kSummary;
   FormatOptions formatting;

@@ -7,8 +7,8 @@ import struct
 import sys
 import unittest
 
-from viewer_test import (CHANNEL_ACK, DATA, GATEKEEPER_CONFIRM, READS_CAPTURES, RELEASE_COMPLETE, SAMPLE, SYN, capture,
-                         ethernet, ipv4, ipv6, objects, run, segments, tcp, tpkt, udp)
+from viewer_test import (CHANNEL_ACK, DATA, GATEKEEPER_CONFIRM, RELEASE_COMPLETE, SAMPLE, SYN, capture, ethernet, ipv4,
+                         ipv6, objects, run, segments, tcp, tpkt, udp)
 
 RAS = bytes.fromhex(GATEKEEPER_CONFIRM)
 CALL = bytes.fromhex(RELEASE_COMPLETE)
@@ -28,13 +28,6 @@ def capture_at(*timed):
     return struct.pack("<IHHIIII", 0xA1B2C3D4, 2, 4, 0, 0, 65535, 1) + b"".join(records)
 
 
-@unittest.skipIf(READS_CAPTURES, "reads captures")
-class WithoutCaptures(unittest.TestCase):
-    def test_capture_is_refused(self):
-        self.assertEqual(run(data=SAMPLE).returncode, 2)
-
-
-@unittest.skipUnless(READS_CAPTURES, "reads no captures")
 class Captures(unittest.TestCase):
     def names(self, data, *arguments, status=0):
         result = run("--format", "json", *arguments, "-", data=data)

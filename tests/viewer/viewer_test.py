@@ -12,8 +12,6 @@ import unittest
 
 COMMAND = [*sys.argv[2:], sys.argv[1]]
 EMULATED = len(sys.argv) > 2
-# As the viewer was configured, which its build may not have heeded.
-READS_CAPTURES = os.environ.get("KELVRA_CAPTURE", "ON") == "ON"
 TOP = os.path.dirname(os.path.dirname(os.path.dirname(os.path.abspath(__file__))))
 with open(os.path.join(TOP, "samples", "call.pcap"), "rb") as sample:
     SAMPLE = sample.read()

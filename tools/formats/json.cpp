@@ -139,6 +139,7 @@ class JsonFormatter : public Formatter {
  public:
   void Print(const Message& message, const DecodedMessage& decoded, std::string& text) override {
     ObjectWriter line(text);
+    if (message.file) line.Text("file", *message.file);
     if (const auto& origin = message.origin) {
       line.Number("frame", static_cast<int64_t>(origin->frame));
       line.Text("time", IsoTime(origin->microseconds));

@@ -16,6 +16,7 @@ class SummaryFormatter : public Formatter {
     if (message.origin) AppendDate(message.origin->microseconds, text);
     const size_t start = text.size();
     ++count_;
+    if (message.file) text += Printable(*message.file) + ": ";
     number_.AppendRight(text, std::to_string(message.origin ? message.origin->frame : count_));
     text += "  ";
     if (message.origin) AppendOrigin(*message.origin, text);

@@ -42,6 +42,7 @@ class TreeFormatter : public Formatter {
   void PrintHeader(const Message& message, const DecodedMessage& decoded) {
     std::string& text = *text_;
     ++count_;
+    if (message.file) text += Printable(*message.file) + ": ";
     if (const auto& origin = message.origin) {
       text += "frame ";
       AppendNumber(text, static_cast<int64_t>(origin->frame));

@@ -1,38 +1,65 @@
-// A file or standard input, read once from front to end.
+// A file or standard input, read once from front to end, as its octets come.
 #pragma once
 
 #include <cstdint>
-#include <cstdio>
 #include <memory>
 #include <span>
 #include <string>
 #include <vector>
 
+class Gunzip;
+
+// Where gzip has compressed the octets, they are those that it compressed.
 class ByteSource {
  public:
   // "-" names standard input. Throws InputError.
   explicit ByteSource(const std::string& path);
+  ~ByteSource();
+  ByteSource(const ByteSource&) = delete;
+  ByteSource& operator=(const ByteSource&) = delete;
 
-  // The next octets without consuming them, fewer than `count` only at the end.
-  std::span<const uint8_t> Peek(size_t count);
-  // Fewer than `count` only at the end. Throws InputError.
+  // Each of these waits for as many octets as it needs and no more, and throws InputError.
+
+  // The next octets without consuming them: all that have come, fewer than `least` only at the end.
+  std::span<const uint8_t> Peek(size_t least);
+  // The same up to a line feed, the end, or `most` octets.
+  std::span<const uint8_t> PeekLine(size_t most);
+  // Fewer than `count` only at the end.
   size_t Read(uint8_t* to, size_t count);
-  // The next line without its line feed; false at the end. Throws InputError for a line of more
-  // than `limit` characters.
+  // Whether there were as many.
+  bool Skip(uint64_t count);
+  // The next line without its line feed; false at the end. A line of more than `limit` characters is an InputError.
   bool ReadLine(std::string& line, size_t limit);
 
   const std::string& Name() const { return name_; }
+  // Else its octets come when another program writes them.
+  bool IsRegularFile() const { return file_.IsRegular(); }
 
  private:
-  struct Close {
-    void operator()(std::FILE* file) const;
+  class File {
+   public:
+    explicit File(const std::string& path);
+    ~File();
+    File(const File&) = delete;
+    File& operator=(const File&) = delete;
+    // At least one octet unless the file is at its end; negative after an error.
+    int Read(std::span<uint8_t> to) const;
+    bool IsRegular() const;
+
+   private:
+    int descriptor_;
   };
 
-  size_t ReadFile(uint8_t* to, size_t count);
-  int NextOctet();
+  std::span<const uint8_t> Held() const { return std::span(buffer_).subspan(begin_, end_ - begin_); }
+  // Holds more octets than before; false at the end.
+  bool Fill();
+  size_t ReadFile(std::span<uint8_t> to);
+  size_t ReadContent(std::span<uint8_t> to);
 
   std::string name_;
-  std::unique_ptr<std::FILE, Close> file_;
-  std::vector<uint8_t> peeked_;
-  size_t peeked_used_ = 0;
+  File file_;
+  std::unique_ptr<Gunzip> gunzip_;  // where the file is compressed
+  std::vector<uint8_t> buffer_;
+  size_t begin_ = 0;
+  size_t end_ = 0;
 };

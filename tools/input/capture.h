@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <set>
 
 #include "input/byte_source.h"
@@ -10,10 +11,26 @@
 struct CapturePorts {
   std::set<uint16_t> ras;              // UDP
   std::set<uint16_t> call_signalling;  // TCP
-  std::set<uint16_t> h245;             // TCP, beside the addresses that are announced
+  std::set<uint16_t> h245;             // TCP, besides the addresses that are announced
 
   bool AreRas(uint16_t source, uint16_t destination) const { return ras.contains(source) || ras.contains(destination); }
 };
 
-// Throws InputError, also after messages, when the capture cannot be read on.
-void ReadCapture(ByteSource& source, const CapturePorts& ports, MessageSink& sink);
+// Captures that follow each other, as programs write that begin a new file from time to time: connections go on in the
+// next.
+class CaptureReader {
+ public:
+  CaptureReader(const CapturePorts& ports, MessageSink& sink);
+  ~CaptureReader();
+  CaptureReader(const CaptureReader&) = delete;
+  CaptureReader& operator=(const CaptureReader&) = delete;
+
+  // Frames are counted anew. Throws InputError, also after messages, when the capture cannot be read on.
+  void Read(ByteSource& source);
+  // Delivers what waits for more, and reports what was lost.
+  void Close();
+
+ private:
+  class Distributor;
+  std::unique_ptr<Distributor> distributor_;
+};

@@ -2,7 +2,11 @@
 
 #include <algorithm>
 #include <array>
+#include <string>
+#include <string_view>
+#include <utility>
 
+#include "input/hex_text.h"
 #include "text/hex.h"
 
 namespace {
@@ -27,45 +31,59 @@ bool IsCapture(std::span<const uint8_t> start) {
 
 // Text that is mostly hexadecimal: the rest are mistakes, of which the reader can name the line. Comments may hold
 // any octets.
-bool IsHexLines(std::span<const uint8_t> start) {
-  bool comment = false;
+bool IsMostlyHex(std::string_view text) {
   size_t fitting = 0;
   size_t others = 0;
-  for (const uint8_t octet : start) {
-    const char character = static_cast<char>(octet);
-    if (character == '\n') {
-      comment = false;
-    } else if (character == '#') {
-      comment = true;
-    } else if (!comment && IsHexText(character)) {
-      ++fitting;
-    } else if (!comment) {
-      if (octet < ' ' || octet > '~') return false;
-      ++others;
-    }
+  while (!text.empty()) {
+    const std::string_view line = text.substr(0, text.find('\n'));
+    for (const char character : line.substr(0, line.find('#'))) ++(IsHexText(character) ? fitting : others);
+    text.remove_prefix(std::min(text.size(), line.size() + 1));
   }
   return others == 0 || others < fitting;
+}
+
+bool HasDumpOrArray(std::string_view text) {
+  bool has_array = false;
+  while (!text.empty()) {
+    const std::string_view line = text.substr(0, text.find('\n'));
+    if (StartsDump(line)) return true;
+    has_array = has_array || StartsArray(line);
+    text.remove_prefix(std::min(text.size(), line.size() + 1));
+  }
+  return has_array;
+}
+
+bool IsText(std::string_view text) {
+  bool comment = false;
+  return std::all_of(text.begin(), text.end(), [&comment](char character) {
+    comment = character != '\n' && (comment || character == '#');
+    return comment || IsHexText(character) || (character >= ' ' && character <= '~');
+  });
+}
+
+bool IsHexadecimal(std::span<const uint8_t> start) {
+  const std::string text(start.begin(), start.end());
+  return IsText(text) && (IsMostlyHex(text) || HasDumpOrArray(text));
 }
 
 }  // namespace
 
 InputKind DetectInput(ByteSource& source) {
-  const auto start = source.Peek(kDetectionOctets);
-  if (start.empty()) throw InputError(source.Name() + ": the input is empty");
-  if (IsCapture(start)) return InputKind::kCapture;
-  return IsHexLines(start) ? InputKind::kHex : InputKind::kRaw;
+  const auto magic = source.Peek(kCaptureMagics.front().size());
+  if (magic.empty()) throw InputError(source.Name() + ": the input is empty");
+  if (IsCapture(magic)) return InputKind::kCapture;
+  return IsHexadecimal(source.PeekLine(kDetectionOctets)) ? InputKind::kHex : InputKind::kRaw;
 }
 
-void ReadHexLines(ByteSource& source, Family family, MessageSink& sink) {
-  std::string line;
-  for (uint64_t number = 1; source.ReadLine(line, kLongestLine); ++number) {
-    Message message{family, {}, std::nullopt};
-    try {
-      message.octets = FromHex(std::string_view(line).substr(0, line.find('#')));
-    } catch (const std::invalid_argument& error) {
-      throw InputError(source.Name() + ": line " + std::to_string(number) + ": " + error.what());
-    }
-    if (!message.octets.empty()) sink.OnMessage(message);
+void ReadHexText(ByteSource& source, Family family, MessageSink& sink) {
+  HexText text([family, &sink](std::vector<uint8_t>&& octets) { sink.OnMessage({family, std::move(octets), {}}); });
+  uint64_t number = 1;
+  try {
+    std::string line;
+    for (; source.ReadLine(line, kLongestLine); ++number) text.OnLine(line);
+    text.OnEnd();
+  } catch (const std::invalid_argument& error) {
+    throw InputError(source.Name() + ": line " + std::to_string(number) + ": " + error.what());
   }
 }
 

@@ -11,8 +11,8 @@ enum class InputKind : uint8_t { kAuto, kCapture, kHex, kRaw };
 // What the first octets show the input to be. Throws InputError when there are none.
 InputKind DetectInput(ByteSource& source);
 
-// One message a line; '#' starts a comment.
-void ReadHexLines(ByteSource& source, Family family, MessageSink& sink);
+// A line for each message, dumps with offsets, or arrays of C; see HexText.
+void ReadHexText(ByteSource& source, Family family, MessageSink& sink);
 
 // The whole input is one message.
 void ReadRaw(ByteSource& source, Family family, MessageSink& sink);

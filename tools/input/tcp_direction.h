@@ -1,35 +1,35 @@
 // One direction of a TCP connection that carries TPKT packets.
 #pragma once
 
-#include <tins/tcp.h>
-#include <tins/tcp_ip/flow.h>
-
+#include "input/packet.h"
+#include "input/tcp_order.h"
 #include "input/tpkt.h"
 #include "message.h"
 
 class TcpDirection {
  public:
-  // `first` is the first segment seen of the direction, or of its opposite, which then tells by its
-  // acknowledgement where this direction stands.
-  TcpDirection(Family family, const Tins::TCP& first, bool opposite, MessageSink& sink);
+  // `first` is the first segment seen of the direction, or of its opposite, whose acknowledgement shows where this
+  // direction stands.
+  TcpDirection(Family family, const TcpSegment& first, bool opposite, MessageSink& sink);
 
-  // Takes the segment's payload away.
-  void OnSegment(Tins::TCP& segment, const Origin& origin);
+  void OnSegment(const TcpSegment& segment, const Origin& origin);
   // Delivers what waits for segments that were never captured.
   void Close();
 
   // Whether the segment belongs to another connection between the same ports.
-  bool IsNewConnection(const Tins::TCP& segment) const;
+  bool IsNewConnection(const TcpSegment& segment) const;
   size_t HeldOctets() const;
 
  private:
+  // The opening came after a segment from the middle of the connection's first packet.
+  bool IsLateOpening(const TcpSegment& segment) const;
   void Deliver();
   void Emit(std::vector<uint8_t>&& packet);
   void LoseStep();
   // Gives up on segments that others wait for.
   void PassGap();
   bool GapIsOld();
-  bool ResumeBehindGap();
+  bool ResumeAfterGap();
   void Stop();
   void Complain(const std::string& what);
 
@@ -38,7 +38,7 @@ class TcpDirection {
   TpktFramer framer_;
   bool joined_;  // its beginning was not captured
   uint32_t start_;
-  Tins::TCPIP::Flow flow_;
+  TcpOrder order_;
   Origin origin_;
   int64_t gap_since_ = 0;  // 0: no gap
   bool seeking_;           // until a segment starts as a packet does

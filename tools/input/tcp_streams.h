@@ -5,11 +5,10 @@
 #include <list>
 #include <map>
 #include <optional>
-#include <set>
 #include <utility>
 
 #include "input/capture.h"
-#include "input/capture_direction.h"
+#include "input/tcp_direction.h"
 
 // Passes messages on and keeps the addresses that they announce.
 class AnnouncedAddresses : public MessageSink {
@@ -18,21 +17,31 @@ class AnnouncedAddresses : public MessageSink {
 
   std::vector<Announced> OnMessage(const Message& message) override;
   void OnLoss(const std::string& what) override { sink_.OnLoss(what); }
-  // What a connection with this address carries, as far as messages announced it.
-  std::optional<Family> FamilyOf(const Endpoint& endpoint) const;
+
+  struct Use {
+    Family family = Family::kH245;
+    uint64_t segments = 0;  // with payload
+    bool recognised = false;
+  };
+  // How connections with this address were announced and used; null where it was not.
+  Use* Find(const Endpoint& endpoint);
+  // Reports the addresses at which there were segments and no message.
+  void Close();
 
  private:
   MessageSink& sink_;
-  std::map<Endpoint, Family> known_;
+  std::map<Endpoint, Use> known_;
   std::deque<Endpoint> oldest_first_;
 };
 
 class TcpStreams {
  public:
-  TcpStreams(const CapturePorts& ports, MessageSink& sink) : ports_(ports), addresses_(sink) {}
+  TcpStreams(const CapturePorts& ports, MessageSink& sink) : ports_(ports), sink_(sink), addresses_(sink) {}
 
+  // Hands on a message that came otherwise, whose addresses are heeded too.
+  void OnMessage(const Message& message) { addresses_.OnMessage(message); }
   // Returns whether the connection carries signalling.
-  bool OnSegment(Tins::TCP& segment, const Origin& origin);
+  bool OnSegment(const TcpSegment& segment, const Origin& origin);
   void Close();
 
  private:
@@ -41,15 +50,19 @@ class TcpStreams {
     Key key;
     TcpDirection direction;
     size_t held;
+    bool awaits_answer;  // its connection was opened here
   };
   using Entries = std::list<Entry>;
 
-  std::optional<Family> FamilyOf(const Origin& origin) const;
-  void Join(const Key& key, Family family, const Tins::TCP& segment, bool opposite);
+  std::optional<Family> FamilyOf(const Origin& origin);
+  void CountSegment(const TcpSegment& segment, const Origin& origin);
+  void OnAnswer(const TcpSegment& segment, const Origin& origin);
+  void Join(const Key& key, Family family, const TcpSegment& segment, bool opposite);
   void Remove(Entries::iterator entry);
   void KeepBounds();
 
   const CapturePorts& ports_;
+  MessageSink& sink_;
   AnnouncedAddresses addresses_;
   Entries entries_;  // least recently used first
   std::map<Key, Entries::iterator> index_;

@@ -1,0 +1,52 @@
+// The IP packets of a capture that come in fragments (RFC 791, 3.2; RFC 8200, 4.5).
+#pragma once
+
+#include <cstdint>
+#include <list>
+#include <map>
+#include <optional>
+#include <span>
+#include <vector>
+
+#include "input/capture.h"
+
+struct Fragment {
+  Endpoint source;  // without ports
+  Endpoint destination;
+  uint32_t identification = 0;
+  uint8_t protocol = 0;
+  uint32_t offset = 0;  // in octets
+  bool more = false;    // follow
+  std::span<const uint8_t> octets;
+};
+
+class FragmentedPackets {
+ public:
+  explicit FragmentedPackets(const CapturePorts& ports) : ports_(ports) {}
+
+  // The whole payload, with the last of its fragments.
+  std::optional<std::vector<uint8_t>> Join(const Fragment& fragment);
+  // How many packets that may hold RAS lack a fragment; streams report the gaps of TCP.
+  uint64_t Incomplete() const;
+
+ private:
+  struct Packet {
+    Fragment first_seen;  // its octets are in `parts`
+    std::map<uint32_t, std::vector<uint8_t>> parts;
+    std::optional<uint32_t> end;
+    size_t fragments = 0;
+    bool may_hold_ras = true;
+  };
+  using Packets = std::list<Packet>;
+
+  Packets::iterator Find(const Fragment& fragment);
+  static std::optional<std::vector<uint8_t>> Whole(const Packet& packet);
+  void Forget(Packets::iterator packet);
+  void KeepBounds();
+  bool MayHoldRas(const Fragment& fragment) const;
+
+  const CapturePorts& ports_;
+  Packets waiting_;       // longest first
+  size_t fragments_ = 0;  // of all that wait
+  uint64_t given_up_ = 0;
+};
