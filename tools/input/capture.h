@@ -16,8 +16,8 @@ struct CapturePorts {
   bool AreRas(uint16_t source, uint16_t destination) const { return ras.contains(source) || ras.contains(destination); }
 };
 
-// Captures that follow each other, as programs write that begin a new file from time to time: connections go on in the
-// next.
+// Captures one after the other. Programs begin a new file from time to time, so connections go on in the next, unless
+// its time shows that it is another capture.
 class CaptureReader {
  public:
   CaptureReader(const CapturePorts& ports, MessageSink& sink);

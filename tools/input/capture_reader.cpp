@@ -26,6 +26,8 @@ class CaptureReader::Distributor {
 
   void StartFile() { origin_.frame = 0; }
   void OnPacket(const CapturedPacket& packet) {
+    // A file that goes back in time does not go on where the one before it ended.
+    if (origin_.frame == 0 && packet.microseconds < origin_.microseconds) streams_.CloseAll();
     origin_.frame += 1;
     origin_.microseconds = packet.microseconds;
     const bool may_be_signalling = Take(packets_.Read(packet.link_type, packet.octets));

@@ -95,7 +95,7 @@ bool StartsDump(std::string_view line) {
 bool StartsArray(std::string_view line) {
   line = Trimmed(WithoutHashComment(line));
   if (line.find("\\x") != std::string_view::npos || line.find('{') != std::string_view::npos) return true;
-  return line.starts_with("0x") || line.starts_with("/*") || line.starts_with("//");
+  return line.ends_with('=') || line.starts_with("0x") || line.starts_with("/*") || line.starts_with("//");
 }
 
 void HexText::OnLine(std::string_view line) {

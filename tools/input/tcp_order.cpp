@@ -27,7 +27,8 @@ void TcpOrder::Add(uint32_t sequence, std::span<const uint8_t> payload) {
 void TcpOrder::Deliver(int64_t position, std::span<const uint8_t> payload) {
   const auto end = position + static_cast<int64_t>(payload.size());
   if (end <= next_) return;
-  ready_.insert(ready_.end(), payload.begin() + (next_ - position), payload.end());
+  const auto fresh = payload.subspan(static_cast<size_t>(next_ - position));
+  ready_.insert(ready_.end(), fresh.begin(), fresh.end());
   next_ = end;
 }
 

@@ -117,7 +117,11 @@ void TcpStreams::KeepBounds() {
   while (entries_.size() > kMostDirections || held_ > kMostHeldOctets) Remove(entries_.begin());
 }
 
-void TcpStreams::Close() {
+void TcpStreams::CloseAll() {
   while (!entries_.empty()) Remove(entries_.begin());
+}
+
+void TcpStreams::Close() {
+  CloseAll();
   addresses_.Close();
 }

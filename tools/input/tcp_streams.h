@@ -42,6 +42,9 @@ class TcpStreams {
   void OnMessage(const Message& message) { addresses_.OnMessage(message); }
   // Returns whether the connection carries signalling.
   bool OnSegment(const TcpSegment& segment, const Origin& origin);
+  // Ends the connections at hand.
+  void CloseAll();
+  // The same, and reports on announced addresses.
   void Close();
 
  private:
