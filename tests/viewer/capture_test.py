@@ -286,5 +286,212 @@ class Captures(unittest.TestCase):
                                   r" +\+ H\.245  userInput +input \"12#\"\n")
 
 
+    def test_one_octet_that_the_capture_lacks_is_noticed(self):
+        frame = ethernet(ipv4(17, udp(RAS)))
+        result = run("-", data=capture([frame], longest=len(frame) - 1))
+        self.assertIn(b"cut off by the capture: 1\n", result.stderr)
+
+    def test_shortest_packets(self):
+        for port, shortest in ((1720, 7), (5002, 5)):
+            packet = b"\x03\0\0" + bytes([shortest]) + bytes(shortest - 4)
+            data = capture([ethernet(ipv4(6, tcp(0, b"", SYN, port))), ethernet(ipv4(6, tcp(1, packet, DATA, port)))])
+            result = run("--format", "json", "--h245-port", "5002", data=data)
+            self.assertEqual((len(objects(result)), b"out of step" in result.stderr), (1, False), port)
+
+    def test_late_opening_after_the_middle_of_a_packet(self):
+        for pieces in (((21, CALL[20:]), (0, b"", SYN), (1, CALL[:20])),
+                       ((41, CALL[40:]), (21, CALL[20:40]), (0, b"", SYN), (1, CALL[:20])),
+                       ((21, CALL[20:]), (0, CALL[:20], SYN))):
+            self.assertEqual(self.names(segments(*pieces)), ["releaseComplete"], pieces)
+
+    def test_gap_is_passed_when_much_waits(self):
+        ras = ethernet(ipv4(17, udp(RAS)))
+
+        def order(count, size):
+            """Whether so many segments after a gap bring it to its end before a RAS message comes."""
+            waiting = [ethernet(ipv4(6, tcp(200 + i * size, (CALL + bytes(size))[:size]))) for i in range(count)]
+            frames = [ethernet(ipv4(6, tcp(0, b"", SYN))), *waiting, ras]
+            return objects(run("--format", "json", data=capture(frames)))[0]["family"] == "q931"
+        self.assertEqual([order(n, 60) for n in (256, 257)], [False, True])
+        self.assertEqual([order(n, 32_000) for n in (4, 5)], [False, True])
+
+    def test_each_gap_has_its_minute(self):
+        def call(sequence):
+            return ethernet(ipv4(6, tcp(sequence, CALL)))
+        data = capture_at((1000, call(1)), (1001, call(103)), (1050, call(52)), (1062, call(205)), (1070, call(154)))
+        self.assertEqual(self.names(data), ["releaseComplete"] * 5)
+
+    def test_ports_used_again_without_an_opening(self):
+        for first, second in ((1, 0x40000000), (0x40000000, 1)):
+            data = segments((first, CALL[:20]), (second, CALL))
+            self.assertEqual(self.names(data, status=1), ["releaseComplete"])
+        # A reset may have any number and brings nothing.
+        data = segments((1, CALL[:20]), (0x40000000, b"", 0x04), (21, CALL[20:]))
+        self.assertEqual(self.names(data), ["releaseComplete"])
+
+    def test_fragment_that_shows_another_port_counts_for_the_whole_packet(self):
+        datagram = udp(bytes(64), 5004)
+        frames = [ethernet(ipv4(17, datagram[:16], 7, 0x2000)), ethernet(ipv4(17, datagram[16:32], 7, 0x2002)),
+                  ethernet(ipv4(17, udp(RAS)))]
+        self.assertEqual(self.names(capture(frames)), ["gatekeeperConfirm"])
+
+    def test_fragments_that_overlap_or_come_twice(self):
+        datagram, more = udp(RAS), 0x2000
+        begin, middle, end = ((datagram[:16], more), (datagram[8:24], more | 1), (datagram[16:], 2))
+        for order in ((begin, middle, end), (end, middle, begin), (begin, begin, end), (middle, end, end, begin)):
+            frames = [ethernet(ipv4(17, octets, 7, place)) for octets, place in order]
+            self.assertEqual(self.names(capture(frames)), ["gatekeeperConfirm"])
+
+    def test_extension_headers_of_ipv6(self):
+        def extended(protocol, header, payload, kind=17):
+            return ethernet(ipv6(protocol, bytes([kind]) + header[1:] + payload))
+        eight, sixteen = bytes(8), b"\0\1" + bytes(14)
+        datagram = udp(RAS)
+        for protocol in (0, 43, 60):
+            for header in (eight, sixteen):
+                self.assertEqual(self.names(capture([extended(protocol, header, datagram)])), ["gatekeeperConfirm"])
+        authentication = b"\0\2" + bytes(14)
+        self.assertEqual(self.names(capture([extended(51, authentication, datagram)])), ["gatekeeperConfirm"])
+        self.assertEqual(self.names(capture([extended(0, eight, b"\x11" + bytes(7) + datagram, 60)])),
+                         ["gatekeeperConfirm"])
+
+        def fragment(octets, place, identification=7):
+            return extended(44, struct.pack(">BBHI", 0, 0, place, identification), octets)
+        frames = [fragment(datagram[16:], 16), fragment(datagram[:16], 1)]
+        self.assertEqual(self.names(capture(frames)), ["gatekeeperConfirm"])
+        self.assertEqual(self.names(capture([fragment(datagram, 0)])), ["gatekeeperConfirm"])
+        self.assertEqual(self.names(capture([fragment(datagram[16:], 16, 8), frames[1]]), status=1), [])
+
+    def test_lengths_that_leave_octets_out(self):
+        datagram = ethernet(ipv4(17, udp(RAS)))
+        padded = struct.pack(">HHHH", 40000, 1719, 8 + len(RAS), 0) + RAS + b"padding"
+        for frame in (datagram + bytes(20), ethernet(ipv4(17, padded)), ethernet(ipv6(17, udp(RAS))) + bytes(4)):
+            (printed,) = objects(run("--format", "json", data=capture([frame])))
+            self.assertEqual(printed["octets"], len(RAS))
+        unknown = bytearray(datagram)
+        unknown[16:18] = b"\0\0"  # the sender's hardware fills the length in
+        self.assertEqual(self.names(capture([bytes(unknown)])), ["gatekeeperConfirm"])
+
+    def test_tags_of_several_vlans(self):
+        frame = bytes(12) + b"\x88\xa8\0\1\x81\0\0\2\x08\0" + ipv4(17, udp(RAS))
+        self.assertEqual(self.names(capture([frame])), ["gatekeeperConfirm"])
+
+
+class PcapngBlocks(unittest.TestCase):
+    FRAME = ethernet(ipv4(17, udp(RAS)))
+
+    def block(self, kind, body, length=None):
+        body += bytes(-len(body) % 4)
+        size = 12 + len(body)
+        return struct.pack(self.order + "II", kind, length or size) + body + struct.pack(self.order + "I", size)
+
+    def section(self):
+        return self.block(0x0A0D0D0A, struct.pack(self.order + "IHHq", 0x1A2B3C4D, 1, 0, -1))
+
+    def interface(self, *options, link_type=1, longest=0):
+        body = struct.pack(self.order + "HHI", link_type, 0, longest)
+        for code, value in options:
+            body += struct.pack(self.order + "HH", code, len(value)) + value + bytes(-len(value) % 4)
+        return self.block(1, body)
+
+    def enhanced(self, time=0, interface=0, frame=FRAME, captured=None):
+        header = struct.pack(self.order + "IIIII", interface, time >> 32, time & 0xFFFFFFFF,
+                             len(frame) if captured is None else captured, len(frame))
+        return self.block(6, header + frame)
+
+    def times(self, data):
+        result = run("--format", "json", data=data)
+        self.assertEqual((result.returncode, result.stderr), (0, b""))
+        return [o["time"] for o in objects(result)]
+
+    def setUp(self):
+        self.order = "<"
+
+    def test_blocks_of_either_order(self):
+        moment = 1_700_000_000_000_001
+        for self.order in "<>":
+            simple = self.block(3, struct.pack(self.order + "I", len(self.FRAME)) + self.FRAME)
+            old = self.block(2, struct.pack(self.order + "HHIIII", 0, 0, *divmod(moment, END), len(self.FRAME),
+                                            len(self.FRAME)) + self.FRAME)
+            data = (self.section() + self.block(0xBAD, b"unknown block" * 100_000) + self.interface() +
+                    self.enhanced(moment) + simple + old)
+            self.assertEqual(self.times(data), ["2023-11-14T22:13:20.000001Z", "1970-01-01T00:00:00.000000Z",
+                                                "2023-11-14T22:13:20.000001Z"])
+
+    def test_sections_of_both_orders(self):
+        data = b""
+        for self.order in "<>":
+            data += self.section() + self.interface() + self.enhanced()
+        self.assertEqual(len(self.times(data)), 2)
+
+    def test_units_of_time(self):
+        for resolution, time in ((0, 1), (3, 1500), (6, 1_500_000), (9, 1_500_000_999), (15, 1_500_000 * 10 ** 9),
+                                 (0x81, 3), (0xA0, 3 << 31)):
+            fraction = "000000" if resolution == 0 else "500000"
+            data = self.section() + self.interface((9, bytes([resolution]))) + self.enhanced(time)
+            self.assertEqual(self.times(data), [f"1970-01-01T00:00:01.{fraction}Z"], resolution)
+        for offset, second in ((2, "00:00:03"), (-1, "00:00:00")):
+            data = self.section() + self.interface((2, b"eth0"), (14, struct.pack("<q", offset))) + self.enhanced(10 ** 6)
+            self.assertEqual(self.times(data), [f"1970-01-01T{second}.000000Z"])
+
+    def test_each_interface_has_its_link_type_and_units(self):
+        raw = ipv4(17, udp(RAS))
+        data = (self.section() + self.interface() + self.interface((9, b"\0"), link_type=101) +
+                self.enhanced(2_000_000) + self.enhanced(3, 1, raw))
+        self.assertEqual(self.times(data), ["1970-01-01T00:00:02.000000Z", "1970-01-01T00:00:03.000000Z"])
+
+    def test_a_simple_packet_ends_where_its_interface_cuts_off(self):
+        simple = self.block(3, struct.pack("<I", len(self.FRAME)) + self.FRAME[:60] + b"pad?")
+        result = run("--format", "json", data=self.section() + self.interface(longest=60) + simple)
+        self.assertEqual([o["octets"] for o in objects(result)], [60 - 42])
+        self.assertIn(b"cut off by the capture: 1", result.stderr)
+
+    def test_wrong_blocks(self):
+        start = self.section() + self.interface()
+        whole = self.enhanced()
+        for wrong, complaint in ((whole[:-1], "ends within"), (whole[:-4] + bytes(4), "two lengths"),
+                                 (self.block(6, bytes(8)), "too short"), (self.enhanced(captured=1000), "longer than"),
+                                 (self.enhanced(interface=1), "no interface"), (self.block(6, b"", 8), "wrong length"),
+                                 (self.block(5, b"", 13), "wrong length"), (self.block(5, b"", 1000), "ends within"),
+                                 (self.block(6, b"", 0xFFFFFFF0), "longer than any"),
+                                 (self.interface((9, b"\x14")), "too finely"), (self.interface((9, b"\xc0")), "too finely"),
+                                 (self.block(1, b""), "no link type"), (self.interface(link_type=147) + self.enhanced(0, 1),
+                                                                       "link type 147"),
+                                 (self.section()[:8] + bytes(20), "byte order")):
+            result = run("--format", "json", data=start + whole + wrong)
+            self.assertEqual((result.returncode, len(objects(result))), (2, 1), complaint)
+            self.assertIn(complaint.encode(), result.stderr)
+
+
+class Bounds(unittest.TestCase):
+    """What is given up first when there is too much: of a message that began before, its end is then missed."""
+
+    def is_kept(self, others):
+        """Whether the connection of half a message still stands after the other frames."""
+        begin, rest = ethernet(ipv4(6, tcp(0, CALL[:20], SYN))), ethernet(ipv4(6, tcp(21, CALL[20:])))
+        result = run("--format", "json", "--call-port", "5003", data=capture([begin, *others, rest]))
+        return any(o["name"] == "releaseComplete" for o in objects(result))
+
+    @staticmethod
+    def other(number, payload=b"\x03", flags=SYN, sequence=0):
+        segment = struct.pack(">HHIIBBHHH", 1024 + number, 5003, sequence, 1, 0x50, flags, 8192, 0, 0) + payload
+        return ethernet(ipv4(6, segment))
+
+    def test_least_recently_used_connections_are_given_up(self):
+        others = [self.other(n) for n in range(8192)]
+        self.assertTrue(self.is_kept(others[:-1]))
+        self.assertFalse(self.is_kept(others))
+        half = len(others) // 2
+        again = ethernet(ipv4(6, tcp(1, CALL[:20])))
+        self.assertTrue(self.is_kept([*others[:half], again, *others[half:]]))
+
+    def test_octets_that_are_held_are_counted(self):
+        much = b"\x03\0\xff\xff" + bytes(60_000)
+        self.assertTrue(self.is_kept(self.other(n, much) for n in range(1100)))
+        self.assertFalse(self.is_kept(self.other(n, much) for n in range(1130)))
+        # Of a connection that was opened again, what it held before does not count.
+        self.assertTrue(self.is_kept(self.other(1, much, SYN, n * 100_000) for n in range(1200)))
+
+
 if __name__ == "__main__":
     unittest.main(argv=sys.argv[:1])
