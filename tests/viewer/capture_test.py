@@ -60,6 +60,12 @@ class Captures(unittest.TestCase):
         self.assertIn('from "4001"  to "4002"  forward g711Ulaw64k  reverse g711Ulaw64k  media 192.0.2.10:5004/192.0.2.10:5005', summary)
         self.assertEqual(summary.count("+ H.245"), 2)
 
+    def test_call_signalling_ports_are_learned_from_ras(self):
+        expected = [o["name"] for o in objects(run("--format", "json", data=SAMPLE))]
+        moved = SAMPLE.replace(struct.pack(">H", 1720), struct.pack(">H", 1820))
+        self.assertNotEqual(moved, SAMPLE)
+        self.assertEqual(self.names(moved), expected)
+
     def test_link_types_and_protocols(self):
         datagram = ipv4(17, udp(RAS))
         over6 = ipv6(17, udp(RAS))
