@@ -142,8 +142,13 @@ TEST_F(InputEvents, MediaPacketsAreThoseThatLookLikeRtp) {
   EXPECT_EQ(Read({Datagram(5004, rtp)}), (Events{"1 media 8 4660 192.0.2.1:40000 > 192.0.2.2:5004"}));
   EXPECT_EQ(Read({Datagram(1719, rtp)}), (Events{"1 message 192.0.2.1:40000 > 192.0.2.2:1719"}));
   EXPECT_EQ(Read({Datagram(5004, {rtp.begin(), rtp.end() - 1})}), Events{});
-  for (const auto& [first, second, count] : {std::tuple{0x40, 8, 0}, {0xC0, 8, 0}, {0xBF, 8, 1}, {0x80, 0xC7, 1},
-                                             {0x80, 0xC8, 0}, {0x80, 0xCC, 0}, {0x80, 0xCD, 1}}) {
+  for (const auto& [first, second, count] : {std::tuple{0x40, 8, 0},
+                                             {0xC0, 8, 0},
+                                             {0xBF, 8, 1},
+                                             {0x80, 0xC7, 1},
+                                             {0x80, 0xC8, 0},
+                                             {0x80, 0xCC, 0},
+                                             {0x80, 0xCD, 1}}) {
     rtp[0] = static_cast<uint8_t>(first);
     rtp[1] = static_cast<uint8_t>(second);
     EXPECT_EQ(Read({Datagram(5004, rtp)}).size(), static_cast<size_t>(count)) << first << ' ' << second;

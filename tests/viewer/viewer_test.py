@@ -30,7 +30,9 @@ def run(*arguments, data=b"", stdout=subprocess.PIPE):
     Very rarely Wine ends with status 1 before the program has begun; then it is started once more, so that a viewer
     at fault fails all the same."""
     def start():
-        return subprocess.run([*COMMAND, *arguments], input=data, stdout=stdout, stderr=subprocess.PIPE, timeout=120)
+        ended = subprocess.run([*COMMAND, *arguments], input=data, stdout=stdout, stderr=subprocess.PIPE, timeout=120)
+        ended.stderr = ended.stderr.replace(b"\r\n", b"\n")  # as Windows ends its lines
+        return ended
 
     result = start()
     if EMULATED and ended_before_the_viewer(result):
