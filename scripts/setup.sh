@@ -16,10 +16,11 @@ demo_packages=(
   libcli11-dev nlohmann-json3-dev zlib1g-dev
 )
 test_packages=(
-  googletest pkg-config binutils clang libclang-rt-14-dev python3 valgrind
+  googletest pkg-config binutils clang libclang-rt-14-dev python3 python3-jsonschema valgrind
   g++-multilib lib32z1-dev
   g++-mingw-w64-i686-posix g++-mingw-w64-x86-64-posix libz-mingw-w64-dev
   dpkg-dev lld llvm unzip zip
+  chromium chromium-driver
 )
 bench_packages=(cmake ninja-build make g++ libbenchmark-dev valgrind python3)
 wine_packages=(wine wine64 wine32:i386)

@@ -1,5 +1,7 @@
 #include "calls/call.h"
 
+#include <algorithm>
+
 namespace {
 
 std::optional<int64_t> Between(const std::optional<int64_t>& from, const std::optional<int64_t>& to) {
@@ -20,13 +22,10 @@ std::optional<int64_t> Leg::SetupTime() const { return Between(setup, connected)
 
 std::optional<int64_t> Leg::Duration() const { return Between(connected, released); }
 
-const MediaAddress* Call::FindMedia(const Endpoint& address) const {
-  for (const MediaAddress& known : media) {
-    if (known.address == address) return &known;
-  }
-  return nullptr;
-}
-
-void AddMediaAddress(Call& call, const Endpoint& address) {
-  if (call.FindMedia(address) == nullptr) call.media.push_back({address, {}});
+void AddMediaAddress(Call& call, const Endpoint& address, bool is_receiver) {
+  const auto known = std::find_if(call.media.begin(), call.media.end(),
+                                  [&address](const MediaAddress& media) { return media.address == address; });
+  MediaAddress& media = known == call.media.end() ? call.media.emplace_back() : *known;
+  media.address = address;
+  media.isReceiver = media.isReceiver || is_receiver;
 }

@@ -102,6 +102,7 @@ struct Channel {
 // An announced media address and the RTP packets that went there.
 struct MediaAddress {
   Endpoint address;
+  bool isReceiver = false;              // its side announced it to receive there
   std::map<uint8_t, uint64_t> packets;  // by payload type
 };
 
@@ -142,11 +143,10 @@ struct Call {
 
   // The leg that began the call; null: there is none.
   const Leg* FirstLeg() const { return legs.empty() ? nullptr : &legs.front(); }
-  const MediaAddress* FindMedia(const Endpoint& address) const;
 };
 
 // Announced once or more, it is there once.
-void AddMediaAddress(Call& call, const Endpoint& address);
+void AddMediaAddress(Call& call, const Endpoint& address, bool is_receiver);
 
 template <class Value>
 void AddOnce(std::vector<Value>& values, const Value& value) {

@@ -19,11 +19,12 @@ Channel* FindChannel(Call& call, const Endpoint& opener, Node body) {
   return found == call.channels.rend() ? nullptr : &*found;
 }
 
+// The side that acknowledges a channel receives its media.
 void AddAddresses(Call& call, Channel& channel, Node body) {
   const MediaFields fields = MediaFieldsOf(body);
   for (const Endpoint& address : fields.media) {
     AddOnce(channel.media, address);
-    AddMediaAddress(call, address);
+    AddMediaAddress(call, address, channel.acknowledged.has_value());
   }
   for (const Endpoint& address : fields.control) AddOnce(channel.control, address);
 }

@@ -100,15 +100,19 @@ bool IsOf(const DecodedMessage& decoded, Family family) {
   return decoded.family == family || (family == Family::kH245 && !decoded.tunnelled.empty());
 }
 
-bool IsNumber(const std::string& text) {
-  constexpr size_t most_digits = 7;
-  return text.size() <= most_digits && text.find_first_not_of("0123456789") == std::string::npos;
-}
+bool IsNumber(const std::string& text) { return text.find_first_not_of("0123456789") == std::string::npos; }
+
+// Fewer digits than this are a number only.
+constexpr size_t kShortestPrefix = 6;
 
 Wanted WantsIdentifier(const Call& call, const std::string& wanted) {
-  if (IsNumber(wanted)) return std::to_string(call.number) == wanted ? Wanted::kYes : Wanted::kNo;
-  const bool fits = std::any_of(call.identifiers.begin(), call.identifiers.end(),
-                                [&wanted](const Guid& identifier) { return StartsWith(ToHex(identifier), wanted); });
+  if (IsNumber(wanted)) {
+    if (std::to_string(call.number) == wanted) return Wanted::kYes;
+    if (wanted.size() < kShortestPrefix) return Wanted::kNo;
+  }
+  const bool fits = std::any_of(call.identifiers.begin(), call.identifiers.end(), [&wanted](const Guid& identifier) {
+    return StartsWith(ToHex(identifier), wanted);
+  });
   return fits ? Wanted::kYes : Wanted::kNotYet;
 }
 

@@ -84,7 +84,7 @@ void AddProposals(Call& call, const Leg& leg, const Origin& origin, Node fast_st
   for (const Node open : fast_start) {
     const Channel channel = FastStartChannel(leg, origin, open);
     AddOnce(call.fastStart.proposed, ChannelText(leg, channel));
-    for (const Endpoint& address : channel.media) AddMediaAddress(call, address);
+    for (const Endpoint& address : channel.media) AddMediaAddress(call, address, channel.to == leg.caller);
   }
 }
 
@@ -98,7 +98,7 @@ void AddAcceptances(Call& call, const Leg& leg, const Origin& origin, const Deco
     }
     call.fastStart.accepted.push_back(text);
     call.fastStart.acceptedIn = MessageTypeName(static_cast<unsigned>(MessageTypeOf(message)));
-    for (const Endpoint& address : channel.media) AddMediaAddress(call, address);
+    for (const Endpoint& address : channel.media) AddMediaAddress(call, address, channel.to == leg.called);
     call.channels.push_back(std::move(channel));
   }
 }

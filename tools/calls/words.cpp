@@ -47,7 +47,7 @@ void AddSilentMedia(const Call& call, std::vector<std::string>& faults) {
   const auto silent = [](const MediaAddress& media) { return media.packets.empty(); };
   if (std::all_of(call.media.begin(), call.media.end(), silent)) return;
   for (const MediaAddress& media : call.media) {
-    if (silent(media)) faults.push_back(Concat({"no RTP packet to ", ToText(media.address)}));
+    if (media.isReceiver && silent(media)) faults.push_back(Concat({"no RTP packet to ", ToText(media.address)}));
   }
 }
 

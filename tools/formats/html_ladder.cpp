@@ -39,6 +39,12 @@ std::string Arrow(size_t source, size_t destination, size_t y, const std::string
   return Concat({Line(from, y, to, y, ""), Head(to, y, from < to), Text((from + to) / 2, y - 5, "middle", label)});
 }
 
+// So that the whole row can be clicked.
+std::string Ground(size_t y, size_t width) {
+  return Concat({"<rect y=\"", std::to_string(y - kRowHeight / 2), "\" width=\"", std::to_string(width),
+                 "\" height=\"", std::to_string(kRowHeight), "\" fill=\"transparent\"/>"});
+}
+
 size_t IndexOf(const Call& call, const Message* message) { return static_cast<size_t>(message - call.messages.data()); }
 
 }  // namespace
