@@ -13,9 +13,9 @@
 namespace {
 
 constexpr int64_t kSecond = 1'000'000;
-// After its last message.
+// After its last message. A message after a gap of TCP comes a minute late.
 constexpr int64_t kStaysReleased = 300 * kSecond;
-constexpr int64_t kStaysOver = 30 * kSecond;
+constexpr int64_t kStaysOver = 90 * kSecond;
 constexpr size_t kMostEntries = 16384;
 // A later request of the same number is another one.
 constexpr int64_t kRepeatTime = 60 * kSecond;
@@ -290,7 +290,7 @@ void CallTracker::IndexMedia(Entry& entry) {
 }
 
 void CallTracker::Touch(Entry& entry, const Origin& origin) {
-  entry.call.last = origin.microseconds;
+  entry.call.last = std::max(entry.call.last, origin.microseconds);
   AddOnce(entry.call.endpoints, origin.source);
   AddOnce(entry.call.endpoints, origin.destination);
   Entries& from = by_state_[static_cast<size_t>(entry.state)];

@@ -110,9 +110,8 @@ Wanted WantsIdentifier(const Call& call, const std::string& wanted) {
     if (std::to_string(call.number) == wanted) return Wanted::kYes;
     if (wanted.size() < kShortestPrefix) return Wanted::kNo;
   }
-  const bool fits = std::any_of(call.identifiers.begin(), call.identifiers.end(), [&wanted](const Guid& identifier) {
-    return StartsWith(ToHex(identifier), wanted);
-  });
+  const bool fits = std::any_of(call.identifiers.begin(), call.identifiers.end(),
+                                [&wanted](const Guid& identifier) { return StartsWith(ToHex(identifier), wanted); });
   return fits ? Wanted::kYes : Wanted::kNotYet;
 }
 

@@ -41,8 +41,8 @@ std::string Arrow(size_t source, size_t destination, size_t y, const std::string
 
 // So that the whole row can be clicked.
 std::string Ground(size_t y, size_t width) {
-  return Concat({"<rect y=\"", std::to_string(y - kRowHeight / 2), "\" width=\"", std::to_string(width),
-                 "\" height=\"", std::to_string(kRowHeight), "\" fill=\"transparent\"/>"});
+  return Concat({"<rect y=\"", std::to_string(y - kRowHeight / 2), "\" width=\"", std::to_string(width), "\" height=\"",
+                 std::to_string(kRowHeight), "\" fill=\"transparent\"/>"});
 }
 
 size_t IndexOf(const Call& call, const Message* message) { return static_cast<size_t>(message - call.messages.data()); }
@@ -70,7 +70,7 @@ void AppendSvgLadder(const Call& call, const std::vector<LadderEvent>& events, s
     const char* kind = is_faulty ? " class=\"fault\"" : "";
     const std::string label = Concat({event.isTunnelled ? "+ " : "", event.label, event.isMalformed ? " !" : ""});
     const std::string drawing =
-        Concat({Text(kLeft - 80, y, "end", Since(call, event.origin.microseconds)),
+        Concat({Ground(y, width), Text(kLeft - 80, y, "end", Since(call, event.origin.microseconds)),
                 Arrow(columns.IndexOf(event.origin.source), columns.IndexOf(event.origin.destination), y, label)});
     if (event.message == nullptr) {
       html += Concat({"<g", kind, ">", drawing, "</g>\n"});
