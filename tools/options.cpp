@@ -5,25 +5,9 @@
 #include <utility>
 #include <vector>
 
-namespace {
+#include "manual.h"
 
-constexpr const char* kFooter =
-    "Hexadecimal text holds one message a line; blanks and colons may stand between the octets, and\n"
-    "'#' starts a comment. Dumps with offsets (xxd, hexdump -C, packet tools) and arrays of C are read\n"
-    "too, one message for each. Input that gzip has compressed is unpacked. Raw input is one message. A "
-    "call-signalling message starts with its TPKT\n"
-    "header, an H.245 message does not. In a capture the ports tell the families; H.245\n"
-    "connections are found by the h245Address of call signalling.\n"
-    "\n"
-    "What was read of a message is printed, and what is wrong with it: where it ends early, claims more than\n"
-    "there is or leaves octets over. A registration of a later version is read as one of version 4.\n"
-    "\n"
-    "The viewer hands a RAS message to the library with one spare zero octet after it, counted in\n"
-    "the length. A caller of the library should do the same: success is judged by the reader\n"
-    "standing before the end of the buffer, so a message that ends exactly with it is refused.\n"
-    "\n"
-    "Exit status: 0 all messages are complete; 1 some are not, or data was found where a message\n"
-    "was expected; 2 bad usage, or input that cannot be read.";
+namespace {
 
 template <class Value>
 using Keywords = std::vector<std::pair<const char*, Value>>;
@@ -40,19 +24,25 @@ template <class Value, class Target>
 CLI::Option* AddKeyword(CLI::App& app, const char* name, const Keywords<Value>& keywords, Target& target,
                         const char* help) {
   std::vector<std::string> words;
-  for (const auto& keyword : keywords) words.emplace_back(keyword.first);
+  std::string type;
+  for (const auto& keyword : keywords) {
+    words.emplace_back(keyword.first);
+    type += (type.empty() ? "" : "|") + words.back();
+  }
   const auto set = [&keywords, &target](const std::string& word) {
     target = std::find_if(keywords.begin(), keywords.end(), [&word](const auto& keyword) {
                return word == keyword.first;
              })->second;
   };
-  return app.add_option_function<std::string>(name, set, help)->check(CLI::IsMember(std::move(words)));
+  return app.add_option_function<std::string>(name, set, help)
+      ->check(CLI::IsMember(std::move(words)).description(""))
+      ->type_name(type);
 }
 
 void AddPorts(CLI::App& app, const char* name, std::set<uint16_t>& ports, const char* help) {
   app.add_option_function<std::vector<uint16_t>>(
          name, [&ports](const std::vector<uint16_t>& values) { ports.insert(values.begin(), values.end()); }, help)
-      ->check(CLI::Range(1, 65535))
+      ->check(CLI::Range(1, 65535).description(""))
       ->type_name("PORT")
       ->allow_extra_args(false);
 }
@@ -82,13 +72,20 @@ std::optional<int> ParseOptions(int count, char** arguments, Options& options) {
   options.ports.call_signalling = {1720};
 
   CLI::App app("Prints the H.323 signalling of a capture, or single messages.", "kelvra-dump");
-  app.footer(kFooter);
+  app.footer(HelpNotes());
   app.set_version_flag("--version", "kelvra-dump " KELVRA_VERSION);
   // A path may start with '/' under Wine and the like.
   app.allow_windows_style_options(false);
   app.add_option("FILE", options.files, "what to read, one after the other; - or nothing: standard input");
-  AddKeyword(app, "--input", kInputs, options.input, "what the input is (auto: told by its first octets)");
-  AddKeyword(app, "--as", kFamilies, options.family, "the family of hexadecimal or raw messages, which no port tells");
+
+  app.option_defaults()->group("Input");
+  AddKeyword(app, "--input", kInputs, options.input, "what the input is (auto: judged by its first octets)");
+  AddKeyword(app, "--as", kFamilies, options.family, "the family of hexadecimal or raw messages, which no port gives");
+  AddPorts(app, "--ras-port", options.ports.ras, "a UDP port of RAS in addition to 1718 and 1719");
+  AddPorts(app, "--call-port", options.ports.call_signalling, "a TCP port of call signalling in addition to 1720");
+  AddPorts(app, "--h245-port", options.ports.h245, "a TCP port of H.245");
+
+  app.option_defaults()->group("Output");
   AddKeyword(app, "--format", kFormats, options.format,
              "one line per message (summary), every member (tree), or one object per line (json); of whole calls all "
              "facts (calls), a diagram (ladder) or a page (html)");
@@ -97,22 +94,33 @@ std::optional<int> ParseOptions(int count, char** arguments, Options& options) {
   app.add_flag_callback(
       "--stats", [&options] { options.format = Format::kStatistics; },
       "messages by kind, faults by cause, and how RAS requests were answered");
-  AddFilter(app, options.filter);
-  const auto setTimes = [&options](TimeStyle style) { return [&options, style] { options.formatting.times = style; }; };
-  auto* local = app.add_flag_callback("--local", setTimes(TimeStyle::kLocal), "times of this machine's zone, not UTC");
-  app.add_flag_callback("--relative", setTimes(TimeStyle::kRelative), "seconds since the first message")
-      ->excludes(local);
   app.add_flag("--octets", options.formatting.showsOctets,
                "the tree shows the octets and bits of each member, octet.bit-octet.bit, and the message's octets");
   AddKeyword(app, "--color", kColors, options.color, "colours (auto: on a terminal, unless NO_COLOR is set)");
   app.add_flag("-l", options.flushesLines, "print each message at once; always so where the input is no regular file");
-  AddPorts(app, "--ras-port", options.ports.ras, "a UDP port of RAS in addition to 1718 and 1719");
-  AddPorts(app, "--call-port", options.ports.call_signalling, "a TCP port of call signalling in addition to 1720");
-  AddPorts(app, "--h245-port", options.ports.h245, "a TCP port of H.245");
+
+  app.option_defaults()->group("Filters");
+  AddFilter(app, options.filter);
+
+  app.option_defaults()->group("Times");
+  const auto setTimes = [&options](TimeStyle style) { return [&options, style] { options.formatting.times = style; }; };
+  auto* local = app.add_flag_callback("--local", setTimes(TimeStyle::kLocal), "times of this machine's zone, not UTC");
+  app.add_flag_callback("--relative", setTimes(TimeStyle::kRelative), "seconds since the first message")
+      ->excludes(local);
+
+  // What makes the manual page is no business of --help.
+  app.option_defaults()->group("");
+  std::string (*manual)(const CLI::App&) = nullptr;
+  app.add_flag_callback("--manual-page", [&manual] { manual = ManualPage; });
+  app.add_flag_callback("--bash-completion", [&manual] { manual = BashCompletion; });
   try {
     app.parse(count, arguments);
   } catch (const CLI::ParseError& error) {
     return app.exit(error) == 0 ? kAllComplete : kUnusable;
+  }
+  if (manual != nullptr) {
+    std::fputs(manual(app).c_str(), stdout);
+    return kAllComplete;
   }
   if (options.files.empty()) options.files = {"-"};
   return std::nullopt;

@@ -1,0 +1,167 @@
+#include "manual.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace {
+
+using OptionList = std::vector<const CLI::Option*>;
+using Section = std::pair<std::string_view, std::string_view>;
+
+constexpr std::string_view kExitStatus =
+    "0 all messages are complete; 1 some are not, or data was found where a message was expected; 2 bad usage, input "
+    "that cannot be read, or output that cannot be written.";
+
+// What --help leaves out.
+constexpr Section kSections[] = {
+    {"MESSAGES",
+     "What was read of a message is printed, and what is wrong with it: where it ends early, claims more than there is "
+     "or leaves octets over. A registration of a later version is read as one of version 4.\n"
+     "The viewer hands a RAS message to the library with one spare zero octet after it, counted in the length. A "
+     "caller "
+     "of the library should do the same: success is judged by the reader standing before the end of the buffer, so a "
+     "message that ends exactly with it is refused."},
+    {"INPUT",
+     "In a capture the ports give the families; further connections are found by the addresses that messages "
+     "announce.\n"
+     "Hexadecimal text holds one message per line; blanks and colons may stand between the octets, and a number sign "
+     "starts a comment. Dumps with offsets (xxd, hexdump -C, packet tools) and arrays of C are read too, one message "
+     "for each. Raw input is one message. Input that gzip has compressed is unpacked. A call-signalling message starts "
+     "with its TPKT header, an H.245 message does not."},
+    {"EXIT STATUS", kExitStatus},
+    {"EXAMPLES",
+     "kelvra-dump samples/call.pcap\n"
+     "tcpdump -U -w - | kelvra-dump -\n"
+     "echo '08 00 00 04 06 00 08 91 4A 00 05 20' | kelvra-dump --as ras"},
+};
+
+// A hidden option has no group.
+OptionList OptionsToShow(const CLI::App& app) {
+  return app.get_options([](const CLI::Option* option) { return !option->get_group().empty(); });
+}
+
+bool TakesValue(const CLI::Option& option) { return option.get_type_size_max() > 0; }
+
+// "--as", or "-l"; "-h" and "--help" both.
+std::vector<std::string> Names(const CLI::Option& option) {
+  std::vector<std::string> names;
+  for (const std::string& name : option.get_snames()) names.push_back("-" + name);
+  for (const std::string& name : option.get_lnames()) names.push_back("--" + name);
+  return names;
+}
+
+std::string Joined(const std::vector<std::string>& words, std::string_view separator) {
+  std::string text;
+  for (const std::string& word : words) {
+    if (!text.empty()) text += separator;
+    text += word;
+  }
+  return text;
+}
+
+// Text as troff takes it: hyphens stay hyphens, and no line starts a request.
+std::string Troff(std::string_view text) {
+  std::string escaped;
+  for (const char c : text) {
+    const bool starts_line = escaped.empty() || escaped.back() == '\n';
+    if (c == '\\') {
+      escaped += "\\e";
+    } else if (c == '-') {
+      escaped += "\\-";
+    } else {
+      if (starts_line && (c == '.' || c == '\'')) escaped += "\\&";
+      escaped += c;
+    }
+  }
+  return escaped;
+}
+
+std::string Paragraphs(std::string_view text, std::string_view separator) {
+  std::string page;
+  for (size_t start = 0; start <= text.size();) {
+    const size_t end = std::min(text.find('\n', start), text.size());
+    if (start > 0) page += separator;
+    page += Troff(text.substr(start, end - start)) + '\n';
+    start = end + 1;
+  }
+  return page;
+}
+
+std::string OptionEntry(const CLI::Option& option) {
+  std::vector<std::string> names;
+  for (const std::string& name : Names(option)) names.push_back("\\fB" + Troff(name) + "\\fR");
+  if (names.empty())
+    return ".TP\n\\fI" + Troff(option.get_name(true)) + "\\fR\n" + Troff(option.get_description()) + '\n';
+  std::string entry = ".TP\n" + Joined(names, ", ");
+  if (TakesValue(option)) entry += " \\fI" + Troff(option.get_type_name()) + "\\fR";
+  return entry + '\n' + Troff(option.get_description()) + '\n';
+}
+
+// The values of "ras|q931|h245"; none for "PORT".
+std::vector<std::string> Values(const CLI::Option& option) {
+  const std::string type = option.get_type_name();
+  if (type.find('|') == std::string::npos) return {};
+  std::vector<std::string> values(1);
+  for (const char c : type) {
+    if (c == '|') {
+      values.emplace_back();
+    } else {
+      values.back() += c;
+    }
+  }
+  return values;
+}
+
+}  // namespace
+
+std::string HelpNotes() {
+  return "Exit status: " + std::string(kExitStatus) + "\nThe manual page, man kelvra-dump, has more.";
+}
+
+std::string ManualPage(const CLI::App& app) {
+  std::string page = ".TH KELVRA\\-DUMP 1\n.SH NAME\n" + Troff(app.get_name()) + " \\- prints H.323 signalling" +
+                     "\n.SH SYNOPSIS\n.B kelvra\\-dump\n[\\fIoption\\fR ...] [\\fIFILE\\fR ...]\n.SH DESCRIPTION\n" +
+                     Troff(app.get_description()) + '\n';
+  std::string group;
+  page += ".SH OPTIONS\n";
+  for (const CLI::Option* option : OptionsToShow(app)) {
+    if (option->get_group() != group) page += ".SS " + Troff(group = option->get_group()) + '\n';
+    page += OptionEntry(*option);
+  }
+  for (const auto& [title, text] : kSections) {
+    const bool is_example = title == "EXAMPLES";
+    page += ".SH " + std::string(title) + '\n';
+    page += (is_example ? ".nf\n" : "") + Paragraphs(text, is_example ? "" : ".PP\n") + (is_example ? ".fi\n" : "");
+  }
+  return page;
+}
+
+std::string BashCompletion(const CLI::App& app) {
+  std::vector<std::string> words;
+  std::string cases;
+  for (const CLI::Option* option : OptionsToShow(app)) {
+    const std::vector<std::string> names = Names(*option);
+    words.insert(words.end(), names.begin(), names.end());
+    if (names.empty() || !TakesValue(*option)) continue;
+    const std::string values = Joined(Values(*option), " ");
+    cases += "    " + Joined(names, "|") + ") COMPREPLY=($(compgen -W '" + values + "' -- \"$word\")); return ;;\n";
+  }
+  return "# Completion of kelvra-dump for bash.\n"
+         "_kelvra_dump() {\n"
+         "  local word=${COMP_WORDS[COMP_CWORD]}\n"
+         "  case ${COMP_WORDS[COMP_CWORD-1]} in\n" +
+         cases +
+         "  esac\n"
+         "  if [[ $word == -* ]]; then\n"
+         "    COMPREPLY=($(compgen -W '" +
+         Joined(words, " ") +
+         "' -- \"$word\"))\n"
+         "  else\n"
+         "    COMPREPLY=($(compgen -f -- \"$word\"))\n"
+         "  fi\n"
+         "}\n"
+         "complete -o filenames -F _kelvra_dump kelvra-dump\n";
+}
