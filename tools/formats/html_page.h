@@ -21,8 +21,9 @@ th[aria-sort=ascending] button::after { content: " \25B2"; }
 th[aria-sort=descending] button::after { content: " \25BC"; }
 .row { cursor: pointer; }
 .row:hover { background: color-mix(in srgb, var(--link) 10%, transparent); }
-.number { text-align: right; font-variant-numeric: tabular-nums; }
+.number { text-align: right; white-space: nowrap; font-variant-numeric: tabular-nums; }
 .fault { color: var(--fault); }
+td[colspan] { max-width: 0; }
 h2 { font-size: 1em; margin: .8rem 0 .2rem; }
 ul { margin: 0; padding-left: 1.2rem; }
 pre { overflow-x: auto; margin: .3rem 0 .8rem; }
