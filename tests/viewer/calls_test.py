@@ -1,0 +1,114 @@
+#!/usr/bin/env python3
+"""Tests of the calls that kelvra-dump finds in captures, of its statistics and of its filters.
+
+Usage: calls_test.py KELVRA_DUMP [EMULATOR...]
+
+Whole outputs are compared with the files of golden/calls/. Where KELVRA_UPDATE is set, these are written instead; read them
+against samples/README.md before you carry them.
+"""
+import os
+import sys
+import unittest
+
+from viewer_test import TOP, objects, run
+
+GOLDEN = os.path.join(os.path.dirname(os.path.abspath(__file__)), "golden", "calls")
+FAILED = os.path.join(TOP, "samples", "failed-calls.pcap")
+CALL = os.path.join(TOP, "samples", "call.pcap")
+
+
+def frames(capture, *arguments):
+    result = run("--format", "json", *arguments, capture)
+    return [printed["frame"] for printed in objects(result)]
+
+
+def calls(*arguments):
+    """The numbers of the calls that the table shows."""
+    lines = run("--calls", *arguments, FAILED).stdout.decode().split("\n\n")[0].splitlines()[1:]
+    return [int(line.split()[0]) for line in lines]
+
+
+class Golden(unittest.TestCase):
+    maxDiff = None
+
+    def check(self, name, *arguments):
+        printed = run(*arguments).stdout.decode()
+        path = os.path.join(GOLDEN, name)
+        if "KELVRA_UPDATE" in os.environ:
+            with open(path, "w", encoding="utf-8") as golden:
+                golden.write(printed)
+        with open(path, encoding="utf-8") as golden:
+            self.assertEqual(printed, golden.read())
+
+    def test_table(self):
+        self.check("failed-calls.table.txt", "--calls", FAILED)
+
+    def test_blocks(self):
+        self.check("failed-calls.calls.txt", "--format", "calls", FAILED)
+        self.check("call.calls.txt", "--format", "calls", CALL)
+
+    def test_ladder(self):
+        self.check("failed-calls.ladder.txt", "--format", "ladder", "--faulty", FAILED)
+        self.check("call.ladder.txt", "--format", "ladder", CALL)
+
+    def test_statistics(self):
+        self.check("failed-calls.stats.txt", "--stats", FAILED)
+        self.check("call-13.stats.txt", "--stats", "--call", "13", FAILED)
+
+    def test_calls_from_a_pipe_are_the_same_in_the_order_of_their_ends(self):
+        with open(FAILED, "rb") as capture:
+            piped = run("--calls", "-", data=capture.read()).stdout.decode().splitlines()
+        lines = run("--calls", FAILED).stdout.decode().splitlines()
+        self.assertEqual(sorted(piped), sorted(lines))
+
+
+class Filters(unittest.TestCase):
+    def test_call_keeps_its_ras_messages(self):
+        kept = [369, 370]
+        self.assertEqual(frames(FAILED, "--call", "3"), kept)
+        self.assertEqual(frames(FAILED, "--call", "ca06"), kept)
+        self.assertEqual(frames(CALL, "--call", "202122"), frames(CALL, "--call", "1"))
+        self.assertEqual(frames(CALL, "--call", "20212"), [])
+        # All but discovery, registration and unregistration, with the answers that name no call.
+        self.assertEqual(frames(CALL, "--call", "1"), frames(CALL)[4:-2])
+
+    def test_party(self):
+        self.assertEqual(calls("--party", "2003"), [3])
+        self.assertEqual(frames(FAILED, "--party", "CARLA"), [365, 366])
+        self.assertEqual(frames(FAILED, "--party", "198.51.100.4"), [367, 368])
+        self.assertEqual(calls("--party", "192.0.2.11:50006"), [2])
+
+    def test_message(self):
+        self.assertEqual(frames(CALL, "--message", "Call Proceeding"), frames(CALL, "--message", "callproceeding"))
+        self.assertEqual(len(frames(CALL, "--message", "setup")), 1)
+        self.assertEqual(calls("--message", "openLogicalChannelReject"), [8])
+        self.assertEqual(calls("--message", "terminalCapabilitySetReject"), [11])  # tunnelled
+        self.assertEqual(calls("--message", "admissionReject", "--party", "2002"), [])
+
+    def test_family(self):
+        families = {family: frames(CALL, "--family", family) for family in ("ras", "q931", "h245")}
+        self.assertEqual([len(found) for found in families.values()], [10, 6, 16])  # one Facility carries H.245
+        self.assertEqual(calls("--family", "q931", "--until", "09:08"), [1, 2])
+
+    def test_time(self):
+        for since in ("2026-03-10T09:17:00Z", "2026-03-10 09:17", "09:17", "09:17:00.0"):
+            self.assertEqual(calls("--since", since), [12, 13], since)
+        self.assertEqual(calls("--since", "2026-03-11"), [])
+        self.assertEqual(calls("--since", "09:11", "--until", "09:11:00.0"), [6])
+        self.assertEqual(calls("--since", "09:11:00.015", "--until", "09:11:00.025"), [6])
+        for wrong in ("9:17", "09:60", "2026-02-30", "09:17:00x", "", "2026-03-10T"):
+            self.assertEqual(run("--since", wrong, FAILED).returncode, 2, wrong)
+
+    def test_faulty(self):
+        self.assertEqual(calls("--faulty"), [2, 3, 6, 7, 8, 11, 13])
+        self.assertEqual(frames(FAILED, "--faulty"), [367, 410])
+        self.assertEqual(frames(FAILED, "--faulty", "--call", "7"), [410])
+
+    def test_order_is_that_of_the_capture(self):
+        found = frames(FAILED, "--party", "2001")
+        wanted = set(found)
+        self.assertEqual(found, [frame for frame in frames(FAILED) if frame in wanted])
+
+
+if __name__ == "__main__":
+    unittest.main(argv=sys.argv[:1])
