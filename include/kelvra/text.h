@@ -6,6 +6,7 @@
 // string where there is nothing to show. They allocate, and may throw std::bad_alloc.
 #pragma once
 
+#include <stddef.h>
 #include <stdint.h>
 
 #include <string>
@@ -135,7 +136,7 @@ inline std::string Ipv4Text(const uint8_t* octets) {
 inline std::string Ipv6Text(const uint8_t* octets) {
   constexpr uint32_t kGroups = 8;
   if (octets == nullptr) return {};
-  const auto group = [octets](uint32_t i) { return static_cast<uint32_t>(octets[2 * i] << 8 | octets[2 * i + 1]); };
+  const auto group = [octets](size_t i) { return static_cast<uint32_t>(octets[2 * i] << 8 | octets[2 * i + 1]); };
   // The longest run of zeros, the first of those that are as long; one group alone is not shortened (4.2.2).
   uint32_t start = kGroups;
   uint32_t longest = 1;
