@@ -1,6 +1,6 @@
 #include "hostile/hostile_messages.h"
 
-#include "doubles/channel_writer.h"
+#include "faults/channel_writer.h"
 #include "h225/messages.h"
 #include "h225/q931_builder.h"
 #include "per/reader.h"

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "doubles/message_corpus.h"
+#include "faults/message_corpus.h"
 
 namespace kelvra::test {
 

@@ -4,8 +4,8 @@
 
 #include <algorithm>
 
-#include "doubles/fault_test.h"
-#include "doubles/message_family.h"
+#include "faults/fault_test.h"
+#include "faults/message_family.h"
 #include "hostile/hostile_messages.h"
 
 // A sanitizer's frames are larger, and not all on the stack.

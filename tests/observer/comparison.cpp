@@ -3,7 +3,7 @@
 #include <cstring>
 #include <memory>
 
-#include "doubles/record_digest.h"
+#include "faults/record_digest.h"
 #include "h225/call/q931_frame.h"
 #include "observer/observer.h"
 #include "per/decoder.h"

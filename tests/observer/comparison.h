@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "doubles/message_corpus.h"
+#include "faults/message_corpus.h"
 
 namespace kelvra::test {
 

@@ -1,4 +1,4 @@
-#include "doubles/ownership_visitor.h"
+#include "faults/ownership_visitor.h"
 
 #include <algorithm>
 

@@ -5,8 +5,8 @@
 
 #include <string>
 
-#include "doubles/heap_double.h"
-#include "doubles/message_corpus.h"
+#include "faults/heap_double.h"
+#include "faults/message_corpus.h"
 #include "per/reader.h"
 
 namespace kelvra::test {

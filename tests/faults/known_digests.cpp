@@ -1,4 +1,4 @@
-#include "doubles/known_digests.h"
+#include "faults/known_digests.h"
 
 #include <cstdio>
 #include <cstdlib>

@@ -1,4 +1,4 @@
-#include "doubles/message_corpus.h"
+#include "faults/message_corpus.h"
 
 #include <algorithm>
 #include <cstring>

@@ -12,8 +12,8 @@
 #include <string>
 #include <vector>
 
-#include "doubles/message_corpus.h"
-#include "doubles/record_digest.h"
+#include "faults/message_corpus.h"
+#include "faults/record_digest.h"
 
 namespace kelvra::test {
 

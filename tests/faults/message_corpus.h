@@ -7,7 +7,7 @@
 #include <variant>
 #include <vector>
 
-#include "doubles/ownership_visitor.h"
+#include "faults/ownership_visitor.h"
 #include "kelvra/kelvra.h"
 
 namespace kelvra::test {

@@ -1,4 +1,4 @@
-#include "doubles/record_digest.h"
+#include "faults/record_digest.h"
 
 #include <cstring>
 

@@ -1,8 +1,8 @@
 // What the diagnostic hook is told. The line of a call counts only where it is a number of its own.
 #include <gtest/gtest.h>
 
-#include "doubles/heap_double.h"
-#include "doubles/message_corpus.h"
+#include "faults/heap_double.h"
+#include "faults/message_corpus.h"
 #include "h225/call/q931_frame.h"
 #include "per/primitives.h"
 

@@ -5,8 +5,8 @@
 #include <cstdint>
 #include <vector>
 
-#include "doubles/message_corpus.h"
-#include "doubles/record_digest.h"
+#include "faults/message_corpus.h"
+#include "faults/record_digest.h"
 #include "kelvra/kelvra.h"
 
 namespace kelvra::test {

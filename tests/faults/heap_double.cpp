@@ -1,4 +1,4 @@
-#include "doubles/heap_double.h"
+#include "faults/heap_double.h"
 
 #include <algorithm>
 #include <cstdlib>

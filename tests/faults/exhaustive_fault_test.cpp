@@ -8,11 +8,11 @@
 #include <memory>
 #include <string>
 
-#include "doubles/heap_double.h"
-#include "doubles/known_digests.h"
-#include "doubles/message_corpus.h"
-#include "doubles/message_family.h"
-#include "doubles/record_digest.h"
+#include "faults/heap_double.h"
+#include "faults/known_digests.h"
+#include "faults/message_corpus.h"
+#include "faults/message_family.h"
+#include "faults/record_digest.h"
 #include "per/reader.h"
 #ifdef KELVRA_PRINT_RECORDS
 #include <nlohmann/json.hpp>

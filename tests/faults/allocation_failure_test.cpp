@@ -1,7 +1,7 @@
 // Every allocation of every carried message refused in turn, alone and with all behind it.
 #include "api/messages.h"
-#include "doubles/channel_writer.h"
-#include "doubles/fault_test.h"
+#include "faults/channel_writer.h"
+#include "faults/fault_test.h"
 #include "h245/release.h"
 #include "kelvra/h245/messages/h245_message.h"
 #include "per/decoder.h"

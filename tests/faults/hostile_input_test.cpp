@@ -2,8 +2,8 @@
 #include <algorithm>
 #include <memory>
 
-#include "doubles/channel_writer.h"
-#include "doubles/fault_test.h"
+#include "faults/channel_writer.h"
+#include "faults/fault_test.h"
 #include "per/reader.h"
 
 namespace kelvra::test {

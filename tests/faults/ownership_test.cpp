@@ -2,7 +2,7 @@
 #include <algorithm>
 #include <cstring>
 
-#include "doubles/fault_test.h"
+#include "faults/fault_test.h"
 
 namespace kelvra::test {
 namespace {
