@@ -16,7 +16,7 @@ class RecordReader : public test::BlockVisitor<RecordReader> {
   uint32_t Sum() const { return sum_; }
 
   template <class T>
-  void Block(Slot<T> slot, uint32_t count, test::BlockKind) {
+  void Block(Slot<T> slot, uint32_t count) {
     const auto* octets = reinterpret_cast<const uint8_t*>(slot.Get());
     if (octets == nullptr) return;
     ++blocks_;

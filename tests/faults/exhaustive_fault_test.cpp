@@ -8,6 +8,7 @@
 #include <memory>
 #include <string>
 
+#include "exact_buffer.h"
 #include "faults/heap_double.h"
 #include "faults/known_digests.h"
 #include "faults/message_corpus.h"
@@ -31,12 +32,11 @@ class GuardedDecode {
   using Decode = int64_t (*)(RecordType*, const uint8_t*, size_t);
 
   GuardedDecode(Decode decode, const std::vector<uint8_t>& octets, uint8_t earlier)
-      : octets_(new uint8_t[octets.size()]), room_(new uint8_t[sizeof(RecordType) + 2 * kGuard]) {
-    std::copy(octets.begin(), octets.end(), octets_.get());
+      : octets_(octets), room_(new uint8_t[sizeof(RecordType) + 2 * kGuard]) {
     std::fill_n(room_.get(), kGuard, kGuardOctet);
     std::fill_n(room_.get() + kGuard, sizeof(RecordType), earlier);
     std::fill_n(room_.get() + kGuard + sizeof(RecordType), kGuard, kGuardOctet);
-    result_ = decode(&Get(), octets_.get(), octets.size());
+    result_ = decode(&Get(), octets_.Data(), octets_.Size());
   }
 
   RecordType& Get() { return *reinterpret_cast<RecordType*>(room_.get() + kGuard); }
@@ -52,7 +52,7 @@ class GuardedDecode {
   static constexpr size_t kGuard = 64;
   static constexpr uint8_t kGuardOctet = 0xC3;
 
-  std::unique_ptr<uint8_t[]> octets_;
+  ExactBuffer octets_;
   std::unique_ptr<uint8_t[]> room_;
   int64_t result_ = 0;
 };
@@ -114,9 +114,7 @@ class ExhaustiveFaults : public testing::Test {
   }
 
   void ExpectOwned(const BlockCollector& blocks, bool mayOwn) {
-    std::vector<const void*> owned;
-    for (const BlockCollector::FoundBlock& block : blocks.Blocks()) owned.push_back(block.address);
-    std::sort(owned.begin(), owned.end());
+    const std::vector<const void*> owned = blocks.Addresses();
     EXPECT_EQ(owned, heap_.LiveBlocks());
     EXPECT_TRUE(mayOwn || owned.empty());
   }

@@ -23,7 +23,7 @@ class FaultTest : public testing::Test {
   // The record reaches every live block once, and owns none after a refusal.
   void ExpectOwnership(Family family, DecodedMessage& message, const std::string& what) {
     const std::vector<const void*> live = heap_.LiveBlocks();
-    EXPECT_EQ(message.Walk().Blocks(), live) << what;
+    EXPECT_EQ(message.Blocks().Addresses(), live) << what;
     EXPECT_TRUE(live.empty() || family == Family::kH245 || message.Accepted()) << what;
     EXPECT_LE(heap_.OctetsGranted(), kMaximumMessageMemory) << what;
   }
@@ -32,7 +32,7 @@ class FaultTest : public testing::Test {
   void ExpectCleanRelease(DecodedMessage& message, const std::string& what) {
     message.Release();
     EXPECT_TRUE(heap_.LiveBlocks().empty()) << what;
-    EXPECT_TRUE(message.Walk().Blocks().empty()) << what;
+    EXPECT_TRUE(message.Blocks().Blocks().empty()) << what;
     const size_t releases = heap_.Releases().size();
     message.Release();
     EXPECT_EQ(heap_.Releases().size(), releases) << what;

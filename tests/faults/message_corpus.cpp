@@ -60,36 +60,26 @@ std::vector<Message> EarlierRegistrations() {
   return messages;
 }
 
-DecodedMessage::DecodedMessage(Family family, const std::vector<uint8_t>& octets)
-    : family_(family), buffer_(new uint8_t[octets.size()]) {
-  std::copy(octets.begin(), octets.end(), buffer_.get());
-  const auto size = static_cast<uint32_t>(octets.size());
+DecodedMessage::DecodedMessage(Family family, const std::vector<uint8_t>& octets) : family_(family), buffer_(octets) {
   switch (family) {
     case Family::kRas: {
-      const intptr_t end = KelvraDecodeRASMessage(&Emplace<h225::RasMessageRecord>(record_), buffer_.get(), size);
-      result_ = end == 0 ? -1 : int64_t{end} - reinterpret_cast<intptr_t>(buffer_.get());
+      const intptr_t end =
+          KelvraDecodeRASMessage(&Emplace<h225::RasMessageRecord>(record_), buffer_.Data(), buffer_.Size());
+      result_ = end == 0 ? -1 : int64_t{end} - reinterpret_cast<intptr_t>(buffer_.Data());
       break;
     }
     case Family::kQ931:
-      result_ = KelvraDecodeQ931Message(&Emplace<h225::Q931MessageRecord>(record_), buffer_.get(),
-                                        static_cast<int32_t>(size));
+      result_ = KelvraDecodeQ931Message(&Emplace<h225::Q931MessageRecord>(record_), buffer_.Data(),
+                                        static_cast<int32_t>(buffer_.Size()));
       break;
     case Family::kH245:
-      result_ = KelvraDecodeH245Message(&Emplace<h245::H245MessageRecord>(record_), buffer_.get(), size);
+      result_ = KelvraDecodeH245Message(&Emplace<h245::H245MessageRecord>(record_), buffer_.Data(), buffer_.Size());
       break;
   }
 }
 
-OwnershipVisitor DecodedMessage::Walk() {
-  OwnershipVisitor visitor;
-  if (auto* ras = std::get_if<h225::RasMessageRecord>(&record_)) {
-    h225::RasMessageRecord::Walk(*ras, visitor);
-  } else if (auto* q931 = std::get_if<h225::Q931MessageRecord>(&record_)) {
-    h225::H323UserInformation::Walk(q931->userInformation, visitor);
-  } else {
-    h245::H245MessageRecord::Walk(std::get<h245::H245MessageRecord>(record_), visitor);
-  }
-  return visitor;
+BlockCollector DecodedMessage::Blocks() {
+  return std::visit([](auto& record) { return BlocksOf(record); }, record_);
 }
 
 void DecodedMessage::Release() {

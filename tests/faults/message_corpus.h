@@ -2,12 +2,12 @@
 #pragma once
 
 #include <cstdint>
-#include <memory>
 #include <string>
 #include <variant>
 #include <vector>
 
-#include "faults/ownership_visitor.h"
+#include "exact_buffer.h"
+#include "faults/record_digest.h"
 #include "kelvra/kelvra.h"
 
 namespace kelvra::test {
@@ -41,15 +41,15 @@ class DecodedMessage {
 
   void Release();
 
-  // What the record reaches. The user information of a Q.931 message is walked whether it is marked as
+  // The blocks that the record reaches. The user information of a Q.931 message is walked whether it is marked as
   // present or not.
-  OwnershipVisitor Walk();
+  BlockCollector Blocks();
 
   const h245::H245MessageRecord& H245() const { return std::get<h245::H245MessageRecord>(record_); }
 
  private:
   Family family_;
-  std::unique_ptr<uint8_t[]> buffer_;
+  ExactBuffer buffer_;
   std::variant<h225::RasMessageRecord, h225::Q931MessageRecord, h245::H245MessageRecord> record_;
   int64_t result_ = 0;
 };

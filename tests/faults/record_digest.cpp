@@ -1,5 +1,6 @@
 #include "faults/record_digest.h"
 
+#include <algorithm>
 #include <cstring>
 
 namespace kelvra::test {
@@ -36,6 +37,13 @@ void BlockCollector::AddTo(Digest& digest, const void* record, size_t size) cons
   digest.Add(record, size);
   for (const FoundBlock& block : blocks_) digest.Add(block.address, block.size);
   for (size_t i = 0; i < slots_.size(); ++i) std::memcpy(slots_[i], &blocks_[i].address, sizeof(void*));
+}
+
+std::vector<const void*> BlockCollector::Addresses() const {
+  std::vector<const void*> addresses;
+  for (const FoundBlock& block : blocks_) addresses.push_back(block.address);
+  std::sort(addresses.begin(), addresses.end());
+  return addresses;
 }
 
 BlockCollector BlocksOf(h225::RasMessageRecord& record) { return Collect(record); }

@@ -31,13 +31,15 @@ class BlockCollector : public BlockVisitor<BlockCollector> {
   };
 
   template <class T>
-  void Block(Slot<T> slot, uint32_t count, BlockKind) {
+  void Block(Slot<T> slot, uint32_t count) {
     if (slot.Get() == nullptr) return;
     slots_.push_back(slot.Address());
     blocks_.push_back({slot.Get(), count * sizeof(T)});
   }
 
   const std::vector<FoundBlock>& Blocks() const { return blocks_; }
+  // Sorted; a block that two slots share appears twice.
+  std::vector<const void*> Addresses() const;
 
   // Adds the record and all blocks, each with null in the place of its pointers.
   void AddTo(Digest& digest, const void* record, size_t size) const;

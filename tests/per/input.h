@@ -3,21 +3,23 @@
 
 #include <stdint.h>
 
-#include <memory>
 #include <string>
 #include <vector>
 
 #include "codec/memory.h"
+#include "exact_buffer.h"
 #include "per/reader.h"
 
 namespace kelvra::test {
 
 class Input {
  public:
-  // Inlined, and built with a sanitizer, GCC takes the copy of no octets for one past its block.
-  [[gnu::noinline]] explicit Input(const std::vector<uint8_t>& octets) : octets_(new uint8_t[octets.size()]) {
-    CodecCopy(octets_.get(), octets.data(), octets.size());
-    PerReaderInit(reader, octets_.get(), static_cast<uint32_t>(octets.size()));
+  explicit Input(const std::vector<uint8_t>& octets) : buffer_(octets) {
+    PerReaderInit(reader, buffer_.Data(), buffer_.Size());
+  }
+  // Of a frame that claims `length` octets, whatever there are.
+  Input(const std::vector<uint8_t>& octets, uint32_t length) : buffer_(octets) {
+    PerReaderInit(reader, buffer_.Data(), length, buffer_.Size());
   }
 
   // The next whole octet. Where a decoder stopped shows in the marker that follows its value.
@@ -27,7 +29,7 @@ class Input {
   }
   // Bits consumed so far, or bits behind the end where the reader stands there.
   uint64_t Bit() const {
-    return uint64_t{reinterpret_cast<uintptr_t>(reader.position) - reinterpret_cast<uintptr_t>(octets_.get())} * 8 +
+    return uint64_t{reinterpret_cast<uintptr_t>(reader.position) - reinterpret_cast<uintptr_t>(buffer_.Data())} * 8 +
            reader.bitOffset;
   }
   // Whether the reader stands exactly at its end with nothing pending.
@@ -36,7 +38,7 @@ class Input {
   PerReader reader;
 
  private:
-  std::unique_ptr<uint8_t[]> octets_;
+  ExactBuffer buffer_;
 };
 
 // Copies `count` elements out of a block that a primitive returned, and releases it. A null block is

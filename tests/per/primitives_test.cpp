@@ -511,14 +511,12 @@ TEST(PerReadObjectIdentifier, AlignsFirst) {
 }
 
 TEST(PerReadObjectIdentifier, ReadsZerosBehindTheCallersOctets) {
-  const std::unique_ptr<uint8_t[]> octets(new uint8_t[3]{0x04, 0x2B, 0x06});
-  PerReader reader;
-  PerReaderInit(reader, octets.get(), 5, 3);
+  Input input({0x04, 0x2B, 0x06}, 5);
   ObjectIdentifierValue value{};
-  PerReadObjectIdentifier(value, reader);
+  PerReadObjectIdentifier(value, input.reader);
   EXPECT_EQ(uint32_t{value.count}, 5u);
   EXPECT_EQ(Taken(static_cast<uint32_t*>(value.arcs), 5), (Numbers{1, 3, 6, 0, 0}));
-  EXPECT_EQ(reader.position, reader.end);
+  EXPECT_EQ(input.reader.position, input.reader.end);
 }
 
 TEST(PerReadObjectIdentifier, CountsTheCallersOctetsPastTheEndOfTheMessage) {
@@ -536,16 +534,13 @@ TEST(PerReadObjectIdentifier, CountsTheCallersOctetsPastTheEndOfTheMessage) {
   const uint8_t octets[] = {0x05, 0x2B, 0x06, 0x01, 0x02, 0x03, 0x04};
   for (const auto& c : cases) {
     SCOPED_TRACE(c.available);
-    const std::unique_ptr<uint8_t[]> buffer(new uint8_t[c.available]);
-    CodecCopy(buffer.get(), octets, c.available);
-    PerReader reader;
-    PerReaderInit(reader, buffer.get(), c.length, c.available);
+    Input input({octets, octets + c.available}, c.length);
     ObjectIdentifierValue value{};
-    PerReadObjectIdentifier(value, reader);
+    PerReadObjectIdentifier(value, input.reader);
     EXPECT_EQ(uint32_t{value.count}, c.count);
     EXPECT_EQ(static_cast<uint32_t*>(value.arcs), nullptr);
-    EXPECT_EQ(reader.position, reader.end);
-    EXPECT_EQ(reader.reread, c.lookedAt);
+    EXPECT_EQ(input.reader.position, input.reader.end);
+    EXPECT_EQ(input.reader.reread, c.lookedAt);
   }
 }
 
