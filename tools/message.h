@@ -24,7 +24,7 @@ struct Message {
   Family family = Family::kRas;
   std::vector<uint8_t> octets;  // of call signalling, with the TPKT header
   std::optional<Origin> origin;
-  std::shared_ptr<const std::string> file;  // which the message comes from; null: there is one only
+  std::shared_ptr<const std::string> file{};  // which the message comes from; null: there is one only
 };
 
 // Where a message asks its receiver to open a TCP connection, and what such a connection carries.
