@@ -68,9 +68,6 @@ void AddFilter(CLI::App& app, Filter& filter) {
 }  // namespace
 
 std::optional<int> ParseOptions(int count, char** arguments, Options& options) {
-  options.ports.ras = {1718, 1719};
-  options.ports.call_signalling = {1720};
-
   CLI::App app("Prints the H.323 signalling of a capture, or single messages.", "kelvra-dump");
   app.footer(HelpNotes());
   app.set_version_flag("--version", "kelvra-dump " KELVRA_VERSION);

@@ -82,9 +82,21 @@ CaptureReader::CaptureReader(const CapturePorts& ports, MessageSink& sink)
 CaptureReader::~CaptureReader() = default;
 
 void CaptureReader::Read(ByteSource& source) {
+  Open(source);
+  while (ReadPacket()) {
+  }
+}
+
+void CaptureReader::Open(ByteSource& source) {
   distributor_->StartFile();
-  CaptureFile file(source);
-  for (CapturedPacket packet; file.Next(packet);) distributor_->OnPacket(packet);
+  file_ = std::make_unique<CaptureFile>(source);
+}
+
+bool CaptureReader::ReadPacket() {
+  CapturedPacket packet;
+  if (!file_->Next(packet)) return false;
+  distributor_->OnPacket(packet);
+  return true;
 }
 
 void CaptureReader::Close() { distributor_->Close(); }
