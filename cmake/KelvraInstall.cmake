@@ -1,4 +1,7 @@
 # What is installed, in three components: library, development, viewer (whose program tools/ installs).
+if(KELVRA_BUILD_TOOLS)
+  list(APPEND libraries kelvra_text)
+endif()
 install(TARGETS ${libraries} EXPORT kelvraTargets
   RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT library
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT library NAMELINK_COMPONENT development
@@ -19,11 +22,14 @@ install(FILES
 set(pkgconfig_dir ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 cmake_path(RELATIVE_PATH CMAKE_INSTALL_PREFIX
   BASE_DIRECTORY ${CMAKE_INSTALL_PREFIX}/${pkgconfig_dir} OUTPUT_VARIABLE pc_prefix)
-configure_file(cmake/kelvra.pc.in ${CMAKE_CURRENT_BINARY_DIR}/kelvra.pc @ONLY)
-install(FILES ${CMAKE_CURRENT_BINARY_DIR}/kelvra.pc
-  DESTINATION ${pkgconfig_dir} COMPONENT development)
+function(kelvra_install_pkgconfig name description)
+  configure_file(cmake/kelvra.pc.in ${CMAKE_CURRENT_BINARY_DIR}/${name}.pc @ONLY)
+  install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${name}.pc DESTINATION ${pkgconfig_dir} COMPONENT development)
+endfunction()
+kelvra_install_pkgconfig(kelvra "${PROJECT_DESCRIPTION}")
 
 if(KELVRA_BUILD_TOOLS)
+  kelvra_install_pkgconfig(kelvra_text "Messages of H.323 signalling as JSON")
   install(TARGETS kelvra-dump RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT viewer)
 endif()
 install(FILES docs/records.json DESTINATION ${CMAKE_INSTALL_DATADIR}/kelvra COMPONENT development)

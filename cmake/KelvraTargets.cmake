@@ -81,6 +81,19 @@ function(kelvra_exports target def)
   set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS ${map})
 endfunction()
 
+# The name and the version of a shared library that is shipped.
+function(kelvra_shared_library target description)
+  if(NOT WIN32)
+    set_target_properties(${target} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
+    return()
+  endif()
+  set(version ${CMAKE_CURRENT_BINARY_DIR}/${target}_version.rc)
+  configure_file(${PROJECT_SOURCE_DIR}/cmake/version.rc.in ${version} @ONLY)
+  target_sources(${target} PRIVATE ${version})
+  # Programs load it by this name.
+  set_target_properties(${target} PROPERTIES PREFIX "")
+endfunction()
+
 # The types that a header describes at its outermost level, each of which has a decoder of its own.
 function(_kelvra_described_types result header)
   file(STRINGS ${header} lines
