@@ -42,12 +42,12 @@ class ExportsTest(ChecksTest):
         names = DEF.read_text()
         self.assertIn("KelvraFreeRASMessage", names)
         other = self.write("other.def", names.replace("KelvraFreeRASMessage", "KelvraFreeRASMessagf"))
-        self.assert_passes("check-exports.sh", LIBRARY, DEF)
-        self.assert_refuses("does not export what", "check-exports.sh", LIBRARY, other)
+        self.assert_passes("check-exports.sh", LIBRARY, DEF, "6")
+        self.assert_refuses("does not export what", "check-exports.sh", LIBRARY, other, "6")
 
     def test_a_list_of_no_names_is_refused(self):
         nothing = self.write("nothing.def", "LIBRARY kelvra\nEXPORTS\n")
-        self.assert_refuses("does not list six names", "check-exports.sh", LIBRARY, nothing)
+        self.assert_refuses("does not list 6 names", "check-exports.sh", LIBRARY, nothing, "6")
 
 
 class GlobalsTest(ChecksTest):
