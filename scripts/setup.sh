@@ -21,6 +21,7 @@ test_packages=(
   g++-mingw-w64-i686-posix g++-mingw-w64-x86-64-posix libz-mingw-w64-dev
   dpkg-dev lld llvm unzip zip
   chromium chromium-driver
+  python3-pip python3-setuptools python3-wheel jq sqlite3
 )
 bench_packages=(cmake ninja-build make g++ libbenchmark-dev valgrind python3)
 wine_packages=(wine wine64 wine32:i386)
