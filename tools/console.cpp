@@ -1,5 +1,7 @@
 #include "console.h"
 
+#include <sys/stat.h>
+
 #include <array>
 #include <cstdio>
 #include <filesystem>
@@ -8,7 +10,6 @@
 #include <fcntl.h>
 #include <io.h>
 #else
-#include <sys/stat.h>
 #include <unistd.h>
 #endif
 
