@@ -51,10 +51,14 @@ windows_package() {
   local name=kelvra-$version-$1 triple=i686-w64-mingw32 machine=i386
   [[ $1 == windows-x86 ]] || { triple=x86_64-w64-mingw32 machine=i386:x86-64; }
   stage "$1" "$dist/$name" "$triple-"
-  cp src/api/kelvra.def "$dist/$name/lib/"
   cp README.md CHANGELOG.md "$dist/$name/"
-  # The import library for the linkers that take Windows' own form.
-  llvm-dlltool -m "$machine" -D kelvra.dll -d src/api/kelvra.def -l "$dist/$name/lib/kelvra.lib"
+  # The import libraries for the linkers that take Windows' own form.
+  local def library
+  for def in src/api/kelvra.def tools/library/kelvra_text.def; do
+    library=$(basename "$def" .def)
+    cp "$def" "$dist/$name/lib/"
+    llvm-dlltool -m "$machine" -D "$library.dll" -d "$def" -l "$dist/$name/lib/$library.lib"
+  done
   (cd "$dist/$name" && find . -type f ! -name SHA256SUMS -printf '%P\0' | sort -z | xargs -0 sha256sum >SHA256SUMS)
   local folder
   for folder in "$name" "$name-debug"; do
