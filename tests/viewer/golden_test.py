@@ -53,7 +53,6 @@ class Golden(unittest.TestCase):
             self.check_family(family, "faulty-", {"summary": [], "octets": ["--format", "tree", "--octets"],
                                                   "json": ["--format", "json"]}, 1)
 
-    @unittest.skipUnless("reads no captures")
     def test_sample_call(self):
         self.check("call.summary", SAMPLE)
         self.check("call.relative", "--relative", SAMPLE)

@@ -43,7 +43,6 @@ class Lines(unittest.TestCase):
             for line in lines:
                 self.check(line)
 
-    @unittest.skipUnless("reads no captures")
     def test_messages_of_a_capture(self):
         lines = objects(run("--format", "json", os.path.join(TOP, "samples", "failed-calls.pcap")))
         self.assertTrue(lines)
