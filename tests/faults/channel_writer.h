@@ -10,6 +10,19 @@ namespace kelvra::test {
 
 inline void WriteNullDataType(BitWriter& writer) { writer.Bits(0b0001, 4); }
 
+// A smallest H.245 OpenLogicalChannel: nullData and no multiplex parameters.
+inline BitWriter NullChannel(uint16_t number) {
+  return BitWriter()
+      .Bits(0, 2)
+      .Align()
+      .Bits(number - 1U, 16)
+      .Bits(0, 2)
+      .Bits(1, 4)
+      .Bit(true)
+      .NormallySmall(1)
+      .OpenType(std::vector<uint8_t>());
+}
+
 // `writeDataType` takes the writer of the message.
 template <class Write>
 std::vector<uint8_t> OpenLogicalChannelMessage(Write writeDataType) {

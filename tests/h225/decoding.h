@@ -2,7 +2,6 @@
 // carry.
 #pragma once
 
-#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -34,10 +33,6 @@ class Owned {
 
   R& operator*() { return record_; }
   R* operator->() { return &record_; }
-  bool IsZero() const {
-    const auto* octets = reinterpret_cast<const uint8_t*>(&record_);
-    return std::all_of(octets, octets + sizeof record_, [](uint8_t octet) { return octet == 0; });
-  }
 
  private:
   R record_;
@@ -56,11 +51,6 @@ inline std::vector<uint8_t> OctetsOf(const OctetStringValue& value) { return Oct
 inline std::string TextOf(const OctetStringValue& value) {
   const std::vector<uint8_t> octets = OctetsOf(value);
   return {octets.begin(), octets.end()};
-}
-inline std::u16string TextOf(const BMPStringValue& value) {
-  std::u16string text;
-  for (uint32_t i = 0; value.data != nullptr && i < value.length; ++i) text += static_cast<char16_t>(value.data[i]);
-  return text;
 }
 
 // `count` octets that rise from `first`.

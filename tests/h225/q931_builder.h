@@ -3,9 +3,14 @@
 
 #include <vector>
 
-#include "h225/messages.h"
+#include "per/bit_writer.h"
 
 namespace kelvra::test {
+
+// An H323-UserInformation whose body is `empty`.
+inline BitWriter EmptyBodyInformation() {
+  return BitWriter().Bits(0, 4).Bit(true).NormallySmall(1).OpenType(std::vector<uint8_t>());
+}
 
 class Q931Builder {
  public:

@@ -16,22 +16,16 @@ using test::BitWriter;
 using test::Input;
 using test::kMarker;
 using test::Marked;
-using test::OctetsOf;
 using test::Owned;
 using test::ProtocolIdentifier;
 using Octets = std::vector<uint8_t>;
 
-// The number-th of some AliasAddresses, a single digit.
-BitWriter& Digit(BitWriter& w, uint32_t number) { return w.Bits(0, 2).Bits(0, 7).Align().Bits(3 + number % 10, 4); }
-
 // A RegistrationRequest up to its additions.
-BitWriter BeginRegistrationRequest(const Octets& protocolIdentifier, bool extended, uint32_t aliases = 0) {
+BitWriter BeginRegistrationRequest(const Octets& protocolIdentifier, bool extended) {
   BitWriter w;
-  w.Bit(extended).Bit(false).Bit(aliases != 0).Bit(false).Align().Bits(0, 16).OpenType(protocolIdentifier);
+  w.Bit(extended).Bits(0, 3).Align().Bits(0, 16).OpenType(protocolIdentifier);
   w.Bit(true).Length(0).Length(0);
   test::EmptyEndpointType(w);
-  if (aliases != 0) w.Length(aliases);
-  for (uint32_t i = 0; i < aliases; ++i) Digit(w, i);
   return w.Bits(0, 3).Bit(false).Align().Bits(0xB5, 8).Bits(0, 8).Bits(18, 16);
 }
 
@@ -43,7 +37,7 @@ BitWriter BeginRegistrationConfirm(const Octets& protocolIdentifier, bool extend
 }
 
 // A RegistrationReject up to its reason.
-BitWriter BeginRegistrationReject(uint8_t version = 9) {
+BitWriter BeginRegistrationReject(uint8_t version) {
   return BitWriter().Bits(0, 3).Align().Bits(0, 16).OpenType(ProtocolIdentifier(version));
 }
 
@@ -132,13 +126,6 @@ TEST(RegistrationTest, AdditionsAreThoseOfTheVersionNamed) {
   }
 }
 
-TEST(RegistrationTest, PreGrantThatEndsBehindItsLengthIsNotOne) {
-  BitWriter w = BeginRegistrationConfirm(ProtocolIdentifier(4), true);
-  Input input(Additions(w, Addition(6, 7), 7).Length(5));
-  Owned<RegistrationConfirm> m;
-  EXPECT_EQ(Decode(*m, input.reader), kExhausted);
-}
-
 TEST(RegistrationTest, UnknownVersionIsRefusedAtOnce) {
   ASSERT_TRUE(ReadRequest(ExtendedRequest(2)).complete);
   const Octets kIdentifiers[] = {
@@ -173,61 +160,6 @@ TEST(RegistrationTest, RejectNamesAnyVersion) {
     EXPECT_EQ(+m->rejectReason.choiceTag, 6);
     EXPECT_EQ(input.Next(), kMarker);
     EXPECT_EQ(ProtocolVersionMode(), kVersion4Mode);
-  }
-}
-
-TEST(RegistrationTest, AliasesBeyond255AreKept) {
-  Input input(Marked(BeginRegistrationRequest(ProtocolIdentifier(4), false, 300)));
-  Owned<RegistrationRequest> m;
-  ASSERT_EQ(Decode(*m, input.reader), kDecoded);
-  ASSERT_EQ(+m->terminalAliasCount, 300U);
-  EXPECT_EQ(OctetsOf(m->terminalAlias[299].dialedDigits), Octets{3 + 299 % 10});
-  EXPECT_EQ(+m->endpointVendor.vendor.manufacturerCode, 18);
-  EXPECT_EQ(input.Next(), kMarker);
-}
-
-TEST(RegistrationRejectTest, DuplicateAliasesAreListed) {
-  BitWriter w = BeginRegistrationReject().Bits(4, 4).Length(2);
-  Digit(w, 0);
-  Digit(w, 1);
-  Input input(Marked(w));
-  Owned<RegistrationReject> m;
-  ASSERT_EQ(Decode(*m, input.reader), kDecoded);
-  ASSERT_EQ(+m->rejectReason.duplicateAlias.count, 2);
-  EXPECT_EQ(OctetsOf(m->rejectReason.duplicateAlias.elements[1].dialedDigits), Octets{4});
-  EXPECT_EQ(input.Next(), kMarker);
-}
-
-TEST(RegistrationRejectTest, InvalidTerminalAliases) {
-  // An alias, a wildcard, a prefix, and an addition that is passed over.
-  BitWriter aliases;
-  aliases.Bit(true).Bits(0b111, 3).Length(1);
-  Digit(aliases, 0).Length(1).Bits(0, 2);
-  Digit(aliases, 1).Length(1).Bits(0, 2);
-  Digit(aliases, 2);
-  Additions(aliases, 1, 1).OpenType({1, 2});
-  Input input(Marked(BeginRegistrationReject().Bit(true).NormallySmall(6).OpenType(aliases)));
-  Owned<RegistrationReject> m;
-  ASSERT_EQ(Decode(*m, input.reader), kDecoded);
-  const auto& invalid = m->rejectReason.invalidTerminalAliases;
-  EXPECT_EQ(+invalid.isExtended, 1U);
-  ASSERT_EQ(+invalid.terminalAliasCount, 1);
-  EXPECT_EQ(OctetsOf(invalid.terminalAlias[0].dialedDigits), Octets{3});
-  ASSERT_EQ(+invalid.terminalAliasPatternCount, 1);
-  EXPECT_EQ(OctetsOf(invalid.terminalAliasPattern[0].wildcard.dialedDigits), Octets{4});
-  ASSERT_EQ(+invalid.supportedPrefixesCount, 1);
-  EXPECT_EQ(OctetsOf(invalid.supportedPrefixes[0].prefix.dialedDigits), Octets{5});
-  EXPECT_EQ(input.Next(), kMarker);
-}
-
-TEST(RegistrationRejectTest, OtherExtensionReasonsArePassedOver) {
-  for (const uint32_t tag : {0U, 5U, 8U, 9U, 70U, 262U}) {  // 262 has the tag of invalidTerminalAliases
-    Input input(Marked(BeginRegistrationReject().Bit(true).NormallySmall(tag).OpenType({0xFF, 2})));
-    Owned<RegistrationReject> m;
-    ASSERT_EQ(Decode(*m, input.reader), kDecoded);
-    EXPECT_EQ(uint32_t{m->rejectReason.choiceTag}, tag & 0xFF);
-    EXPECT_EQ(+m->rejectReason.invalidTerminalAliases.isExtended, 0U);
-    EXPECT_EQ(input.Next(), kMarker);
   }
 }
 

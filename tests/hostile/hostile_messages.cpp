@@ -1,7 +1,7 @@
 #include "hostile/hostile_messages.h"
 
 #include "faults/channel_writer.h"
-#include "h225/messages.h"
+#include "h225/decoding.h"
 #include "h225/q931_builder.h"
 #include "per/reader.h"
 

@@ -4,6 +4,9 @@
 
 #include <string>
 
+#include "kelvra/h225/common/endpoints.h"
+#include "record/release.h"
+
 namespace kelvra {
 namespace {
 
@@ -35,6 +38,15 @@ TEST(WalkNullChoice, NamesTheKnownAlternativesOfEachKindAndNoOther) {
   EXPECT_EQ(Heard(1, 0), "third");
   EXPECT_EQ(Heard(1, 1), "extension 1");
   EXPECT_EQ(Heard(1, 255), "extension 255");
+}
+
+TEST(ReleaseVisitor, LeavesAbsentMembersAlone) {
+  uint16_t stranger = 42;  // not from the heap
+  h225::AlternateGK gatekeeper{};
+  gatekeeper.gatekeeperIdentifier = {1, &stranger};
+  ReleaseVisitor release("test");
+  h225::AlternateGK::Walk(gatekeeper, release);
+  EXPECT_EQ(+gatekeeper.gatekeeperIdentifier.data, &stranger);
 }
 
 }  // namespace
