@@ -4,6 +4,7 @@
 #include "h225/common/protocol_version.h"
 #include "h225/decoding.h"
 #include "kelvra/h225/call/answer_uuie.h"
+#include "kelvra/h225/call/information_uuie.h"
 #include "kelvra/h225/common/addresses.h"
 #include "kelvra/h225/ras/disengage.h"
 #include "kelvra/h225/ras/resources_available.h"

@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "per/bit_writer.h"
+#include "h225/decoding.h"
 
 namespace kelvra::test {
 
