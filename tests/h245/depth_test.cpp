@@ -97,7 +97,7 @@ TEST(DepthTest, OfMultiplexElementsIsBounded) {
 TEST(DepthTest, WhatFollowsATooDeepElementIsEmpty) {
   BitWriter w;
   WriteMultiplexElement(w, kMaximumDepth + 1);
-  Input input(Marked(w));
+  Input input(w.Octets(std::vector<uint8_t>(4000)));
   Owned<h245::MultiplexElement> element;
   static_cast<void>(Decode(*element, input.reader));
   EXPECT_EQ(+element->repeatCount.finite, 1) << "the least value";
