@@ -455,15 +455,16 @@ class PcapngBlocks(unittest.TestCase):
     def test_wrong_blocks(self):
         start = self.section() + self.interface()
         whole = self.enhanced()
-        for wrong, complaint in ((whole[:-1], "ends within"), (whole[:-4] + bytes(4), "two lengths"),
-                                 (self.block(6, bytes(8)), "too short"), (self.enhanced(captured=1000), "longer than"),
-                                 (self.enhanced(interface=1), "no interface"), (self.block(6, b"", 8), "wrong length"),
-                                 (self.block(5, b"", 13), "wrong length"), (self.block(5, b"", 1000), "ends within"),
-                                 (self.block(6, b"", 0xFFFFFFF0), "longer than any"),
-                                 (self.interface((9, b"\x14")), "too finely"), (self.interface((9, b"\xc0")), "too finely"),
-                                 (self.block(1, b""), "no link type"), (self.interface(link_type=147) + self.enhanced(0, 1),
-                                                                       "link type 147"),
-                                 (self.section()[:8] + bytes(20), "byte order")):
+        wrong_blocks = (
+            (whole[:-1], "ends within"), (whole[:-4] + bytes(4), "two lengths"), (self.block(6, bytes(8)), "too short"),
+            (self.enhanced(captured=1000), "longer than"), (self.enhanced(interface=1), "no interface"),
+            (self.section() + self.enhanced(), "no interface"), (self.block(6, b"", 8), "wrong length"),
+            (self.block(5, b"", 13), "wrong length"), (self.block(5, b"", 1000), "ends within"),
+            (self.block(6, b"", 0xFFFFFFF0), "longer than any"), (self.interface((9, b"\x14")), "too finely"),
+            (self.interface((9, b"\xc0")), "too finely"), (self.block(1, b""), "no link type"),
+            (self.interface(link_type=147) + self.enhanced(0, 1), "link type 147"),
+            (self.section()[:8] + bytes(20), "byte order"))
+        for wrong, complaint in wrong_blocks:
             result = run("--format", "json", data=start + whole + wrong)
             self.assertEqual((result.returncode, len(objects(result))), (2, 1), complaint)
             self.assertIn(complaint.encode(), result.stderr)

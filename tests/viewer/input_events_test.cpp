@@ -1,6 +1,7 @@
 // What captures tell a sink besides messages.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <fstream>
 #include <string>
@@ -173,6 +174,32 @@ TEST_F(InputEvents, AnnouncedAddressWithoutMessagesIsReported) {
   EXPECT_EQ(Read({announcing, other, other}).back(),
             "notice no message was recognised at 192.0.2.2:5001, which was announced for call signalling; segments: 2");
   EXPECT_EQ(Read({announcing, Segment({1, 40001, 2, 5001}, 1, kAck)}).size(), 1U);  // opened, and nothing said
+}
+
+// Addresses from port 5001 on.
+std::vector<Announced> Ports(uint16_t count) {
+  std::vector<Announced> ports;
+  for (uint16_t i = 0; i < count; ++i) {
+    ports.push_back({MakeEndpoint(Octets{192, 0, 2, 2}, static_cast<uint16_t>(5001 + i)), Family::kQ931});
+  }
+  return ports;
+}
+
+TEST_F(InputEvents, AddressAnnouncedAgainTakesNoPlaceOfAnother) {
+  const Octets message{3, 0, 0, 8, 8, 1, 1, 0x5A};
+  recorder_.announced = std::vector<Announced>(5000, Ports(2).back());
+  recorder_.announced.front() = Ports(1).front();
+  EXPECT_EQ(Read({Segment(kForth, 1, kAck, message), Segment({1, 40001, 2, 5001}, 1, kAck, message)}).size(), 2U);
+}
+
+TEST_F(InputEvents, ReportsOfAnnouncedAddressesAreFew) {
+  recorder_.announced = Ports(10);
+  std::vector<Octets> packets{Segment(kForth, 1, kAck, {3, 0, 0, 8, 8, 1, 1, 0x5A})};
+  for (const Announced& at : Ports(10)) packets.push_back(Segment({1, 40001, 2, at.endpoint.port}, 1, kAck, {'G'}));
+  const Events events = Read(packets);
+  const auto is_report = [](const std::string& event) { return event.starts_with("notice no message"); };
+  EXPECT_EQ(std::count_if(events.begin(), events.end(), is_report), 8);
+  EXPECT_EQ(events.back(), "notice nor at further announced addresses: 2");
 }
 
 }  // namespace
