@@ -436,8 +436,9 @@ class PcapngBlocks(unittest.TestCase):
             fraction = "000000" if resolution == 0 else "500000"
             data = self.section() + self.interface((9, bytes([resolution]))) + self.enhanced(time)
             self.assertEqual(self.times(data), [f"1970-01-01T00:00:01.{fraction}Z"], resolution)
-        for offset, second in ((2, "00:00:03"), (-1, "00:00:00")):
-            data = self.section() + self.interface((2, b"eth0"), (14, struct.pack("<q", offset))) + self.enhanced(10 ** 6)
+        for self.order, offset, second in (("<", 2, "00:00:03"), ("<", -1, "00:00:00"), (">", 2, "00:00:03")):
+            options = ((2, b"eth0"), (14, struct.pack(self.order + "q", offset)))
+            data = self.section() + self.interface(*options) + self.enhanced(10 ** 6)
             self.assertEqual(self.times(data), [f"1970-01-01T{second}.000000Z"])
 
     def test_each_interface_has_its_link_type_and_units(self):
