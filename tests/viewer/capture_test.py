@@ -320,6 +320,10 @@ class Captures(unittest.TestCase):
             return objects(run("--format", "json", data=capture(frames)))[0]["family"] == "q931"
         self.assertEqual([order(n, 60) for n in (256, 257)], [False, True])
         self.assertEqual([order(n, 32_000) for n in (4, 5)], [False, True])
+        # What waited before and was delivered does not count.
+        swapped = (ethernet(ipv4(6, tcp(at, CALL))) for i in range(2000) for at in (52 + i * 102, 1 + i * 102))
+        opening = ethernet(ipv4(6, tcp(0, b"", SYN)))
+        self.assertEqual(self.names(capture([opening, *swapped])), ["releaseComplete"] * 4000)
 
     def test_each_gap_has_its_minute(self):
         def call(sequence):
