@@ -134,6 +134,7 @@ TEST_F(InputEvents, ResetOfAConnectionThatStoodIsNoRefusal) {
   const Octets reset = Segment(kBack, 1, kRst);
   EXPECT_EQ(Read({syn, Segment(kBack, 0, kSyn | kAck), reset}), Events{});
   EXPECT_EQ(Read({Segment(kForth, 5, kAck), reset}), Events{});
+  EXPECT_EQ(Read({Segment(kBack, 0, kSyn | kAck), Segment(kForth, 1, kRst)}), Events{});  // the opening was not seen
   EXPECT_EQ(Read({syn, Segment(kForth, 1, kRst)}), Events{});  // given up by the one who asked
   EXPECT_EQ(Read({Segment({1, 40000, 2, 80}, 0, kSyn), Segment({2, 80, 1, 40000}, 0, kRst)}), Events{});
 }
