@@ -309,6 +309,8 @@ class Captures(unittest.TestCase):
                        ((41, CALL[40:]), (21, CALL[20:40]), (0, b"", SYN), (1, CALL[:20])),
                        ((21, CALL[20:]), (0, CALL[:20], SYN))):
             self.assertEqual(self.names(segments(*pieces)), ["releaseComplete"], pieces)
+        data = segments((21, CALL[20:]), (0, b"", SYN), (52, CALL), (1, CALL[:20]))
+        self.assertEqual(self.names(data), ["releaseComplete"] * 2)
 
     def test_gap_is_passed_when_much_waits(self):
         ras = ethernet(ipv4(17, udp(RAS)))
@@ -351,6 +353,13 @@ class Captures(unittest.TestCase):
         for order in ((begin, middle, end), (end, middle, begin), (begin, begin, end), (middle, end, end, begin)):
             frames = [ethernet(ipv4(17, octets, 7, place)) for octets, place in order]
             self.assertEqual(self.names(capture(frames)), ["gatekeeperConfirm"])
+
+    def test_fragments_of_two_senders_are_kept_apart(self):
+        datagram = udp(RAS)
+        begin, end = ethernet(ipv4(17, datagram[:16], 7, 0x2000)), ethernet(ipv4(17, datagram[16:], 7, 2))
+        for at in (29, 33):  # the last octets of the source's and of the destination's address
+            other = end[:at] + b"\x63" + end[at + 1:]
+            self.assertEqual(self.names(capture([begin, other]), status=1), [])
 
     def test_extension_headers_of_ipv6(self):
         def extended(protocol, header, payload, kind=17):
