@@ -118,10 +118,10 @@ function(_kelvra_described_types result header)
   set(${result} ${types} PARENT_SCOPE)
 endfunction()
 
-# Writes a unit for each header with descriptions, which instantiates the decoders of its types for a <reader> that is
-# declared in <reader_header>, and a header by which no other unit does. Sets <result> to the units; they include
-# <directory>/declarations.h.
-function(kelvra_decoder_units result directory reader reader_header)
+# Writes a unit for each header with descriptions, which instantiates the function templates of <signatures> for each of
+# its types, the TYPE of a signature, and a header by which no other unit does. Sets <result> to the units; they include
+# <definitions> and <directory>/declarations.h.
+function(kelvra_type_units result directory definitions signatures)
   set(include_dir ${PROJECT_SOURCE_DIR}/include)
   file(GLOB_RECURSE headers CONFIGURE_DEPENDS RELATIVE ${include_dir}
     ${include_dir}/kelvra/h225/*.h ${include_dir}/kelvra/h235/*.h ${include_dir}/kelvra/h245/*.h)
@@ -139,16 +139,22 @@ function(kelvra_decoder_units result directory reader reader_header)
     if(family STREQUAL h235)
       set(by_hand h225)
     endif()
+    set(includes "")
+    foreach(include IN ITEMS ${header} ${by_hand}/decoders_by_hand.h ${definitions} declarations.h)
+      string(APPEND includes "#include \"${include}\"\n")
+    endforeach()
     set(instances "")
     foreach(type IN LISTS types)
       string(APPEND forward "namespace kelvra::${family} { struct ${type}; }\n")
-      string(APPEND declarations "extern template kelvra::Status kelvra::Decode(kelvra::${family}::${type}&, kelvra::${reader}&);\n")
-      string(APPEND instances "template kelvra::Status kelvra::Decode(kelvra::${family}::${type}&, kelvra::${reader}&);\n")
+      foreach(signature IN LISTS signatures)
+        string(REPLACE TYPE kelvra::${family}::${type} instance "template ${signature};\n")
+        string(APPEND declarations "extern ${instance}")
+        string(APPEND instances "${instance}")
+      endforeach()
     endforeach()
     string(REGEX REPLACE "[/.]" "_" name ${header})
     set(unit ${directory}/${name}.cpp)
-    file(CONFIGURE OUTPUT ${unit} @ONLY CONTENT
-      "#include \"${header}\"\n\n#include \"${by_hand}/decoders_by_hand.h\"\n#include \"per/define_decoder.h\"\n#include \"${reader_header}\"\n#include \"declarations.h\"\n\n${instances}")
+    file(CONFIGURE OUTPUT ${unit} @ONLY CONTENT "${includes}\n${instances}")
     list(APPEND units ${unit})
   endforeach()
   file(CONFIGURE OUTPUT ${directory}/declarations.h @ONLY CONTENT

@@ -8,19 +8,18 @@ namespace kelvra::h225 {
 namespace {
 
 template <class Record>
-void Release(Record* record) {
+void ReleaseUnlessNull(Record* record) {
   if (record == nullptr) {
     CodecTrace(kTraceDecoder, kTraceNullRecord, kReasonNullRecord, kSourceRelease, __LINE__);
     return;
   }
-  ReleaseVisitor release("codec/h323free");
-  Record::Walk(*record, release);
+  Release(*record, ReleaseVisitor("codec/h323free"));
 }
 
 }  // namespace
 
-void ReleaseRasMessage(RasMessageRecord* record) { Release(record); }
+void ReleaseRasMessage(RasMessageRecord* record) { ReleaseUnlessNull(record); }
 
-void ReleaseH323UserInformation(H323UserInformation* record) { Release(record); }
+void ReleaseH323UserInformation(H323UserInformation* record) { ReleaseUnlessNull(record); }
 
 }  // namespace kelvra::h225

@@ -4,9 +4,6 @@
 
 namespace kelvra::h245 {
 
-void ReleaseH245Message(H245MessageRecord& record) {
-  ReleaseVisitor release("codec/freeintr");
-  H245MessageRecord::Walk(record, release);
-}
+void ReleaseH245Message(H245MessageRecord& record) { Release(record, ReleaseVisitor("codec/freeintr")); }
 
 }  // namespace kelvra::h245

@@ -8,6 +8,13 @@
 
 namespace kelvra {
 
+class ReleaseVisitor;
+
+// Gives back the blocks of a record. Defined in record/define_release.h, and instantiated once for each type with a
+// name of its own.
+template <class R>
+void Release(R& record, ReleaseVisitor visitor);
+
 class ReleaseVisitor : public EmptyVisitor {
  public:
   // `sourcePath` goes along with every release, for diagnosis.
@@ -21,11 +28,11 @@ class ReleaseVisitor : public EmptyVisitor {
   void Octets(const char*, Slot<uint8_t> slot, uint32_t, OctetNotation) { Free(slot.Address(), __LINE__); }
   template <class R>
   void Record(const char*, R& record) {
-    R::Walk(record, *this);
+    Release(record, *this);
   }
   template <class R>
   void Pointer(const char*, Slot<R> slot) {
-    if (R* record = slot.Get()) R::Walk(*record, *this);
+    if (R* record = slot.Get()) Release(*record, *this);
     Free(slot.Address(), __LINE__);
   }
   template <class L, class Show>

@@ -25,8 +25,8 @@ class Owned {
  public:
   Owned() { CodecFill(&record_, 0, sizeof record_); }
   ~Owned() {
-    ReleaseVisitor release("test");
-    R::Walk(record_, release);
+    // A CHOICE of NULLs has no blocks, and no release of its own.
+    if constexpr (!kIsNullChoice<R>) Release(record_, ReleaseVisitor("test"));
   }
   Owned(const Owned&) = delete;
   Owned& operator=(const Owned&) = delete;

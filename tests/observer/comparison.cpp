@@ -19,10 +19,7 @@ struct Outcome {
   DecodeEnd end{};
 
   Outcome() { std::memset(static_cast<void*>(&record), 0, sizeof record); }
-  ~Outcome() {
-    ReleaseVisitor release("test");
-    Record::Walk(record, release);
-  }
+  ~Outcome() { Release(record, ReleaseVisitor("test")); }
   Outcome(const Outcome&) = delete;
   Outcome& operator=(const Outcome&) = delete;
 

@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "kelvra/kelvra.h"
+#include "per/decoder.h"
 
 #include "kelvra/begin_descriptions.h"
 
@@ -549,4 +550,3 @@ TEST(DescriptionsTest, FaultsOfAChoiceAreSeen) {
 }  // namespace kelvra
 
 #include "kelvra/end_descriptions.h"
-#include "per/decoder.h"
