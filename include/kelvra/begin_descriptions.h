@@ -1,7 +1,13 @@
-// The macros that descriptions are written with; kelvra/end_descriptions.h takes them back. Packed members cannot be
-// bound to references, so a macro takes the address and the type of each, and its name.
+// What every header with descriptions begins with: the macros that they are written with, which
+// kelvra/end_descriptions.h takes back, and the headers that these need. Packed members cannot be bound to references,
+// so a macro takes the address and the type of each, and its name.
 //
 // This header is included again for each header with descriptions, so it has no guard.
+
+#include <stdint.h>
+
+#include "null_choice.h"
+#include "walk.h"
 
 #if defined(__GNUC__)
 #define KELVRA_INLINE __attribute__((always_inline)) inline

@@ -1,16 +1,10 @@
 // Tokens of H.235.
 #pragma once
 
-#include <stdint.h>
-
-#include "../null_choice.h"
-#include "../walk.h"
-
 #include "../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h235 {
-
-#pragma pack(push, 1)
 
 struct NonStandardParameter {
   ObjectIdentifierValue nonStandardIdentifier;
@@ -270,8 +264,7 @@ struct CryptoToken {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h235
 
+#pragma pack(pop)
 #include "../end_descriptions.h"

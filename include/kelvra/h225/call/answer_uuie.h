@@ -1,10 +1,7 @@
 // The message bodies of the answering side: Call Proceeding, Progress, Alerting and Connect.
 #pragma once
 
-#include <stdint.h>
-
 #include "../../h245/channels/open_logical_channel.h"
-#include "../../walk.h"
 #include "../common/circuits.h"
 #include "../common/crypto_tokens.h"
 #include "../common/endpoint_type.h"
@@ -12,10 +9,9 @@
 #include "../common/services.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h225 {
-
-#pragma pack(push, 1)
 
 struct CallProceedingUUIE {
   ObjectIdentifierValue protocolIdentifier;
@@ -235,8 +231,7 @@ struct ConnectUUIE {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h225
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

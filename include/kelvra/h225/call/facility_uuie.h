@@ -1,11 +1,7 @@
 // The Facility message body.
 #pragma once
 
-#include <stdint.h>
-
 #include "../../h245/channels/open_logical_channel.h"
-#include "../../null_choice.h"
-#include "../../walk.h"
 #include "../common/circuits.h"
 #include "../common/crypto_tokens.h"
 #include "../common/endpoint_type.h"
@@ -13,10 +9,9 @@
 #include "../common/services.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h225 {
-
-#pragma pack(push, 1)
 
 KELVRA_NULL_CHOICE(NullChoice, FacilityReason, 4, "routeCallToGatekeeper", "callForwarded", "routeCallToMC",
                    "undefinedReason", "conferenceListChoice", "startH245", "noH245", "newTokens", "featureSetUpdate",
@@ -115,8 +110,7 @@ struct FacilityUUIE {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h225
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

@@ -1,9 +1,6 @@
 // H323-UserInformation, the contents of the user-user element.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../walk.h"
 #include "answer_uuie.h"
 #include "facility_uuie.h"
 #include "information_uuie.h"
@@ -11,10 +8,9 @@
 #include "setup_uuie.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h225 {
-
-#pragma pack(push, 1)
 
 struct StimulusControl {
   uint32_t hasNonStandard;
@@ -156,8 +152,7 @@ struct H323UserInformation {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h225
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

@@ -1,19 +1,15 @@
 // The Information message body, and the one that Status, Status Inquiry, Setup Acknowledge and Notify share.
 #pragma once
 
-#include <stdint.h>
-
 #include "../../h245/channels/open_logical_channel.h"
-#include "../../walk.h"
 #include "../common/circuits.h"
 #include "../common/crypto_tokens.h"
 #include "../common/protocol_identifier.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h225 {
-
-#pragma pack(push, 1)
 
 struct InformationUUIE {
   ObjectIdentifierValue protocolIdentifier;
@@ -74,8 +70,7 @@ using SetupAcknowledgeUUIE = CallStatusUUIE;
 
 using NotifyUUIE = CallStatusUUIE;
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h225
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

@@ -1,19 +1,15 @@
 // The Release Complete message body, and why calls end.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../walk.h"
 #include "../common/circuits.h"
 #include "../common/crypto_tokens.h"
 #include "../common/protocol_identifier.h"
 #include "../common/services.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h225 {
-
-#pragma pack(push, 1)
 
 struct ReleaseCompleteReason {
   uint8_t choiceTag;
@@ -110,8 +106,7 @@ struct ReleaseCompleteUUIE {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h225
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

@@ -1,11 +1,7 @@
 // The Setup message body.
 #pragma once
 
-#include <stdint.h>
-
 #include "../../h245/channels/open_logical_channel.h"
-#include "../../null_choice.h"
-#include "../../walk.h"
 #include "../common/circuits.h"
 #include "../common/crypto_tokens.h"
 #include "../common/endpoint_type.h"
@@ -13,10 +9,9 @@
 #include "../common/services.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h225 {
-
-#pragma pack(push, 1)
 
 KELVRA_NULL_CHOICE(NullChoice, ScnConnectionType, 7, "unknown", "bChannel", "hybrid2x64", "hybrid384", "hybrid1536",
                    "hybrid1920", "multirate");
@@ -174,8 +169,7 @@ struct SetupUUIE {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h225
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

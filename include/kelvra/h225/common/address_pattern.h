@@ -1,16 +1,12 @@
 // Patterns that stand for many alias addresses.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../walk.h"
 #include "addresses.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h225 {
-
-#pragma pack(push, 1)
 
 struct AddressPattern {
   struct Range {
@@ -36,8 +32,7 @@ struct AddressPattern {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h225
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

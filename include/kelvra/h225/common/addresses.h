@@ -1,10 +1,6 @@
 // Transport and alias addresses.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../null_choice.h"
-#include "../../walk.h"
 #include "identifiers.h"
 #include "non_standard.h"
 

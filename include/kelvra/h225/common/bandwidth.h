@@ -1,16 +1,12 @@
 // The addresses of channels and the bandwidth that they use. Bandwidth is in units of 100 bit/s.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../walk.h"
 #include "addresses.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h225 {
-
-#pragma pack(push, 1)
 
 struct TransportChannelInfo {
   uint32_t hasSendAddress;
@@ -69,8 +65,7 @@ struct RTPSession {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h225
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

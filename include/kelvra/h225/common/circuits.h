@@ -1,16 +1,12 @@
 // Circuits and call capacity.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../walk.h"
 #include "generic_data.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h225 {
-
-#pragma pack(push, 1)
 
 struct CicInfo {
   uint8_t cicCount;
@@ -182,8 +178,7 @@ struct CapacityReportingSpecification {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h225
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

@@ -1,17 +1,13 @@
 // Cryptographic tokens, integrity and security modes.
 #pragma once
 
-#include <stdint.h>
-
 #include "../../h235/tokens.h"
-#include "../../walk.h"
 #include "addresses.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h225 {
-
-#pragma pack(push, 1)
 
 struct EncryptIntAlg {
   uint8_t choiceTag;
@@ -173,8 +169,7 @@ struct H245Security {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h225
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

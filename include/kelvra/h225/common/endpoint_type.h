@@ -1,17 +1,13 @@
 // What an endpoint is, who made it, and the protocols it supports.
 #pragma once
 
-#include <stdint.h>
-
 #include "../../h245/capabilities/data_protocol.h"
-#include "../../walk.h"
 #include "addresses.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h225 {
-
-#pragma pack(push, 1)
 
 struct VendorIdentifier {
   H221NonStandard vendor;
@@ -285,8 +281,7 @@ struct EndpointType {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h225
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

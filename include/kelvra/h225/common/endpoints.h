@@ -1,19 +1,15 @@
 // Alternate endpoints and gatekeepers.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../walk.h"
 #include "circuits.h"
 #include "crypto_tokens.h"
 #include "endpoint_type.h"
 #include "identifiers.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h225 {
-
-#pragma pack(push, 1)
 
 struct AlternateTransportAddresses {
   uint32_t hasAnnexE;
@@ -109,8 +105,7 @@ struct AltGKInfo {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h225
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

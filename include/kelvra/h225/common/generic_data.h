@@ -1,19 +1,15 @@
 // Generic data and feature sets.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../walk.h"
 #include "addresses.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h225 {
 
 struct EnumeratedParameter;
 struct GenericData;
-
-#pragma pack(push, 1)
 
 struct GenericIdentifier {
   uint8_t choiceTag;
@@ -127,8 +123,7 @@ struct FeatureSet {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h225
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

@@ -1,16 +1,10 @@
 // Call identifiers and small shared choices.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../null_choice.h"
-#include "../../walk.h"
-
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h225 {
-
-#pragma pack(push, 1)
 
 // OCTET STRING (SIZE (16)).
 using GloballyUniqueID = OctetStringValue;
@@ -62,8 +56,7 @@ struct ScreeningIndicator {
                     "networkProvided")
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h225
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

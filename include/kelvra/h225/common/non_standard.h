@@ -1,15 +1,10 @@
 // Non-standard parameters of H.225.0.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../walk.h"
-
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h225 {
-
-#pragma pack(push, 1)
 
 struct H221NonStandard {
   uint8_t t35CountryCode;
@@ -48,8 +43,7 @@ struct NonStandardParameter {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h225
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

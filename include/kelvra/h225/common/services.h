@@ -1,17 +1,12 @@
 // Supplementary services and service control.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../null_choice.h"
-#include "../../walk.h"
 #include "non_standard.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h225 {
-
-#pragma pack(push, 1)
 
 struct Q954Details {
   uint32_t conferenceCalling;
@@ -138,8 +133,7 @@ struct ServiceControlSession {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h225
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

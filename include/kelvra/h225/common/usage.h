@@ -1,16 +1,12 @@
 // What is reported about the use that calls made of the network.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../walk.h"
 #include "non_standard.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h225 {
-
-#pragma pack(push, 1)
 
 struct RasUsageInfoTypes {
   uint8_t nonStandardUsageTypesCount;
@@ -99,8 +95,7 @@ struct RasUsageInformation {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h225
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

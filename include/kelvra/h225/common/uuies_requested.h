@@ -1,15 +1,10 @@
 // Which call-signalling messages a gatekeeper asks to be told of.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../walk.h"
-
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h225 {
-
-#pragma pack(push, 1)
 
 struct UUIEsRequested {
   uint32_t setup;
@@ -49,8 +44,7 @@ struct UUIEsRequested {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h225
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

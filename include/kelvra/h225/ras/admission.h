@@ -1,9 +1,6 @@
 // Leave to make or take a call: ARQ, ACF and ARJ.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../walk.h"
 #include "../common/addresses.h"
 #include "../common/endpoints.h"
 #include "../common/services.h"
@@ -12,10 +9,9 @@
 #include "private_form.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h225 {
-
-#pragma pack(push, 1)
 
 // What travels with aliasesInconsistent is passed over, also where it is a list of aliases.
 struct AdmissionRejectReason {
@@ -309,8 +305,7 @@ struct AdmissionReject {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h225
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

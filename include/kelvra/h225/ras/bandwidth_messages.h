@@ -1,20 +1,15 @@
 // Changes of bandwidth: BRQ, BCF and BRJ.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../null_choice.h"
-#include "../../walk.h"
 #include "../common/bandwidth.h"
 #include "../common/endpoints.h"
 #include "../common/services.h"
 #include "../common/usage.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h225 {
-
-#pragma pack(push, 1)
 
 KELVRA_NULL_CHOICE(NullChoice, BandRejectReason, 6, "notBound", "invalidConferenceID", "invalidPermission",
                    "insufficientResources", "invalidRevision", "undefinedReason", "securityDenial");
@@ -148,8 +143,7 @@ struct BandwidthReject {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h225
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

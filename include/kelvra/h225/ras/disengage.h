@@ -1,10 +1,6 @@
 // The end of a call: DRQ, DCF and DRJ.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../null_choice.h"
-#include "../../walk.h"
 #include "../call/release_complete_uuie.h"
 #include "../common/endpoints.h"
 #include "../common/services.h"
@@ -12,10 +8,9 @@
 #include "private_form.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h225 {
-
-#pragma pack(push, 1)
 
 // Input that ends with the extension bit counts as exhausted.
 struct DisengageReasonNames {
@@ -170,8 +165,7 @@ struct DisengageReject {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h225
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

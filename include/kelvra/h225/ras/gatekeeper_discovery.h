@@ -1,18 +1,13 @@
 // Gatekeeper discovery: GRQ, GCF and GRJ.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../null_choice.h"
-#include "../../walk.h"
 #include "../common/endpoints.h"
 #include "../common/services.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h225 {
-
-#pragma pack(push, 1)
 
 KELVRA_NULL_CHOICE(NullChoice, GatekeeperRejectReason, 4, "resourceUnavailable", "terminalExcluded", "invalidRevision",
                    "undefinedReason", "securityDenial", "genericDataReason", "neededFeatureNotSupported");
@@ -176,8 +171,7 @@ struct GatekeeperReject {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h225
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

@@ -1,9 +1,6 @@
 // A gatekeeper asks for the state of calls: IRQ.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../walk.h"
 #include "../common/crypto_tokens.h"
 #include "../common/generic_data.h"
 #include "../common/services.h"
@@ -11,10 +8,9 @@
 #include "../common/uuies_requested.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h225 {
-
-#pragma pack(push, 1)
 
 struct InfoRequest {
   uint16_t requestSeqNum;
@@ -70,8 +66,7 @@ struct InfoRequest {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h225
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

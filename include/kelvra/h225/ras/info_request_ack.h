@@ -1,17 +1,12 @@
 // Answers to an information response: IACK and INAK.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../null_choice.h"
-#include "../../walk.h"
 #include "../common/endpoints.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h225 {
-
-#pragma pack(push, 1)
 
 KELVRA_NULL_CHOICE(NullChoice, InfoRequestNakReason, 3, "notRegistered", "securityDenial", "undefinedReason");
 
@@ -68,8 +63,7 @@ struct InfoRequestNak {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h225
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

@@ -1,18 +1,14 @@
 // The state of an endpoint and of its calls: IRR.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../walk.h"
 #include "../call/h323_user_information.h"
 #include "../common/bandwidth.h"
 #include "../common/usage.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h225 {
-
-#pragma pack(push, 1)
 
 struct InfoRequestResponseStatus {
   uint8_t choiceTag;
@@ -164,8 +160,7 @@ struct InfoRequestResponse {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h225
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

@@ -1,18 +1,14 @@
 // Where a party is: LRQ, LCF and LRJ.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../walk.h"
 #include "../common/addresses.h"
 #include "../common/endpoints.h"
 #include "../common/services.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h225 {
-
-#pragma pack(push, 1)
 
 // What travels with aliasesInconsistent is passed over, also where it is a list of aliases.
 struct LocationRejectReason {
@@ -217,8 +213,7 @@ struct LocationReject {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h225
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

@@ -1,18 +1,14 @@
 // Messages of other kinds: NSM, and XRS, which answers one that was not understood.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../walk.h"
 #include "../common/crypto_tokens.h"
 #include "../common/generic_data.h"
 #include "../common/non_standard.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h225 {
-
-#pragma pack(push, 1)
 
 struct NonStandardMessage {
   uint16_t requestSeqNum;
@@ -68,8 +64,7 @@ struct UnknownMessageResponse {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h225
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

@@ -1,7 +1,6 @@
 // RasMessage, the outermost record of the RAS family.
 #pragma once
 
-#include "../../walk.h"
 #include "admission.h"
 #include "bandwidth_messages.h"
 #include "disengage.h"
@@ -18,10 +17,9 @@
 #include "unregistration.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h225 {
-
-#pragma pack(push, 1)
 
 // Extension alternatives reuse the tags from 0, so look at `isExtension` before `choiceTag`. An
 // alternative beyond those of the union is passed over: only its tag is kept.
@@ -100,8 +98,7 @@ struct RasMessageRecord {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h225
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

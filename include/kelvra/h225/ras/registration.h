@@ -1,9 +1,6 @@
 // Registration: RRQ, RCF and RRJ.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../walk.h"
 #include "../common/address_pattern.h"
 #include "../common/endpoints.h"
 #include "../common/protocol_identifier.h"
@@ -11,10 +8,9 @@
 #include "../common/usage.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h225 {
-
-#pragma pack(push, 1)
 
 // Version 3 sent a BOOLEAN as the tenth addition, which became `alternateTransportAddresses` in version 4.
 struct RegistrationRequest {
@@ -350,8 +346,7 @@ struct RegistrationReject {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h225
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

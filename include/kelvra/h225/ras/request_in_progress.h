@@ -1,16 +1,12 @@
 // Request in progress: RIP.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../walk.h"
 #include "../common/crypto_tokens.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h225 {
-
-#pragma pack(push, 1)
 
 struct RequestInProgress {
   uint16_t requestSeqNum;
@@ -38,8 +34,7 @@ struct RequestInProgress {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h225
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

@@ -1,18 +1,14 @@
 // Availability of resources: RAI and RAC.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../walk.h"
 #include "../common/circuits.h"
 #include "../common/crypto_tokens.h"
 #include "../common/endpoint_type.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h225 {
-
-#pragma pack(push, 1)
 
 struct ResourcesAvailableIndicate {
   uint16_t requestSeqNum;
@@ -85,8 +81,7 @@ struct ResourcesAvailableConfirm {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h225
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

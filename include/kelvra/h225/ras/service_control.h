@@ -1,20 +1,15 @@
 // Service control: SCI and SCR.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../null_choice.h"
-#include "../../walk.h"
 #include "../common/crypto_tokens.h"
 #include "../common/generic_data.h"
 #include "../common/identifiers.h"
 #include "../common/services.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h225 {
-
-#pragma pack(push, 1)
 
 struct ServiceControlIndication {
   struct CallSpecific {
@@ -106,8 +101,7 @@ struct ServiceControlResponse {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h225
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

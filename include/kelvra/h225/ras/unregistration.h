@@ -1,18 +1,13 @@
 // Unregistration: URQ, UCF and URJ.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../null_choice.h"
-#include "../../walk.h"
 #include "../common/address_pattern.h"
 #include "../common/endpoints.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h225 {
-
-#pragma pack(push, 1)
 
 KELVRA_NULL_CHOICE(NullChoice, UnregRequestReason, 4, "reregistrationRequired", "ttlExpired", "securityDenial",
                    "undefinedReason", "maintenance");
@@ -140,8 +135,7 @@ struct UnregistrationReject {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h225
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

@@ -1,16 +1,12 @@
 // Audio capabilities.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../walk.h"
 #include "../common/generic_capability.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h245 {
-
-#pragma pack(push, 1)
 
 struct IS11172AudioCapability {
   uint32_t audioLayer1;
@@ -245,8 +241,7 @@ struct AudioCapability {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h245
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

@@ -1,9 +1,6 @@
 // The CHOICE of everything an endpoint can receive, transmit or do.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../walk.h"
 #include "audio_capability.h"
 #include "conference_capability.h"
 #include "data_application.h"
@@ -12,10 +9,9 @@
 #include "video_capability.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h245 {
-
-#pragma pack(push, 1)
 
 struct Capability {
   struct H233EncryptionReceiveCapability {
@@ -89,8 +85,7 @@ struct Capability {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h245
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

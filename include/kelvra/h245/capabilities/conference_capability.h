@@ -1,16 +1,12 @@
 // Conference control and user input.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../walk.h"
 #include "../common/non_standard.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h245 {
-
-#pragma pack(push, 1)
 
 struct ConferenceCapability {
   uint32_t hasNonStandardData;
@@ -56,8 +52,7 @@ struct UserInputCapability {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h245
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

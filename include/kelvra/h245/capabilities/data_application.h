@@ -1,16 +1,12 @@
 // Data applications.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../walk.h"
 #include "../common/generic_capability.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h245 {
-
-#pragma pack(push, 1)
 
 struct DataApplicationCapability {
   struct Application {
@@ -89,8 +85,7 @@ struct DataApplicationCapability {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h245
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

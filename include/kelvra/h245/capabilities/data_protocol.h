@@ -1,17 +1,12 @@
 // Data protocols and their profiles (T.120, T.38, T.84, V.42bis).
 #pragma once
 
-#include <stdint.h>
-
-#include "../../null_choice.h"
-#include "../../walk.h"
 #include "../common/non_standard.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h245 {
-
-#pragma pack(push, 1)
 
 struct V42bis {
   uint32_t numberOfCodewords;
@@ -192,8 +187,7 @@ struct T38FaxProfile {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h245
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

@@ -1,16 +1,12 @@
 // Encryption of media, and its synchronisation.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../walk.h"
 #include "../common/non_standard.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h245 {
-
-#pragma pack(push, 1)
 
 struct EncryptionMode {
   uint32_t isExtension;
@@ -124,8 +120,7 @@ struct EncryptionSync {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h245
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

@@ -1,16 +1,12 @@
 // What an endpoint can do with channels over RTP (H.225.0).
 #pragma once
 
-#include <stdint.h>
-
-#include "../../walk.h"
 #include "../channels/h2250_parameters.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h245 {
-
-#pragma pack(push, 1)
 
 struct MediaDistributionCapability {
   uint32_t centralizedControl;
@@ -163,8 +159,7 @@ struct H2250Capability {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h245
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

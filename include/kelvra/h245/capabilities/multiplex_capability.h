@@ -1,17 +1,13 @@
 // How an endpoint multiplexes its channels.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../walk.h"
 #include "h2250_capability.h"
 #include "multiplex_format.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h245 {
-
-#pragma pack(push, 1)
 
 struct V75Capability {
   uint32_t audioHeader;
@@ -83,8 +79,7 @@ struct MultiplexCapability {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h245
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

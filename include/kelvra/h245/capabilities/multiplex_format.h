@@ -1,16 +1,12 @@
 // Multiplex formats of H.222 and H.223.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../walk.h"
 #include "../channels/network_access.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h245 {
-
-#pragma pack(push, 1)
 
 struct VCCapability {
   struct Aal1 {
@@ -307,8 +303,7 @@ struct MultiplexFormat {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h245
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

@@ -1,16 +1,12 @@
 // Streams that carry several others or protect them, and the sets of capabilities they are made of.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../walk.h"
 #include "multiplex_format.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h245 {
-
-#pragma pack(push, 1)
 
 // Entries of the capability table of which one can be in use at a time.
 struct AlternativeCapabilitySet {
@@ -85,8 +81,7 @@ struct FECCapability {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h245
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

@@ -1,17 +1,13 @@
 // What an endpoint can receive and send: the capability table, and which of its entries go together.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../walk.h"
 #include "capability.h"
 #include "multiplex_capability.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h245 {
-
-#pragma pack(push, 1)
 
 struct CapabilityTableEntry {
   uint16_t capabilityTableEntryNumber;
@@ -100,8 +96,7 @@ struct TerminalCapabilitySetReject {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h245
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

@@ -1,19 +1,14 @@
 // Video capabilities.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../null_choice.h"
-#include "../../walk.h"
 #include "../common/generic_capability.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h245 {
 
 struct VideoCapability;
-
-#pragma pack(push, 1)
 
 struct H261VideoCapability {
   uint32_t hasQcifMPI;
@@ -684,8 +679,7 @@ struct VideoCapability {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h245
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

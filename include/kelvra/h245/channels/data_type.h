@@ -1,9 +1,6 @@
 // What a logical channel carries (H.245 DataType and the types that hold it).
 #pragma once
 
-#include <stdint.h>
-
-#include "../../walk.h"
 #include "../capabilities/audio_capability.h"
 #include "../capabilities/data_application.h"
 #include "../capabilities/encryption.h"
@@ -11,12 +8,11 @@
 #include "../capabilities/video_capability.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h245 {
 
 struct DataType;
-
-#pragma pack(push, 1)
 
 struct RTPH263VideoRedundancyFrameMapping {
   uint8_t threadNumber;
@@ -295,8 +291,7 @@ struct DataType {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h245
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

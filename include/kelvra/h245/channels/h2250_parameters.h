@@ -1,18 +1,13 @@
 // Parameters of a channel over RTP (H.225.0).
 #pragma once
 
-#include <stdint.h>
-
-#include "../../null_choice.h"
-#include "../../walk.h"
 #include "../common/transport_address.h"
 #include "data_type.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h245 {
-
-#pragma pack(push, 1)
 
 struct TerminalLabel {
   uint8_t mcuNumber;
@@ -238,8 +233,7 @@ struct H2250LogicalChannelAckParameters {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h245
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

@@ -1,17 +1,12 @@
 // Parameters of a channel in an H.222, H.223 or V.76 multiplex.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../null_choice.h"
-#include "../../walk.h"
 #include "../common/non_standard.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h245 {
-
-#pragma pack(push, 1)
 
 struct H222LogicalChannelParameters {
   uint16_t resourceID;
@@ -264,8 +259,7 @@ struct V76LogicalChannelParameters {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h245
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

@@ -1,17 +1,13 @@
 // Opening a logical channel, and its acknowledgement.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../walk.h"
 #include "h2250_parameters.h"
 #include "multiplex_parameters.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h245 {
-
-#pragma pack(push, 1)
 
 struct OpenLogicalChannel {
   struct ForwardLogicalChannelParameters {
@@ -180,8 +176,7 @@ struct OpenLogicalChannelAck {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h245
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

@@ -1,18 +1,14 @@
 // Capabilities that are described by parameters (H.245 generic capabilities).
 #pragma once
 
-#include <stdint.h>
-
-#include "../../walk.h"
 #include "../capabilities/data_protocol.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h245 {
 
 struct GenericParameter;
-
-#pragma pack(push, 1)
 
 struct CapabilityIdentifier {
   uint32_t isExtension;
@@ -127,8 +123,7 @@ struct GenericCapability {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h245
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

@@ -1,15 +1,10 @@
 // Non-standard parameters of H.245.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../walk.h"
-
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h245 {
-
-#pragma pack(push, 1)
 
 // Neither this CHOICE nor h221NonStandard has an extension marker.
 struct NonStandardIdentifier {
@@ -47,8 +42,7 @@ struct NonStandardParameter {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h245
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

@@ -1,16 +1,12 @@
 // Media addresses (H.245 TransportAddress).
 #pragma once
 
-#include <stdint.h>
-
-#include "../../walk.h"
 #include "non_standard.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h245 {
-
-#pragma pack(push, 1)
 
 // The length words of strings whose size the ASN.1 fixes stay zero, save that of an iPAddress.
 struct UnicastAddress {
@@ -156,8 +152,7 @@ struct TransportAddress {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h245
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

@@ -1,17 +1,12 @@
 // Refusing, closing and asking to close a logical channel.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../null_choice.h"
-#include "../../walk.h"
 #include "../channels/h2250_parameters.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h245 {
-
-#pragma pack(push, 1)
 
 struct OpenLogicalChannelReject {
   KELVRA_NULL_CHOICE(NullChoice, Cause, 6, "unspecified", "unsuitableReverseParameters", "dataTypeNotSupported",
@@ -81,8 +76,7 @@ struct RequestChannelCloseReject {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h245
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

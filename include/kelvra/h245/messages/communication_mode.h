@@ -1,16 +1,12 @@
 // Communication modes: the sessions of a conference and what each carries.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../walk.h"
 #include "../channels/h2250_parameters.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h245 {
-
-#pragma pack(push, 1)
 
 struct CommunicationModeTableEntry {
   struct DataType {
@@ -102,8 +98,7 @@ struct CommunicationModeResponse {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h245
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

@@ -1,16 +1,12 @@
 // Commands and indications about the members of a conference.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../walk.h"
 #include "../channels/h2250_parameters.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h245 {
-
-#pragma pack(push, 1)
 
 struct SubstituteConferenceIDCommand {
   OctetStringValue conferenceIdentifier;  // 16 octets
@@ -98,8 +94,7 @@ struct ConferenceIndication {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h245
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

@@ -1,17 +1,12 @@
 // Answers to requests about the members of a conference.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../null_choice.h"
-#include "../../walk.h"
 #include "../channels/h2250_parameters.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h245 {
-
-#pragma pack(push, 1)
 
 // Also the layout of the alternatives of ConferenceResponse that tell a terminal's identifier.
 struct TerminalInformation {
@@ -150,8 +145,7 @@ struct ConferenceResponse {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h245
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

@@ -1,16 +1,12 @@
 // The command that sets up H.233 encryption.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../walk.h"
 #include "../common/non_standard.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h245 {
-
-#pragma pack(push, 1)
 
 struct EncryptionCommand {
   struct EncryptionAlgorithmID {
@@ -37,8 +33,7 @@ struct EncryptionCommand {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h245
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

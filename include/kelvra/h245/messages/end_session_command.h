@@ -1,17 +1,12 @@
 // The end of a session.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../null_choice.h"
-#include "../../walk.h"
 #include "../common/non_standard.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h245 {
-
-#pragma pack(push, 1)
 
 struct EndSessionCommand {
   KELVRA_NULL_CHOICE(NullChoice, GstnOptions, 5, "telephonyMode", "v8bis", "v34DSVD", "v34DuplexFAX", "v34H324");
@@ -34,8 +29,7 @@ struct EndSessionCommand {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h245
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

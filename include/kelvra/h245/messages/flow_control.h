@@ -1,15 +1,10 @@
 // Limits of the bit rate of a channel or multiplex.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../walk.h"
-
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h245 {
-
-#pragma pack(push, 1)
 
 // What a command or indication is about. No extension marker.
 struct MultiplexScope {
@@ -51,8 +46,7 @@ struct FlowControl {
 using FlowControlCommand = FlowControl;
 using FlowControlIndication = FlowControl;
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h245
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

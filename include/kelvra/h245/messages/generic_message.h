@@ -1,16 +1,12 @@
 // Messages that are described by parameters, one layout for every class.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../walk.h"
 #include "../common/generic_capability.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h245 {
-
-#pragma pack(push, 1)
 
 struct GenericMessage {
   CapabilityIdentifier messageIdentifier;
@@ -29,8 +25,7 @@ struct GenericMessage {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h245
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

@@ -1,16 +1,10 @@
 // Changes of an H.223 multiplex.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../null_choice.h"
-#include "../../walk.h"
-
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h245 {
-
-#pragma pack(push, 1)
 
 struct H223MultiplexReconfiguration {
   KELVRA_NULL_CHOICE(NullChoice, H223ModeChange, 4, "toLevel0", "toLevel1", "toLevel2", "toLevel2withOptionalHeader");
@@ -30,8 +24,7 @@ struct H223MultiplexReconfiguration {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h245
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

@@ -1,7 +1,6 @@
 // MultimediaSystemControlMessage, the outermost record of the H.245 family.
 #pragma once
 
-#include "../../walk.h"
 #include "../capabilities/terminal_capability_set.h"
 #include "../channels/open_logical_channel.h"
 #include "../modes/request_mode.h"
@@ -28,10 +27,9 @@
 #include "user_input.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h245 {
-
-#pragma pack(push, 1)
 
 // The CHOICE of each class. Extension alternatives reuse the tags from 0, so look at `isExtension` before
 // `choiceTag`. Of a multilink alternative only the tag is kept.
@@ -267,8 +265,7 @@ struct H245MessageRecord {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h245
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

@@ -2,18 +2,13 @@
 // the terminal, and which function it lacks.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../null_choice.h"
-#include "../../walk.h"
 #include "../common/transport_address.h"
 #include "flow_control.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h245 {
-
-#pragma pack(push, 1)
 
 struct JitterIndication {
   MultiplexScope scope;
@@ -100,8 +95,7 @@ struct FunctionNotSupported {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h245
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

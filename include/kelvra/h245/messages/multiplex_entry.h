@@ -1,17 +1,12 @@
 // Entries of the H.223 multiplex table: sending them, asking for them, and the answers.
 #pragma once
 
-#include <stdint.h>
-
 #include "../../list.h"
-#include "../../null_choice.h"
-#include "../../walk.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h245 {
-
-#pragma pack(push, 1)
 
 struct MultiplexElement {
   struct Type {
@@ -156,8 +151,7 @@ struct RequestMultiplexEntryReject {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h245
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

@@ -1,9 +1,6 @@
 // The messages that each vendor defines, one layout for every class.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../walk.h"
 #include "../common/non_standard.h"
 #include "private_message.h"
 

@@ -2,15 +2,10 @@
 // has their ASN.1.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../walk.h"
-
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h245 {
-
-#pragma pack(push, 1)
 
 // The four sets, one for each message class, are alike.
 struct PrivateMessage {
@@ -25,8 +20,7 @@ struct PrivateMessage {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h245
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

@@ -1,15 +1,10 @@
 // The command to send capabilities again.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../walk.h"
-
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h245 {
-
-#pragma pack(push, 1)
 
 struct SendTerminalCapabilitySet {
   struct SpecificRequest {
@@ -45,8 +40,7 @@ struct SendTerminalCapabilitySet {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h245
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

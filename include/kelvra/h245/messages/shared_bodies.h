@@ -1,15 +1,10 @@
 // Bodies that several messages share, and the names of these messages.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../walk.h"
-
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h245 {
-
-#pragma pack(push, 1)
 
 // Only the extension bit.
 struct EmptyBody {
@@ -53,8 +48,7 @@ using OpenLogicalChannelConfirm = ForwardLogicalChannelNumberBody;
 using RequestChannelCloseAck = ForwardLogicalChannelNumberBody;
 using RequestChannelCloseRelease = ForwardLogicalChannelNumberBody;
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h245
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

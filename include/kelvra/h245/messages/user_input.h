@@ -1,16 +1,12 @@
 // What a user types on a keypad.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../walk.h"
 #include "../common/non_standard.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h245 {
-
-#pragma pack(push, 1)
 
 struct UserInputIndication {
   struct UserInputSupportIndication {
@@ -120,8 +116,7 @@ struct UserInputIndication {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h245
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

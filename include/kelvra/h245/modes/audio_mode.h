@@ -1,17 +1,12 @@
 // Audio modes that a peer asks for.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../null_choice.h"
-#include "../../walk.h"
 #include "../capabilities/audio_capability.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h245 {
-
-#pragma pack(push, 1)
 
 KELVRA_NULL_CHOICE(UnextensibleNullChoice, AudioLayer, 3, "audioLayer1", "audioLayer2", "audioLayer3");
 
@@ -123,8 +118,7 @@ struct AudioMode {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h245
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

@@ -1,16 +1,12 @@
 // Data modes that a peer asks for.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../walk.h"
 #include "../capabilities/data_application.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h245 {
-
-#pragma pack(push, 1)
 
 struct DataMode {
   struct Application {
@@ -65,8 +61,7 @@ struct DataMode {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h245
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

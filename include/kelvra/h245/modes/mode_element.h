@@ -1,18 +1,13 @@
 // One stream of a requested mode: its type and the parameters of the multiplex it travels in.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../null_choice.h"
-#include "../../walk.h"
 #include "../channels/multiplex_parameters.h"
 #include "mode_element_type.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h245 {
-
-#pragma pack(push, 1)
 
 using H223ModeParameters = H223LogicalChannelParameters;
 
@@ -93,8 +88,7 @@ struct ModeElement {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h245
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

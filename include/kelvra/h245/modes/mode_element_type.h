@@ -1,22 +1,18 @@
 // What one stream of a requested mode is to carry (H.245 ModeElementType and the types that hold it).
 #pragma once
 
-#include <stdint.h>
-
-#include "../../walk.h"
 #include "../channels/data_type.h"
 #include "audio_mode.h"
 #include "data_mode.h"
 #include "video_mode.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h245 {
 
 struct ModeElementType;
 struct MultiplePayloadStreamElementMode;
-
-#pragma pack(push, 1)
 
 struct H235Mode {
   struct MediaMode {
@@ -211,8 +207,7 @@ struct MultiplePayloadStreamElementMode {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h245
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"

@@ -1,17 +1,12 @@
 // Video modes that a peer asks for.
 #pragma once
 
-#include <stdint.h>
-
-#include "../../null_choice.h"
-#include "../../walk.h"
 #include "../capabilities/video_capability.h"
 
 #include "../../begin_descriptions.h"
+#pragma pack(push, 1)
 
 namespace kelvra::h245 {
-
-#pragma pack(push, 1)
 
 struct H261VideoMode {
   KELVRA_NULL_CHOICE(UnextensibleNullChoice, Resolution, 2, "qcif", "cif");
@@ -144,8 +139,7 @@ struct VideoMode {
   KELVRA_END
 };
 
-#pragma pack(pop)
-
 }  // namespace kelvra::h245
 
+#pragma pack(pop)
 #include "../../end_descriptions.h"
