@@ -45,13 +45,14 @@ inline constexpr int64_t kUnsigned32Maximum = 0xFFFFFFFF;
 
 struct BooleanKind {};
 struct NullKind {};
-struct IntegerKind {
+struct NumberKind {};
+struct IntegerKind : NumberKind {
   int64_t low, high;
 };
-struct ExtensibleIntegerKind {
+struct ExtensibleIntegerKind : NumberKind {
   int64_t low, high;
 };
-struct UnconstrainedIntegerKind {};
+struct UnconstrainedIntegerKind : NumberKind {};
 struct ObjectIdentifierKind {};
 
 // The units that a string is encoded in.
@@ -64,34 +65,37 @@ enum class StringUnits : uint8_t {
   kPrintableCharacters,
   kWideCharacters,
 };
+template <OctetNotation kNotation>
+struct StringKind {};
 // SIZE (size), SIZE (low..high), and a length determinant.
 template <StringUnits kUnits, OctetNotation kNotation>
-struct FixedStringKind {
+struct FixedStringKind : StringKind<kNotation> {
   uint32_t size;
 };
 template <StringUnits kUnits, OctetNotation kNotation>
-struct SizedStringKind {
+struct SizedStringKind : StringKind<kNotation> {
   uint32_t low, high;
 };
 template <StringUnits kUnits, OctetNotation kNotation>
-struct UnsizedStringKind {};
-struct ClearedOctetStringKind {};
+struct UnsizedStringKind : StringKind<kNotation> {};
+struct ClearedOctetStringKind : StringKind<OctetNotation::kOctets> {};
 struct UncountedOctetStringKind {
   uint32_t size;
 };
-struct CheckedIA5StringKind {
+struct CheckedIA5StringKind : StringKind<OctetNotation::kCharacters> {
   uint32_t low, high;
 };
-struct SignalTypeKind {};
+struct SignalTypeKind : StringKind<OctetNotation::kCharacters> {};
 
-struct DefinedTypeKind {};
-struct InlineTypeKind {};
+struct RecordKind {};
+struct DefinedTypeKind : RecordKind {};
+struct InlineTypeKind : RecordKind {};
 struct IndirectKind {};
 template <class Kind>
 struct AliasKind {
   Kind kind;
 };
-struct ContainingKind {};
+struct ContainingKind : RecordKind {};
 template <class Kind>
 struct EvenIfMissingKind {
   Kind kind;
@@ -118,9 +122,9 @@ constexpr BooleanKind Boolean() { return {}; }
 // NULL; where a record has a member for it, that stays zero.
 constexpr NullKind Null() { return {}; }
 // INTEGER (low..high). The number is not checked against its range where its field is wider.
-constexpr IntegerKind Integer(int64_t low, int64_t high) { return {low, high}; }
+constexpr IntegerKind Integer(int64_t low, int64_t high) { return {{}, low, high}; }
 // INTEGER (low..high, ...).
-constexpr ExtensibleIntegerKind ExtensibleInteger(int64_t low, int64_t high) { return {low, high}; }
+constexpr ExtensibleIntegerKind ExtensibleInteger(int64_t low, int64_t high) { return {{}, low, high}; }
 // INTEGER.
 constexpr UnconstrainedIntegerKind Integer() { return {}; }
 // OBJECT IDENTIFIER.
@@ -130,8 +134,8 @@ constexpr ObjectIdentifierKind ObjectIdentifier() { return {}; }
 
 template <StringUnits kUnits, OctetNotation kNotation>
 struct StringWord {
-  constexpr SizedStringKind<kUnits, kNotation> operator()(uint32_t low, uint32_t high) const { return {low, high}; }
-  constexpr FixedStringKind<kUnits, kNotation> operator()(uint32_t size) const { return {size}; }
+  constexpr SizedStringKind<kUnits, kNotation> operator()(uint32_t low, uint32_t high) const { return {{}, low, high}; }
+  constexpr FixedStringKind<kUnits, kNotation> operator()(uint32_t size) const { return {{}, size}; }
   constexpr UnsizedStringKind<kUnits, kNotation> operator()() const { return {}; }
 };
 
@@ -145,7 +149,7 @@ constexpr UncountedOctetStringKind UncountedOctetString(uint32_t size) { return 
 inline constexpr StringWord<StringUnits::kOctets, OctetNotation::kCharacters> IA5String{};
 inline constexpr StringWord<StringUnits::kOctets, OctetNotation::kCharacters> GeneralString{};
 // IA5String (SIZE (low..high)) whose length is checked against `high`, which its 16 bits can exceed.
-constexpr CheckedIA5StringKind CheckedIA5String(uint32_t low, uint32_t high) { return {low, high}; }
+constexpr CheckedIA5StringKind CheckedIA5String(uint32_t low, uint32_t high) { return {{}, low, high}; }
 // IA5String (SIZE (1)) of few characters, which is not aligned (X.691 27.5.6).
 constexpr SignalTypeKind SignalType() { return {}; }
 // IA5String (FROM ("0123456789#*,")), 4 bits per character, kept as codes.
@@ -161,9 +165,9 @@ inline constexpr StringWord<StringUnits::kWideCharacters, OctetNotation::kCharac
 
 // BIT STRING.
 constexpr SizedStringKind<StringUnits::kBits, OctetNotation::kBits> BitString(uint32_t low, uint32_t high) {
-  return {low, high};
+  return {{}, low, high};
 }
-constexpr FixedStringKind<StringUnits::kBits, OctetNotation::kFixedBits> BitString(uint32_t size) { return {size}; }
+constexpr FixedStringKind<StringUnits::kBits, OctetNotation::kFixedBits> BitString(uint32_t size) { return {{}, size}; }
 constexpr UnsizedStringKind<StringUnits::kBits, OctetNotation::kBits> BitString() { return {}; }
 
 // --- Records ---
@@ -227,36 +231,24 @@ using Flag = Scalar<uint32_t>;
 namespace detail {
 
 template <class T>
-struct PlaceMaker {
-  static T& Make(void* address) { return *static_cast<T*>(address); }
-};
+T& MakePlace(void* address, T*) {
+  return *static_cast<T*>(address);
+}
 template <class T>
-struct PlaceMaker<T*> {
-  static Slot<T> Make(void* address) { return Slot<T>(address); }
-};
-template <>
-struct PlaceMaker<uint8_t> {
-  static Scalar<uint8_t> Make(void* address) { return Scalar<uint8_t>(address); }
-};
-template <>
-struct PlaceMaker<uint16_t> {
-  static Scalar<uint16_t> Make(void* address) { return Scalar<uint16_t>(address); }
-};
-template <>
-struct PlaceMaker<uint32_t> {
-  static Scalar<uint32_t> Make(void* address) { return Scalar<uint32_t>(address); }
-};
-template <>
-struct PlaceMaker<int32_t> {
-  static Scalar<int32_t> Make(void* address) { return Scalar<int32_t>(address); }
-};
+Slot<T> MakePlace(void* address, T**) {
+  return Slot<T>(address);
+}
+inline Scalar<uint8_t> MakePlace(void* address, uint8_t*) { return Scalar<uint8_t>(address); }
+inline Scalar<uint16_t> MakePlace(void* address, uint16_t*) { return Scalar<uint16_t>(address); }
+inline Scalar<uint32_t> MakePlace(void* address, uint32_t*) { return Scalar<uint32_t>(address); }
+inline Scalar<int32_t> MakePlace(void* address, int32_t*) { return Scalar<int32_t>(address); }
 
 }  // namespace detail
 
 // The place of a member: a record by reference, a pointer by its slot, any other scalar by its address.
 template <class T>
 decltype(auto) PlaceOf(const void* address) {
-  return detail::PlaceMaker<T>::Make(const_cast<void*>(address));
+  return detail::MakePlace(const_cast<void*>(address), static_cast<T*>(nullptr));
 }
 
 // --- Kinds that refer to another member ---
@@ -273,10 +265,10 @@ inline SplitOctetStringKind OctetStringOf(Scalar<uint32_t> length) { return {len
 inline FixedSplitOctetStringKind OctetStringOf(Scalar<uint32_t> length, uint32_t size) { return {length, size}; }
 
 // An inline SEQUENCE whose extension bit is kept in `flag`, a member of what holds it.
-struct ExtendedInlineTypeKind {
+struct ExtendedInlineTypeKind : RecordKind {
   Flag flag;
 };
-inline ExtendedInlineTypeKind InlineTypeExtendedBy(Flag flag) { return {flag}; }
+inline ExtendedInlineTypeKind InlineTypeExtendedBy(Flag flag) { return {{}, flag}; }
 
 // An addition that is read where `flag`, that of another addition, is set.
 template <class Kind>

@@ -76,6 +76,11 @@ typename detail::ListViewOf<Pointer, Count>::Type ListAt(const void* count, cons
   return {count, elements};
 }
 
+// A list by its place.
+template <class Element, class Count>
+ListView<Element, Count> ListOf(ListView<Element, Count> list) {
+  return list;
+}
 // A list that is a record of its own, with `count` and `elements`, as an alternative of a CHOICE is.
 template <class Record>
 auto ListOf(Record& list) {

@@ -74,18 +74,9 @@ class ValueWalk {
   void Show(const char*, Place&& place, NamedKind<Kind> named) {
     Show(named.name, place, named.kind);
   }
-  template <class Place, class Kind>
-  void Show(const char* name, Place&& place, AliasKind<Kind> alias) {
-    Show(name, place, alias.kind);
-  }
-
-  template <class Place, class Kind>
-  void Show(const char* name, Place&& place, GatedKind<Kind> gated) {
-    Show(name, place, gated.kind);
-  }
-  template <class Place, class Kind>
-  void Show(const char* name, Place&& place, EvenIfMissingKind<Kind> element) {
-    Show(name, place, element.kind);
+  template <class Place, template <class> class Wrapper, class Kind>
+  void Show(const char* name, Place&& place, Wrapper<Kind> wrapper) {
+    Show(name, place, wrapper.kind);
   }
 
   void Show(const char* name, Flag place, BooleanKind) { visitor_.Boolean(name, place.Get()); }
@@ -94,35 +85,20 @@ class ValueWalk {
     visitor_.Null(name);
   }
   template <class T>
-  void Show(const char* name, Scalar<T> place, IntegerKind) {
-    visitor_.Number(name, place.Get());
-  }
-  template <class T>
-  void Show(const char* name, Scalar<T> place, ExtensibleIntegerKind) {
-    visitor_.Number(name, place.Get());
-  }
-  template <class T>
-  void Show(const char* name, Scalar<T> place, UnconstrainedIntegerKind) {
+  void Show(const char* name, Scalar<T> place, NumberKind) {
     visitor_.Number(name, place.Get());
   }
   void Show(const char* name, ObjectIdentifierValue& value, ObjectIdentifierKind) {
     visitor_.ObjectIdentifier(name, value);
   }
 
-  template <class Value, StringUnits kUnits, OctetNotation kNotation>
-  void Show(const char* name, Value& value, FixedStringKind<kUnits, kNotation>) {
-    ShowString(name, value, kNotation);
+  template <OctetNotation kNotation>
+  void Show(const char* name, OctetStringValue& value, StringKind<kNotation>) {
+    visitor_.Octets(name, Slot<uint8_t>(&value.data), value.length, kNotation);
   }
-  template <class Value, StringUnits kUnits, OctetNotation kNotation>
-  void Show(const char* name, Value& value, SizedStringKind<kUnits, kNotation>) {
-    ShowString(name, value, kNotation);
-  }
-  template <class Value, StringUnits kUnits, OctetNotation kNotation>
-  void Show(const char* name, Value& value, UnsizedStringKind<kUnits, kNotation>) {
-    ShowString(name, value, kNotation);
-  }
-  void Show(const char* name, OctetStringValue& value, ClearedOctetStringKind) {
-    ShowString(name, value, OctetNotation::kOctets);
+  template <OctetNotation kNotation>
+  void Show(const char* name, BMPStringValue& value, StringKind<kNotation>) {
+    visitor_.WideCharacters(name, value);
   }
   void Show(const char* name, OctetStringValue& value, UncountedOctetStringKind kind) {
     visitor_.Octets(name, Slot<uint8_t>(&value.data), kind.size, OctetNotation::kOctets);
@@ -133,27 +109,9 @@ class ValueWalk {
   void Show(const char* name, Slot<uint8_t> slot, FixedSplitOctetStringKind kind) {
     visitor_.Octets(name, slot, kind.size, OctetNotation::kOctets);
   }
-  void Show(const char* name, OctetStringValue& value, CheckedIA5StringKind) {
-    ShowString(name, value, OctetNotation::kCharacters);
-  }
-  void Show(const char* name, OctetStringValue& value, SignalTypeKind) {
-    ShowString(name, value, OctetNotation::kCharacters);
-  }
 
   template <class R>
-  void Show(const char* name, R& record, DefinedTypeKind) {
-    visitor_.Record(name, record);
-  }
-  template <class R>
-  void Show(const char* name, R& record, InlineTypeKind) {
-    visitor_.Record(name, record);
-  }
-  template <class R>
-  void Show(const char* name, R& record, ExtendedInlineTypeKind) {
-    visitor_.Record(name, record);
-  }
-  template <class R>
-  void Show(const char* name, R& record, ContainingKind) {
+  void Show(const char* name, R& record, RecordKind) {
     visitor_.Record(name, record);
   }
   template <class R>
@@ -163,32 +121,19 @@ class ValueWalk {
 
   template <class Place, class Kind>
   void Show(const char* name, Place&& place, SequenceOfKind<Kind> kind) {
-    ShowList(name, AsList(place), kind.element);
+    ShowList(name, ListOf(place), kind.element);
   }
   template <class Place, class Kind>
   void Show(const char* name, Place&& place, SizedSequenceOfKind<Kind> kind) {
-    ShowList(name, AsList(place), kind.element);
+    ShowList(name, ListOf(place), kind.element);
   }
 
  private:
-  void ShowString(const char* name, OctetStringValue& value, OctetNotation notation) {
-    visitor_.Octets(name, Slot<uint8_t>(&value.data), value.length, notation);
-  }
-  void ShowString(const char* name, BMPStringValue& value, OctetNotation) { visitor_.WideCharacters(name, value); }
-
   template <class List, class Kind>
   void ShowList(const char* name, List list, Kind kind) {
     visitor_.List(name, list, [this, kind](auto& element) {
       this->Show(nullptr, PlaceOf<typename List::Element>(&element), kind);
     });
-  }
-  template <class Element, class Count>
-  static ListView<Element, Count> AsList(ListView<Element, Count> list) {
-    return list;
-  }
-  template <class Record>
-  static auto AsList(Record& list) {
-    return ListOf(list);
   }
 
   Visitor& visitor_;

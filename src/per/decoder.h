@@ -127,7 +127,7 @@ class ValueReader {
   template <class Place, class Kind>
   [[gnu::always_inline]] Status ReadOpen(const char* name, Place&& place, Kind kind) {
     if constexpr (kIsSharedList<Kind> && !R::kObserves) {
-      const auto list = AsList(place);
+      const auto list = ListOf(place);
       return ReadOpenSequenceOf<kReports>(r, Untyped(list), TypeOfElements(list, kind.element));
     } else {
       return ReadOpenHere(name, place, kind);
@@ -248,12 +248,12 @@ class ValueReader {
 
   template <class Place, class Kind>
   [[gnu::always_inline]] Status Value(Place& place, asn1::SequenceOfKind<Kind> kind) {
-    const auto list = AsList(place);
+    const auto list = ListOf(place);
     return ReadTyped(list, PerReadLength(r), kind.element);
   }
   template <class Place, class Kind>
   [[gnu::always_inline]] Status Value(Place& place, asn1::SizedSequenceOfKind<Kind> kind) {
-    const auto list = AsList(place);
+    const auto list = ListOf(place);
     return ReadTyped(list, PerReadNumber<uint32_t>(r, kind.low, kind.high), kind.element);
   }
 
@@ -268,15 +268,6 @@ class ValueReader {
     } else {
       return Decode(record, r);
     }
-  }
-
-  template <class Element, class Count>
-  static ListView<Element, Count> AsList(ListView<Element, Count> list) {
-    return list;
-  }
-  template <class Record>
-  static auto AsList(Record& list) {
-    return ListOf(list);
   }
 
   template <class Element, class Count>
