@@ -17,6 +17,13 @@ inline bool IsMissing(PerReader& reader) {
   return true;
 }
 
+// Whether a string of `count` units has all of the octets that it needs, and any unit at all.
+inline bool HasString(PerReader& reader, uint32_t count, bool hasOctets) {
+  if (count == 0 || IsMissing(reader)) return false;
+  if (!hasOctets) PerMoveToEnd(reader, PerCause::kLengthPastEnd);
+  return hasOctets;
+}
+
 uint64_t LoadWord(const uint8_t* octets) {
   uint64_t word = 0;
   __builtin_memcpy(&word, octets, sizeof word);
@@ -96,11 +103,7 @@ Character* ReadCharacters(PerReader& reader, uint32_t count, Map map) {
 
 template <class Map>
 uint8_t* ReadNibbleString(PerReader& reader, uint32_t count, Map map) {
-  if (count == 0 || IsMissing(reader)) return nullptr;
-  if (count / 2 > PerOctetsLeft(reader) + 1) {
-    PerMoveToEnd(reader, PerCause::kLengthPastEnd);
-    return nullptr;
-  }
+  if (!HasString(reader, count, count / 2 <= PerOctetsLeft(reader) + 1)) return nullptr;
   return ReadCharacters<uint8_t, 4>(reader, count, map);
 }
 
@@ -207,11 +210,7 @@ int32_t PerReadInteger(PerReader& reader) {
 }
 
 uint8_t* PerReadOctets(PerReader& reader, uint32_t count) {
-  if (count == 0 || IsMissing(reader)) return nullptr;
-  if (count > PerOctetsLeft(reader)) {
-    PerMoveToEnd(reader, PerCause::kLengthPastEnd);
-    return nullptr;
-  }
+  if (!HasString(reader, count, count <= PerOctetsLeft(reader))) return nullptr;
   auto* octets = static_cast<uint8_t*>(PerAllocate(reader, count));
   if (octets == nullptr) return nullptr;
   PerAlign(reader);
@@ -237,11 +236,7 @@ void PerReadClearedOctetString(OctetStringValue& value, PerReader& reader) {
 }
 
 uint8_t* PerReadBitString(PerReader& reader, uint32_t count) {
-  if (count == 0 || IsMissing(reader)) return nullptr;
-  if (count / 8 > PerOctetsLeft(reader) + 1) {
-    PerMoveToEnd(reader, PerCause::kLengthPastEnd);
-    return nullptr;
-  }
+  if (!HasString(reader, count, count / 8 <= PerOctetsLeft(reader) + 1)) return nullptr;
   auto* octets = static_cast<uint8_t*>(PerAllocate(reader, (uint64_t{count} + 7) / 8));
   if (octets == nullptr) return nullptr;
   if (count > 16) PerAlign(reader);
@@ -270,20 +265,12 @@ uint8_t* PerReadTBCDString(PerReader& reader, uint32_t count) {
 }
 
 uint8_t* PerReadPrintableString(PerReader& reader, uint32_t count) {
-  if (count == 0 || IsMissing(reader)) return nullptr;
-  if (count > PerOctetsLeft(reader)) {
-    PerMoveToEnd(reader, PerCause::kLengthPastEnd);
-    return nullptr;
-  }
+  if (!HasString(reader, count, count <= PerOctetsLeft(reader))) return nullptr;
   return ReadCharacters<uint8_t, 8>(reader, count, PrintableCharacter);
 }
 
 uint16_t* PerReadBMPString(PerReader& reader, uint32_t count) {
-  if (count == 0 || IsMissing(reader)) return nullptr;
-  if (uint64_t{count} * 2 > PerOctetsLeft(reader)) {
-    PerMoveToEnd(reader, PerCause::kLengthPastEnd);
-    return nullptr;
-  }
+  if (!HasString(reader, count, uint64_t{count} * 2 <= PerOctetsLeft(reader))) return nullptr;
   return ReadCharacters<uint16_t, 16>(reader, count, [](uint32_t unit) { return unit; });
 }
 
