@@ -28,13 +28,6 @@ void ClearRecord(Record* record) {
   }
 }
 
-// RAS and H.245 keep the low 16 bits of a length.
-PerReader ReaderOver(const uint8_t* buffer, uint32_t length) {
-  PerReader reader;
-  kelvra::PerReaderInit(reader, buffer, static_cast<uint16_t>(length));
-  return reader;
-}
-
 }  // namespace
 
 extern "C" {
@@ -42,7 +35,7 @@ extern "C" {
 intptr_t KELVRA_CALL KelvraDecodeRASMessage(RasMessageRecord* record, const uint8_t* buffer, uint32_t length) {
   if (record == nullptr || buffer == nullptr) return 0;
   ClearRecord(record);
-  PerReader reader = ReaderOver(buffer, length);
+  PerReader reader = kelvra::PerReaderOver(buffer, length);
   const kelvra::Status status = kelvra::Decode(*record, reader);
   if (status != kelvra::kDecoded || reader.position == reader.end) {
     kelvra::h225::ReleaseRasMessage(record);
@@ -67,7 +60,7 @@ void KELVRA_CALL KelvraFreeQ931Message(Q931MessageRecord* record) {
 int32_t KELVRA_CALL KelvraDecodeH245Message(H245MessageRecord* record, const uint8_t* buffer, uint32_t length) {
   if (record == nullptr || buffer == nullptr) return -1;
   ClearRecord(record);
-  PerReader reader = ReaderOver(buffer, length);
+  PerReader reader = kelvra::PerReaderOver(buffer, length);
   static_cast<void>(kelvra::Decode(*record, reader));
   kelvra::PerAlign(reader);
   return reader.position == reader.end ? 1 : 0;

@@ -143,18 +143,11 @@ DecodeEnd Observe(Record& record, const PerReader& reader, DecodeObserver& obser
   return {status, observed.Bit(), PerAtEnd(observed), observed.Departed()};
 }
 
-// RAS and H.245 keep the low 16 bits of a length.
-PerReader ReaderOver(const uint8_t* buffer, uint32_t length) {
-  PerReader reader;
-  PerReaderInit(reader, buffer, static_cast<uint16_t>(length));
-  return reader;
-}
-
 }  // namespace
 
 DecodeEnd ObserveRas(h225::RasMessageRecord& record, const uint8_t* buffer, uint32_t length, DecodeObserver& observer,
                      const ObserverRules& rules) {
-  return Observe(record, ReaderOver(buffer, length), observer, rules);
+  return Observe(record, PerReaderOver(buffer, length), observer, rules);
 }
 
 DecodeEnd ObserveUserInformation(h225::H323UserInformation& record, const uint8_t* buffer, int32_t length,
@@ -176,7 +169,7 @@ DecodeEnd ObserveUserInformation(h225::H323UserInformation& record, const uint8_
 
 DecodeEnd ObserveH245(h245::H245MessageRecord& record, const uint8_t* buffer, uint32_t length, DecodeObserver& observer,
                       const ObserverRules& rules) {
-  return Observe(record, ReaderOver(buffer, length), observer, rules);
+  return Observe(record, PerReaderOver(buffer, length), observer, rules);
 }
 
 }  // namespace kelvra

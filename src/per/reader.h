@@ -86,6 +86,13 @@ void PerReaderInit(PerReader& reader, const uint8_t* buffer, uint32_t length);
 // The same where the caller's buffer holds `available` octets from there on, fewer or more than `length`.
 void PerReaderInit(PerReader& reader, const uint8_t* buffer, uint32_t length, uint32_t available);
 
+// Over a message of RAS or H.245, of whose length the low 16 bits count.
+inline PerReader PerReaderOver(const uint8_t* buffer, uint32_t length) {
+  PerReader reader;
+  PerReaderInit(reader, buffer, static_cast<uint16_t>(length));
+  return reader;
+}
+
 // `pointer` plus `count`, held at the last address instead of wrapping round.
 inline const uint8_t* PerAdvance(const uint8_t* pointer, uint32_t count) {
   const auto address = reinterpret_cast<uintptr_t>(pointer);
