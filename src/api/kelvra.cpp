@@ -4,9 +4,8 @@
 #include <string.h>
 
 #include "h225/call/q931_frame.h"
-#include "h225/release.h"
-#include "h245/release.h"
 #include "per/decoder.h"
+#include "record/release.h"
 
 using kelvra::PerReader;
 using kelvra::h225::Q931MessageRecord;
@@ -28,6 +27,17 @@ void ClearRecord(Record* record) {
   }
 }
 
+// A null record is reported to the hook and ignored.
+template <class Record>
+void ReleaseUnlessNull(Record* record) {
+  if (record == nullptr) {
+    kelvra::CodecTrace(kelvra::kTraceDecoder, kelvra::kTraceNullRecord, kelvra::kReasonNullRecord,
+                       kelvra::kSourceRelease, __LINE__);
+    return;
+  }
+  Release(*record, kelvra::ReleaseVisitor(kelvra::h225::kReleasePath));
+}
+
 }  // namespace
 
 extern "C" {
@@ -38,14 +48,14 @@ intptr_t KELVRA_CALL KelvraDecodeRASMessage(RasMessageRecord* record, const uint
   PerReader reader = kelvra::PerReaderOver(buffer, length);
   const kelvra::Status status = kelvra::Decode(*record, reader);
   if (status != kelvra::kDecoded || reader.position == reader.end) {
-    kelvra::h225::ReleaseRasMessage(record);
+    ReleaseUnlessNull(record);
     return 0;
   }
   kelvra::PerAlign(reader);
   return reinterpret_cast<intptr_t>(reader.position);
 }
 
-void KELVRA_CALL KelvraFreeRASMessage(RasMessageRecord* record) { kelvra::h225::ReleaseRasMessage(record); }
+void KELVRA_CALL KelvraFreeRASMessage(RasMessageRecord* record) { ReleaseUnlessNull(record); }
 
 int32_t KELVRA_CALL KelvraDecodeQ931Message(Q931MessageRecord* record, const uint8_t* buffer, int32_t length) {
   if (record == nullptr || buffer == nullptr) return kelvra::h225::kQ931Rejected;
@@ -54,7 +64,7 @@ int32_t KELVRA_CALL KelvraDecodeQ931Message(Q931MessageRecord* record, const uin
 }
 
 void KELVRA_CALL KelvraFreeQ931Message(Q931MessageRecord* record) {
-  kelvra::h225::ReleaseH323UserInformation(record == nullptr ? nullptr : &record->userInformation);
+  ReleaseUnlessNull(record == nullptr ? nullptr : &record->userInformation);
 }
 
 int32_t KELVRA_CALL KelvraDecodeH245Message(H245MessageRecord* record, const uint8_t* buffer, uint32_t length) {
@@ -66,6 +76,9 @@ int32_t KELVRA_CALL KelvraDecodeH245Message(H245MessageRecord* record, const uin
   return reader.position == reader.end ? 1 : 0;
 }
 
-void KELVRA_CALL KelvraFreeH245Message(H245MessageRecord* record) { kelvra::h245::ReleaseH245Message(*record); }
+void KELVRA_CALL KelvraFreeH245Message(H245MessageRecord* record) {
+  // Not tested for null.
+  Release(*record, kelvra::ReleaseVisitor(kelvra::h245::kReleasePath));
+}
 
 }  // extern "C"

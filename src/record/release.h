@@ -10,10 +10,18 @@ namespace kelvra {
 
 class ReleaseVisitor;
 
-// Gives back the blocks of a record. Defined in record/define_release.h, and instantiated once for each type with a
-// name of its own.
+// Gives back the blocks of a record; to release it again does nothing. Defined in record/define_release.h, and
+// instantiated once for each type with a name of its own.
 template <class R>
 void Release(R& record, ReleaseVisitor visitor);
+
+// The source paths of the releases of whole messages.
+namespace h225 {
+inline constexpr char kReleasePath[] = "codec/h323free";
+}
+namespace h245 {
+inline constexpr char kReleasePath[] = "codec/freeintr";
+}
 
 class ReleaseVisitor : public EmptyVisitor {
  public:

@@ -1,7 +1,7 @@
 // What allocations that are refused leave besides the record.
 #include "faults/channel_writer.h"
 #include "faults/fault_test.h"
-#include "h245/release.h"
+#include "record/release.h"
 #include "kelvra/h245/messages/h245_message.h"
 #include "per/decoder.h"
 
@@ -22,7 +22,7 @@ TEST_F(AllocationFailureTest, H245LeavesEveryOpenTypeThatItEnters) {
       h245::H245MessageRecord record{};
       static_cast<void>(Decode(record, reader));
       EXPECT_EQ(reader.openTypes.index, 0U) << original.name << ", allocation " << nth;
-      h245::ReleaseH245Message(record);
+      kelvra::Release(record, ReleaseVisitor(h245::kReleasePath));
       if (heap_.Refusals() == 0) break;
     }
   }

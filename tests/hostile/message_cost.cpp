@@ -1,13 +1,12 @@
 #include "hostile/message_cost.h"
 
 #include "h225/call/q931_frame.h"
-#include "h225/release.h"
-#include "h245/release.h"
 #include "kelvra/h225/call/h323_user_information.h"
 #include "kelvra/h225/ras/ras_message.h"
 #include "kelvra/h245/messages/h245_message.h"
 #include "per/decoder.h"
 #include "per/reader.h"
+#include "record/release.h"
 
 namespace kelvra::test {
 namespace {
@@ -39,20 +38,20 @@ MessageCost CostOf(Family family, const std::vector<uint8_t>& octets) {
       return CostOfDecode(reader, [](PerReader& r) {
         h225::RasMessageRecord record{};
         static_cast<void>(Decode(record, r));
-        h225::ReleaseRasMessage(&record);
+        Release(record, ReleaseVisitor(h225::kReleasePath));
       });
     case Family::kQ931:
       if (!BeginUserInformation(reader, octets)) return {};
       return CostOfDecode(reader, [](PerReader& r) {
         h225::H323UserInformation record{};
         static_cast<void>(Decode(record, r));
-        h225::ReleaseH323UserInformation(&record);
+        Release(record, ReleaseVisitor(h225::kReleasePath));
       });
     case Family::kH245:
       return CostOfDecode(reader, [](PerReader& r) {
         h245::H245MessageRecord record{};
         static_cast<void>(Decode(record, r));
-        h245::ReleaseH245Message(record);
+        Release(record, ReleaseVisitor(h245::kReleasePath));
       });
   }
   return {};

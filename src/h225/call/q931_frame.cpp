@@ -1,8 +1,8 @@
 #include "h225/call/q931_frame.h"
 
 #include "codec/trace.h"
-#include "h225/release.h"
 #include "per/decoder.h"
+#include "record/release.h"
 
 namespace kelvra::h225 {
 namespace {
@@ -144,7 +144,7 @@ bool DecodeUserInformationElement(H323UserInformation& m, const Q931Frame& frame
   PerReader reader;
   BeginUserInformation(reader, frame, element);
   if (Decode(m, reader) == kDecoded && reader.position != reader.end) return true;
-  ReleaseH323UserInformation(&m);
+  Release(m, ReleaseVisitor(kReleasePath));
   return false;
 }
 
