@@ -43,7 +43,7 @@ OptionList OptionsToShow(const CLI::App& app) {
   return app.get_options([](const CLI::Option* option) { return !option->get_group().empty(); });
 }
 
-bool TakesValue(const CLI::Option& option) { return option.get_type_size_max() > 0; }
+bool TakesValue(const CLI::Option& option) { return option.get_items_expected_max() > 0; }
 
 // "--as", or "-l"; "-h" and "--help" both.
 std::vector<std::string> Names(const CLI::Option& option) {

@@ -17,7 +17,7 @@ def printed_by(*command, data=b""):
                           check=False)
 
 
-@unittest.skipIf(EMULATED, "the guide's commands run in a shell")
+@unittest.skipIf(EMULATED, "the guide runs the viewer from a shell")
 class Guide(unittest.TestCase):
     def test_output_is_what_the_viewer_prints(self):
         result = printed_by(os.path.join(TOP, "scripts", "guide.py"), "check", sys.argv[1])
@@ -27,9 +27,9 @@ class Guide(unittest.TestCase):
 class Manual(unittest.TestCase):
     def setUp(self):
         help_text = run("--help").stdout.decode()
-        self.options = {word.strip(",") for line in help_text.splitlines() if line.startswith("  -")
-                        for word in line.split()[:2] if word.startswith("-")}
-        self.page = run("--manual-page").stdout.decode()
+        self.options = {name for line in help_text.splitlines() if line.startswith("  -")
+                        for name in line.split()[0].split(",")}
+        self.page = run("--manual-page").stdout.replace(b"\r", b"").decode()
         self.completion = run("--bash-completion").stdout.replace(b"\r", b"")
 
     def test_page_and_completion_have_the_options_of_help(self):
