@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Builds and tests the targets given, or all; goes on after a failure. `lint` is one of them.
+# Builds and tests the targets given, or all; goes on after a failure. `lint` and `dist`, the packages, are two of them.
 #
 #   scripts/test.sh [TARGET...]
 #
@@ -9,7 +9,7 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 all_targets=(lint windows-x86 linux-x86 linux-x64 windows-x64 linux-x64-asan linux-x86-asan
-  linux-x64-tsan linux-x64-fuzz)
+  linux-x64-tsan linux-x64-fuzz dist)
 targets=("$@")
 [[ $# -gt 0 ]] || targets=("${all_targets[@]}")
 
@@ -33,6 +33,10 @@ have() {
 run_target() {
   if [[ $1 == lint ]]; then
     scripts/lint.sh
+    return
+  fi
+  if [[ $1 == dist ]]; then
+    scripts/dist.sh && tests/packaging/dist_test.sh build/dist
     return
   fi
   cmake --preset "$1" &&

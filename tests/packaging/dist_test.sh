@@ -39,8 +39,18 @@ tarball() {
   shows_the_sample "$(echo "$work"/kelvra-*-linux-x64)/bin/kelvra-dump"
 }
 
+# A program of Clang for Windows' own formats, linked by LLVM's linker.
+links_for_windows() {
+  local folder=$1 target=$2
+  clang --target="$target" -ffreestanding -std=c99 -O1 -I"$folder/include" -c "$here/by_windows_linker.c" \
+    -o "$work/by_windows_linker.obj"
+  lld-link /nologo /entry:start /subsystem:console /nodefaultlib "/out:$folder/bin/by_lld.exe" \
+    "$work/by_windows_linker.obj" "$folder/lib/kelvra.lib"
+  "$top/scripts/wine.sh" "$folder/bin/by_lld.exe" || fail "${folder##*/}: a program linked by LLVM's linker fails"
+}
+
 windows_zip() {
-  local name=$1 mingw=$2 folder
+  local name=$1 mingw=$2 target=$3 folder
   unzip -q "$dist"/kelvra-*-"$name".zip -d "$work"
   folder=$(echo "$work"/kelvra-*-"$name")
   (cd "$folder" && sha256sum --quiet -c SHA256SUMS) || fail "$name: a checksum is wrong"
@@ -48,6 +58,7 @@ windows_zip() {
   "$mingw-g++-posix" -std=c++17 -static -I"$folder/include" "$here/consumer.cpp" "$folder/lib/libkelvra.dll.a" \
     -o "$folder/bin/by_mingw.exe"
   "$top/scripts/wine.sh" "$folder/bin/by_mingw.exe" >/dev/null || fail "$name: a program linked by MinGW fails"
+  links_for_windows "$folder" "$target"
   # The same octets as from the other build of the tests.
   local built=$top/build/$name/bin/kelvra.dll
   [[ -e $built ]] || return 0
@@ -58,9 +69,9 @@ windows_zip() {
 
 "$top/build/dist-linux-x64/bin/kelvra-dump" "$top/samples/call.pcap" >"$work/expected"
 (cd "$dist" && sha256sum --quiet -c SHA256SUMS) || fail "a checksum is wrong"
-! grep -rqF "$(cd "$top" && pwd)" "$dist" || fail "a folder of this machine stands in a package"
 debian_packages
 tarball
-windows_zip windows-x86 i686-w64-mingw32
-windows_zip windows-x64 x86_64-w64-mingw32
+windows_zip windows-x86 i686-w64-mingw32 i686-pc-windows-msvc
+windows_zip windows-x64 x86_64-w64-mingw32 x86_64-pc-windows-msvc
+! grep -rqF "$(cd "$top" && pwd)" "$work" || fail "a folder of this machine stands in a package"
 echo "dist: all packages can be used"
