@@ -9,10 +9,10 @@
 #include "calls/ras_story.h"
 #include "calls/signalling_story.h"
 #include "decode/message_text.h"
+#include "text/time_text.h"
 
 namespace {
 
-constexpr int64_t kSecond = 1'000'000;
 // After its last message. A message after a gap of TCP comes a minute late.
 constexpr int64_t kStaysReleased = 300 * kSecond;
 constexpr int64_t kStaysOver = 90 * kSecond;

@@ -11,10 +11,10 @@
 #include "decode/message_text.h"
 #include "text/hex.h"
 #include "text/names.h"
+#include "text/time_text.h"
 
 namespace {
 
-constexpr int64_t kSecond = 1'000'000;
 constexpr int64_t kDay = 86'400 * kSecond;
 
 char Lower(char character) {

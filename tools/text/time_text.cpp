@@ -8,8 +8,6 @@ namespace {
 
 using std::chrono::days;
 
-constexpr int64_t kSecond = 1'000'000;
-
 void AppendPadded(std::string& text, int64_t number, size_t width) {
   const size_t first = text.size();
   text.append(width, '0');

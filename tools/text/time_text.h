@@ -4,6 +4,9 @@
 #include <cstdint>
 #include <string>
 
+// Times are counted in microseconds.
+constexpr int64_t kSecond = 1'000'000;
+
 enum class TimeZone : uint8_t { kUtc, kLocal };
 
 // "2024-01-31T23:59:59.000001Z", always in UTC
