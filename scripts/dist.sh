@@ -2,12 +2,20 @@
 # Makes the packages in build/dist: Debian packages, a tarball for Linux, a zip for each Windows, and SHA256SUMS.
 #
 #   scripts/dist.sh [linux-x64|windows-x86|windows-x64]...
+#   scripts/dist.sh --of-tests
+#
+# The latter packs what scripts/test.sh has built, which has the same code and less debug information.
 #
 # The octets depend on the sources and the compilers only; their dates are that of the last commit.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 all_targets=(linux-x64 windows-x86 windows-x64)
+presets=dist-
+if [[ ${1:-} == --of-tests ]]; then
+  presets=
+  shift
+fi
 targets=("$@")
 [[ $# -gt 0 ]] || targets=("${all_targets[@]}")
 dist=$PWD/build/dist
@@ -16,7 +24,8 @@ SOURCE_DATE_EPOCH=${SOURCE_DATE_EPOCH:-$(git log -1 --format=%ct 2>/dev/null || 
 export SOURCE_DATE_EPOCH TZ=UTC
 
 build() {
-  cmake --preset "dist-$1" -DCMAKE_INSTALL_PREFIX=/usr >/dev/null
+  [[ -n $presets ]] || return 0
+  cmake --preset "dist-$1" >/dev/null
   cmake --build --preset "dist-$1" --parallel "$(nproc)"
   # An archive has no place for debug information apart from it.
   strip --strip-debug "build/dist-$1/lib/libkelvra.a"
@@ -27,7 +36,7 @@ stage() {
   local folder=$2 objcopy=$3objcopy file
   rm -rf "$folder" "$folder-debug"
   mkdir -p "$folder-debug"
-  cmake --install "build/dist-$1" --prefix "$folder" >/dev/null
+  cmake --install "build/$presets$1" --prefix "$folder" >/dev/null
   while IFS= read -r file; do
     "$objcopy" --only-keep-debug "$file" "$folder-debug/${file##*/}.debug"
     "$objcopy" --strip-unneeded "$file"
@@ -38,7 +47,7 @@ stage() {
 linux_packages() {
   local name=kelvra-$version-linux-x64
   stage linux-x64 "$dist/$name" ""
-  (cd build/dist-linux-x64 && cpack -G DEB -B "$dist" >/dev/null)
+  (cd "build/${presets}linux-x64" && cpack -G DEB -B "$dist" >/dev/null)
   rm -rf "$dist/_CPack_Packages"
   local folder
   for folder in "$name" "$name-debug"; do

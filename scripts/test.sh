@@ -36,7 +36,7 @@ run_target() {
     return
   fi
   if [[ $1 == dist ]]; then
-    scripts/dist.sh && tests/packaging/dist_test.sh build/dist
+    scripts/dist.sh --of-tests && tests/packaging/dist_test.sh build/dist
     return
   fi
   cmake --preset "$1" &&
