@@ -6,9 +6,12 @@
 
 namespace kelvra {
 
-// All but the releases of other types is inline.
+// All but the releases of other types is inline, unless a sanitizer's checks would make the function huge.
 template <class R>
-[[gnu::flatten]] void Release(R& record, ReleaseVisitor visitor) {
+#if !defined(KELVRA_SANITIZED)
+[[gnu::flatten]]
+#endif
+void Release(R& record, ReleaseVisitor visitor) {
   R::Walk(record, visitor);
 }
 
