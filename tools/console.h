@@ -3,10 +3,10 @@
 
 #include <string>
 
-// Makes standard input and output carry octets unchanged, and output fully buffered.
+// Makes standard input and output binary, and output fully buffered.
 void PrepareStandardStreams();
 
 bool OutputIsTerminal();
 
-// Whether what a path names, "-" standard input, is a file that holds all its octets already.
+// True if the path names a regular file ("-": standard input), whose octets are all there already.
 bool IsRegularFile(const std::string& path);

@@ -1,4 +1,4 @@
-// What is known of a call: facts out of its messages, its media and its connections, side by side.
+// Everything known about one call: facts from its messages, its media and its connections.
 #pragma once
 
 #include <array>
@@ -13,32 +13,32 @@
 using Guid = std::array<uint8_t, 16>;
 
 struct Party {
-  std::vector<std::string> aliases;  // and numbers, each once
+  std::vector<std::string> aliases;  // each alias or number once
   std::vector<Endpoint> addresses;   // each once
 };
 
-// A RAS request with its answer.
+// A RAS request and its answer.
 struct RasTransaction {
-  std::string request;  // its name; empty: only the answer was seen
+  std::string request;  // empty if only the answer was seen
   Endpoint requester;
   Endpoint responder;
   uint16_t sequence = 0;
   int64_t requested = 0;
-  unsigned repeats = 0;  // of the request
+  unsigned repeats = 0;  // how often the request was repeated
   bool expectsAnswer = false;
-  bool inProgress = false;  // a requestInProgress came
-  std::string detail;       // the reason that the request gives
-  std::string answer;       // its name; empty: none was seen
+  bool inProgress = false;  // a requestInProgress was received
+  std::string detail;       // the reason in the request
+  std::string answer;       // empty if no answer was seen
   int64_t answered = 0;
-  std::string answerDetail;  // the reason of a reject, or the call model
+  std::string answerDetail;  // the reject reason, or the call model
   bool isRejected = false;
 
   bool IsUnanswered() const { return expectsAnswer && answer.empty(); }
-  // From the first request to the answer; none where one of them is missing.
+  // From the first request to the answer; empty if either is missing.
   std::optional<int64_t> ResponseTime() const;
 };
 
-// One call reference on one connection. A call that a gatekeeper routes has several.
+// One call reference on one connection. A gatekeeper-routed call has several.
 struct Leg {
   Endpoint caller;
   Endpoint called;
@@ -53,7 +53,7 @@ struct Leg {
   std::optional<int64_t> Duration() const;      // from Connect to the release
 };
 
-// A call-signalling message in a few words.
+// One line about a call-signalling message.
 struct Step {
   Origin origin;
   std::string text;  // "Release Complete, cause 17 (user busy)"
@@ -61,7 +61,7 @@ struct Step {
 
 enum class EndKind : uint8_t { kRejected, kRefused, kReleased, kDisengaged, kEndSession };
 
-// What ended the call, or a part of it.
+// What ended the call or a part of it.
 struct End {
   EndKind kind = EndKind::kReleased;
   int64_t time = 0;
@@ -72,25 +72,25 @@ struct End {
 struct FastStart {
   std::vector<std::string> proposed;  // codec and direction of each channel
   std::vector<std::string> accepted;
-  std::string acceptedIn;  // the message
+  std::string acceptedIn;  // the message that accepted them
   std::string refusedIn;
 };
 
-// What one side says it can receive and send.
+// What one side can receive and send.
 struct Capabilities {
   Endpoint sender;
   std::string text;
 };
 
 struct Channel {
-  Endpoint from;  // of the media
+  Endpoint from;  // of the media stream
   Endpoint to;
   Endpoint opener;
   int64_t number = 0;
   bool isFastStart = false;
   std::string codec;
-  std::string reverseCodec;     // of a bidirectional channel
-  std::vector<Endpoint> media;  // announced for it by either side
+  std::string reverseCodec;     // if the channel is bidirectional
+  std::vector<Endpoint> media;  // announced for the channel by either side
   std::vector<Endpoint> control;
   int64_t opened = 0;
   std::optional<int64_t> acknowledged;
@@ -99,10 +99,10 @@ struct Channel {
   std::optional<int64_t> closed;
 };
 
-// An announced media address and the RTP packets that went there.
+// An announced media address and the RTP packets sent to it.
 struct MediaAddress {
   Endpoint address;
-  bool isReceiver = false;              // its side announced it to receive there
+  bool isReceiver = false;              // announced by its own side, to receive there
   std::map<uint8_t, uint64_t> packets;  // by payload type
 };
 
@@ -114,18 +114,18 @@ struct MalformedMessage {
 
 enum class Subject : uint8_t {
   kCall,
-  kOther,  // a RAS transaction or a refused connection outside calls
+  kOther,  // a RAS transaction or a refused connection that belongs to no call
 };
 
 struct Call {
   Subject subject = Subject::kCall;
-  uint64_t order = 0;   // from 0, in the order in which calls and what stands outside them begin
-  uint64_t number = 0;  // of calls, from 1 in their order; 0 outside calls
-  int64_t first = 0;    // the time of its first message
+  uint64_t order = 0;   // from 0, by first message, calls and other entries alike
+  uint64_t number = 0;  // from 1, calls only; 0 for other entries
+  int64_t first = 0;    // time of the first message
   int64_t last = 0;
-  std::vector<Guid> identifiers;  // the first one is that of the call; others contradict it
+  std::vector<Guid> identifiers;  // the first identifies the call; others contradict it
   std::optional<Guid> conference;
-  Party caller;  // outside calls: who requests
+  Party caller;  // of other entries: the requester
   Party called;
   std::vector<Endpoint> endpoints;  // of all messages, each once
   std::vector<RasTransaction> transactions;
@@ -138,14 +138,14 @@ struct Call {
   std::vector<MediaAddress> media;
   std::vector<Origin> refusedConnections;
   std::vector<MalformedMessage> malformed;
-  std::vector<std::string> remarks;  // contradictions and H.245 requests that were rejected
-  std::vector<Message> messages;     // where they are kept
+  std::vector<std::string> remarks;  // contradictions and rejected H.245 requests
+  std::vector<Message> messages;     // if they are kept
 
-  // The leg that began the call; null: there is none.
+  // The leg that began the call; null if there is none.
   const Leg* FirstLeg() const { return legs.empty() ? nullptr : &legs.front(); }
 };
 
-// Announced once or more, it is there once.
+// Adds the address unless the call already has it.
 void AddMediaAddress(Call& call, const Endpoint& address, bool is_receiver);
 
 template <class Value>
@@ -156,5 +156,5 @@ void AddOnce(std::vector<Value>& values, const Value& value) {
   values.push_back(value);
 }
 
-// Whether they are the same but for the port.
+// True if the addresses are equal apart from the port.
 inline bool SameHost(const Endpoint& a, const Endpoint& b) { return a.v6 == b.v6 && a.address == b.address; }

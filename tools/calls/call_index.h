@@ -1,4 +1,4 @@
-// Finding calls by what their messages, connections and media have in common.
+// Finds calls by the keys that their messages, connections and media share.
 #pragma once
 
 #include <cstddef>
@@ -11,13 +11,13 @@ struct CallKey {
   enum class Kind : uint8_t {
     kIdentifier,    // callIdentifier
     kConference,    // conferenceID
-    kReference,     // the call reference of RAS, with the host
-    kLeg,           // the call reference of call signalling, with the connection
+    kReference,     // the RAS call reference and the host
+    kLeg,           // the call-signalling call reference and the connection
     kH245Listener,  // an h245Address
     kConnection,    // an H.245 connection
     kDestination,   // from a host to the destCallSignalAddress of its admission
     kMedia,         // a media address
-    kRequest,       // the sequence number of a RAS request, with its sender
+    kRequest,       // a RAS sequence number and its sender
   };
 
   Kind kind;
@@ -42,7 +42,7 @@ struct CallKeyHash {
   size_t operator()(const CallKey& key) const;
 };
 
-// What was announced anew belongs to the latest call.
+// A key announced again belongs to the latest call.
 template <class Entry>
 class CallIndex {
  public:
@@ -50,7 +50,7 @@ class CallIndex {
     const auto found = entries_.find(key);
     return found == entries_.end() ? nullptr : found->second;
   }
-  // The entry keeps its keys.
+  // Also records the keys in the entry.
   void Add(const CallKey& key, Entry& entry) {
     Entry*& place = entries_[key];
     if (place == &entry) return;

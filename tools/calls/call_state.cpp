@@ -4,7 +4,7 @@
 
 namespace {
 
-// How many requests of this name were confirmed.
+// The number of confirmed requests of this name.
 auto Confirmed(const Call& call, const char* request) {
   return std::count_if(call.transactions.begin(), call.transactions.end(), [request](const auto& transaction) {
     return transaction.request == request && !transaction.answer.empty() && !transaction.isRejected;

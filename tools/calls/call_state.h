@@ -1,11 +1,11 @@
-// How far a call has come, which decides how long messages for it are waited for.
+// The progress of a call, which decides how long the tracker waits for more messages.
 #pragma once
 
 #include "calls/call.h"
 
 enum class CallState : uint8_t {
   kOpen,
-  kReleased,  // but a gatekeeper still counts it as admitted
+  kReleased,  // but the gatekeeper still counts it as admitted
   kOver,
 };
 

@@ -13,11 +13,11 @@
 
 namespace {
 
-// After its last message. A message after a gap of TCP comes a minute late.
+// Time after the last message. A message after a TCP gap comes a minute late.
 constexpr int64_t kStaysReleased = 300 * kSecond;
 constexpr int64_t kStaysOver = 90 * kSecond;
 constexpr size_t kMostEntries = 16384;
-// A later request of the same number is another one.
+// After this time, the same sequence number means a new request.
 constexpr int64_t kRepeatTime = 60 * kSecond;
 
 bool IsAboutCall(const DecodedMessage& message, Node body) {
@@ -25,7 +25,7 @@ bool IsAboutCall(const DecodedMessage& message, Node body) {
          message.name == "disengageRequest" || CallIdentifierOf(body);
 }
 
-// What a RAS message says of a call; an infoRequestResponse and a service control have that in a member.
+// The part of a RAS message that describes a call; infoRequestResponse and serviceControl nest it in a member.
 Node CallFieldsOf(Node body) {
   if (const Node specific = body["callSpecific"]) return specific;
   const Node reported = body["perCallInfo"];
@@ -48,7 +48,7 @@ Leg& LegOf(Call& call, const Leg& leg) {
   return known == call.legs.end() ? call.legs.emplace_back(leg) : *known;
 }
 
-// Whether the Setup begins another call than the one that used its connection and reference.
+// True if the Setup begins a new call on the connection and reference of an earlier one.
 bool BeginsAnother(const Call& call, const Leg& leg, Node body) {
   const auto identifier = CallIdentifierOf(body);
   if (identifier && !call.identifiers.empty()) return call.identifiers.front() != *identifier;
@@ -138,7 +138,7 @@ CallTracker::Entry& CallTracker::OnRas(const Origin& origin, const DecodedMessag
   return entry;
 }
 
-// Of the request that the answer is to.
+// The entry of the request that this message answers.
 CallTracker::Entry* CallTracker::FindAsked(const Origin& origin, const DecodedMessage& message) const {
   const uint16_t sequence = SequenceOf(message);
   Entry* entry = index_.Find(CallKey::Request(origin.destination, sequence));
@@ -178,7 +178,7 @@ CallTracker::Entry* CallTracker::FindByIdentifier(Node body) const {
   return identifier ? index_.Find(CallKey::Identifier(*identifier)) : nullptr;
 }
 
-// Older endpoints have no call identifiers; then the reference shows the call, or the conference.
+// For older endpoints, which have no call identifiers: find the call by its reference, or by its conference.
 CallTracker::Entry* CallTracker::FindByFields(const Origin& origin, Node body) const {
   if (CallIdentifierOf(body)) return FindByIdentifier(body);
   const uint16_t reference = CallReferenceOf(body).value_or(0);
@@ -191,7 +191,7 @@ CallTracker::Entry* CallTracker::FindByFields(const Origin& origin, Node body) c
   return conference ? index_.Find(CallKey::Conference(*conference)) : nullptr;
 }
 
-// All the calls of an infoRequestResponse.
+// All calls of an infoRequestResponse.
 std::vector<CallTracker::Entry*> CallTracker::FindReported(Node body) const {
   std::vector<Entry*> entries;
   for (const Node reported : body["perCallInfo"]) {
@@ -220,7 +220,7 @@ CallTracker::Entry& CallTracker::OnSignalling(const Origin& origin, const Decode
   return *entry;
 }
 
-// By the identifier, or as the call that was admitted under the reference and has not been set up yet.
+// By the identifier; otherwise the call admitted under this reference and not set up yet.
 CallTracker::Entry* CallTracker::FindBySetup(const Origin& origin, const Leg& leg, Node body) const {
   if (Entry* entry = FindByIdentifier(body)) return entry;
   Entry* admitted = index_.Find(CallKey::Reference(origin.source, leg.reference));
@@ -258,7 +258,7 @@ CallTracker::Entry& CallTracker::Begin(Subject subject, const Origin& origin) {
 void CallTracker::IndexBody(Entry& entry, Node body) {
   if (const auto identifier = CallIdentifierOf(body)) {
     AddOnce(entry.call.identifiers, *identifier);
-    // An identifier that contradicts the first one may be that of another call.
+    // An identifier that contradicts the first one may belong to another call.
     const CallKey key = CallKey::Identifier(*identifier);
     if (index_.Find(key) == nullptr) index_.Add(key, entry);
   }
@@ -268,7 +268,7 @@ void CallTracker::IndexBody(Entry& entry, Node body) {
   }
 }
 
-// Its answer goes to the sender, or where the request asks for it.
+// The answer goes to the sender, or to the address that the request gives for replies.
 void CallTracker::IndexRequest(Entry& entry, const Origin& origin, const DecodedMessage& message) {
   const Node body = message.Body();
   const uint16_t sequence = SequenceOf(message);

@@ -1,4 +1,4 @@
-// Ties messages, media packets and refused connections together into calls.
+// Groups messages, media packets and refused connections into calls.
 #pragma once
 
 #include <array>
@@ -13,7 +13,7 @@
 class CallListener {
  public:
   virtual ~CallListener() = default;
-  // No more is expected of the call, which is forgotten after this.
+  // The call is complete; the tracker forgets it after this.
   virtual void OnCallEnded(const Call& call) = 0;
 };
 
@@ -21,7 +21,7 @@ class CallTracker {
  public:
   CallTracker(CallListener& listener, bool keeps_messages) : listener_(listener), keeps_messages_(keeps_messages) {}
 
-  // Returns the calls, or what stands for them outside calls, to which the message belongs: mostly one.
+  // Returns the calls, or entries outside calls, that the message belongs to: usually one.
   std::vector<const Call*> OnMessage(const Message& message, const DecodedMessage& decoded);
   void OnMediaPacket(const Origin& origin, uint8_t payload_type);
   void OnRefusedConnection(const Origin& origin);
@@ -56,7 +56,7 @@ class CallTracker {
   void IndexBody(Entry& entry, Node body);
   void IndexRequest(Entry& entry, const Origin& origin, const DecodedMessage& message);
   void IndexMedia(Entry& entry);
-  // The entry has got a message, or what else shows that it is alive.
+  // Marks the entry as alive.
   void Touch(Entry& entry, const Origin& origin);
   void LetGoBefore(int64_t now);
   void LetGo(Entry& entry);

@@ -10,7 +10,7 @@ namespace {
 
 int64_t ChannelNumber(Node body) { return body["forwardLogicalChannelNumber"].Number().value_or(0); }
 
-// The latest channel that this side opened under the number. The ports differ where the channel comes of fast start.
+// The latest channel that this side opened under the number. For a fast-start channel the ports differ.
 Channel* FindChannel(Call& call, const Endpoint& opener, Node body) {
   const int64_t number = ChannelNumber(body);
   const auto found = std::find_if(call.channels.rbegin(), call.channels.rend(), [&](const Channel& channel) {

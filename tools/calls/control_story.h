@@ -1,4 +1,4 @@
-// What H.245 messages add to the facts of a call, on a connection of their own or tunnelled.
+// Adds the facts of H.245 messages to a call, tunnelled or on their own connection.
 #pragma once
 
 #include "calls/call.h"

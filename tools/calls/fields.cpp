@@ -11,7 +11,7 @@ std::string WithoutPadding(std::string text) {
   return text;
 }
 
-// A PartyNumber holds its digits itself, or with the type of number.
+// A PartyNumber holds its digits directly, or next to the type of number.
 Node PartyDigits(Node party_number) {
   const Node number = party_number.Chosen();
   for (const char* digits : {"publicNumberDigits", "privateNumberDigits"}) {
@@ -59,7 +59,7 @@ void AddAddress(const std::optional<Endpoint>& address, Party& party) {
 
 std::string PartyNumberText(Node element) {
   auto octets = element.Octets();
-  constexpr uint8_t octet_3a = 0x80;  // and more: no digit has this bit
+  constexpr uint8_t octet_3a = 0x80;  // or above: no digit has this bit set
   if (!octets.empty() && octets[0] >= octet_3a) octets = octets.subspan(1);
   return WithoutPadding({octets.begin(), octets.end()});
 }

@@ -1,4 +1,4 @@
-// What messages say in several places: identifiers, aliases, addresses.
+// Values that many messages carry: identifiers, aliases, addresses.
 #pragma once
 
 #include <optional>
@@ -7,20 +7,20 @@
 #include "calls/call.h"
 #include "decode/decoded_message.h"
 
-// The value of a GloballyUniqueID; none where it is absent, cut short or zero.
+// The value of a GloballyUniqueID; empty if it is absent, cut short or zero.
 std::optional<Guid> ToGuid(Node octets);
 // The callIdentifier of a message, or of an element of perCallInfo.
 std::optional<Guid> CallIdentifierOf(Node body);
 
-// Without the flag that shows who allocated it.
+// Without the flag bit that shows which side allocated it.
 std::optional<uint16_t> CallReferenceOf(Node body);
 
-// Without the NUL characters with which some equipment fills identifiers up.
+// Without the NUL characters with which some equipment pads identifiers.
 std::string AliasText(Node alias);
 void AddAliases(Node list, Party& party);
 void AddAddress(const std::optional<Endpoint>& address, Party& party);
 
-// The digits of a party number element of Q.931, of which the octet 3a may be part.
+// The digits of a Q.931 party number element, without octet 3a.
 std::string PartyNumberText(Node element);
 
 // The alternative of a CHOICE or the identifier of an ENUMERATED; other values as text.

@@ -21,7 +21,7 @@ char Lower(char character) {
   return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
 }
 
-// Without regard to case.
+// Ignores case.
 bool Contains(std::string_view text, std::string_view part) {
   const auto equal = [](char a, char b) { return Lower(a) == Lower(b); };
   return std::search(text.begin(), text.end(), part.begin(), part.end(), equal) != text.end();
@@ -29,7 +29,7 @@ bool Contains(std::string_view text, std::string_view part) {
 
 bool StartsWith(std::string_view text, std::string_view part) { return Contains(text.substr(0, part.size()), part); }
 
-// Takes a number of this many digits from the beginning of the text.
+// Removes a number of exactly this many digits from the start of the text.
 std::optional<int> TakeNumber(std::string_view& text, size_t digits) {
   int number = 0;
   const char* end = text.data() + std::min(digits, text.size());
@@ -80,7 +80,7 @@ std::optional<int64_t> TakeClock(std::string_view& text) {
   return Take(text, ".") ? time + TakeFraction(text) : time;
 }
 
-// Below 0: before the bound.
+// Negative if the time is before the bound.
 int64_t Compared(int64_t time, const TimeBound& bound) {
   if (!bound.isTimeOfDay) return time - bound.microseconds;
   return (time % kDay + kDay) % kDay - bound.microseconds;
@@ -102,7 +102,7 @@ bool IsOf(const DecodedMessage& decoded, Family family) {
 
 bool IsNumber(const std::string& text) { return text.find_first_not_of("0123456789") == std::string::npos; }
 
-// Fewer digits than this are a number only.
+// With fewer digits the text can only be a call number.
 constexpr size_t kShortestPrefix = 6;
 
 Wanted WantsIdentifier(const Call& call, const std::string& wanted) {

@@ -1,4 +1,4 @@
-// Which calls and messages are wanted.
+// Selects calls and messages.
 #pragma once
 
 #include <cstdint>
@@ -8,22 +8,22 @@
 #include "calls/call.h"
 #include "decode/decoded_message.h"
 
-// A time, or a time of day, which then counts for every day.
+// A point in time, or a time of day that applies to every day.
 struct TimeBound {
   int64_t microseconds = 0;
   bool isTimeOfDay = false;
 };
 
-// "2024-01-31", "2024-01-31T23:59:59.5Z" with 'T' or a blank, "23:59" or "23:59:59"; in UTC. None where it is no time.
+// Parses "2024-01-31", "2024-01-31T23:59:59.5Z" with 'T' or a blank, "23:59" or "23:59:59", in UTC. Empty if invalid.
 std::optional<TimeBound> ParseTimeBound(const std::string& text);
 
 enum class Wanted : uint8_t { kNo, kNotYet, kYes };
 
-// Whether the message, or one that it carries, is not complete.
+// True if the message, or one that it carries, is incomplete.
 bool IsFaulty(const DecodedMessage& decoded);
 
 struct Filter {
-  std::string call;  // the number of a call, or the beginning of its identifier
+  std::string call;  // a call number, or the start of an identifier
   std::string party;
   std::string message;
   std::optional<Family> family;
@@ -32,14 +32,14 @@ struct Filter {
   bool faulty = false;
 
   bool IsEmpty() const { return !SelectsCalls() && message.empty() && !family && !since && !until && !faulty; }
-  // Whether it takes a call to know.
+  // True if the filter needs to know a message's calls.
   bool SelectsCalls() const { return !call.empty() || !party.empty(); }
 
-  // By what the message says itself, but for its faults.
+  // Decides by the message alone, except for its faults.
   bool WantsMessage(const Message& candidate, const DecodedMessage& decoded) const;
-  // Of one that was refused: by the time alone, unless messages are asked for.
+  // For a refused connection: decides by time alone; false if the filter selects messages.
   bool WantsConnection(const Origin& origin) const;
-  // By --call and --party; what is not known yet may become known by a later message.
+  // Applies --call and --party. Later messages can still change an unknown result.
   Wanted WantsCall(const Call& candidate) const;
 
  private:

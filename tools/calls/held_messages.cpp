@@ -45,7 +45,7 @@ void HeldMessages::Release() {
   }
 }
 
-// Often enough that unwanted messages are never most of what is held for long.
+// Runs often enough that unwanted messages are never most of a long queue.
 void HeldMessages::DropUnwanted() {
   if (calls_dropped_ * 4 < held_.size()) return;
   calls_dropped_ = 0;

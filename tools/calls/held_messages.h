@@ -1,4 +1,4 @@
-// Messages that wait until it is known whether their calls are wanted; then they go on in their order.
+// Holds messages until it is known whether their calls are wanted, then passes them on in order.
 #pragma once
 
 #include <deque>
@@ -14,7 +14,7 @@ class HeldMessages {
   using Output = std::function<void(const Message&)>;
   HeldMessages(const Filter& filter, Output output) : filter_(filter), output_(std::move(output)) {}
 
-  // A message that is wanted for itself goes on where one of its calls is wanted; any message may show that they are.
+  // Passes the message on if it is wanted itself and one of its calls is. Any message may show that a call is wanted.
   void Add(const Message& message, const std::vector<const Call*>& calls, bool is_wanted);
   void OnCallEnded(const Call& call);
 
@@ -22,7 +22,7 @@ class HeldMessages {
   using Verdict = std::shared_ptr<Wanted>;
   struct Held {
     Message message;
-    std::vector<Verdict> verdicts;  // on its calls
+    std::vector<Verdict> verdicts;  // one per call
   };
 
   static Wanted VerdictOn(const Held& held);
@@ -34,5 +34,5 @@ class HeldMessages {
   Output output_;
   std::unordered_map<const Call*, Verdict> verdicts_;
   std::deque<Held> held_;
-  size_t calls_dropped_ = 0;  // since the queue was swept
+  size_t calls_dropped_ = 0;  // since the last sweep
 };

@@ -1,4 +1,4 @@
-// What happened between the hosts of a call, in the order of time.
+// Events between the hosts of a call, in order of time.
 #pragma once
 
 #include <optional>
@@ -11,16 +11,16 @@
 struct LadderEvent {
   Origin origin;
   std::string label;  // "Setup (setup)"
-  std::string fault;  // of a message that is not complete, or what the library refuses it for
+  std::string fault;  // why the message is incomplete, or why the library refuses it
   bool isMalformed = false;
-  const Message* message = nullptr;  // null: a connection was refused; of a tunnelled one, that which carries it
+  const Message* message = nullptr;  // null for a refused connection; the carrier of a tunnelled message
   bool isTunnelled = false;
 };
 
-// The messages that the filter wants; tunnelled ones follow what carries them.
+// The messages that pass the filter; tunnelled messages follow their carrier.
 std::vector<LadderEvent> LadderEventsOf(const Call& call, const Filter& filter);
 
-// The columns of a ladder: hosts, or ports where there is only one host.
+// The columns of a ladder: hosts, or ports if there is only one host.
 struct LadderColumns {
   std::vector<std::string> names;
   bool byPort = false;

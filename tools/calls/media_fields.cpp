@@ -18,7 +18,7 @@ void Collect(Node node, MediaFields& fields) {
   }
 }
 
-// A generic capability is named by its identifier.
+// For a generic capability, its identifier.
 std::string CodecText(Node capability) {
   const Node application = capability["application"];
   const Node choice = application ? application : capability;

@@ -1,4 +1,4 @@
-// Codecs and media addresses as H.245 messages name them.
+// Codecs and media addresses in H.245 messages.
 #pragma once
 
 #include <string>
@@ -12,10 +12,10 @@ struct MediaFields {
   std::vector<Endpoint> control;
 };
 
-// Each mediaChannel and mediaControlChannel below the node, once.
+// Every mediaChannel and mediaControlChannel below the node, each once.
 MediaFields MediaFieldsOf(Node node);
 
-// The codec of a DataType, or what else it stands for; empty: nothing is sent.
+// The codec of a DataType, or the kind of data; empty if nothing is sent.
 std::string DataTypeText(Node data_type);
 
 // "receive g711Alaw64k, g729  transmit g711Alaw64k" of a terminalCapabilitySet.

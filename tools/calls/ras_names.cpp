@@ -6,7 +6,7 @@
 
 namespace {
 
-// H.225.0, 7.
+// H.225.0 7.
 constexpr std::array<std::pair<std::string_view, RasMeaning>, 33> kMeanings{{
     {"gatekeeperRequest", {RasRole::kRequest, {}}},
     {"gatekeeperConfirm", {RasRole::kConfirm, "gatekeeperRequest"}},

@@ -8,10 +8,10 @@ enum class RasRole : uint8_t { kRequest, kConfirm, kReject, kInProgress, kIndica
 
 struct RasMeaning {
   RasRole role = RasRole::kIndication;
-  std::string_view request;  // which it answers; empty: any
+  std::string_view request;  // the request that it answers; empty for any request
 };
 
-// An infoRequestResponse counts as an answer, though it may come unasked.
+// An infoRequestResponse counts as an answer, although it can also be unsolicited.
 RasMeaning MeaningOf(std::string_view name);
 
 inline bool IsAnswer(RasRole role) {

@@ -16,13 +16,13 @@ std::string FirstReason(Node body, std::initializer_list<const char*> members) {
   return {};
 }
 
-// A response is acknowledged only where it asks for that.
+// A response is acknowledged only if it asks for that.
 bool ExpectsAnswer(const DecodedMessage& message) {
   if (message.name == "infoRequestResponse") return message.Body()["needResponse"].Number().value_or(0) != 0;
   return MeaningOf(message.name).role == RasRole::kRequest;
 }
 
-// Of the caller unless the request says that it answers a call.
+// The requester is the caller unless answerCall is set.
 void AddAdmissionParties(Call& call, const Origin& origin, Node body) {
   const bool answers = body["answerCall"].Number().value_or(0) != 0;
   AddAliases(body["srcInfo"], call.caller);
@@ -51,7 +51,7 @@ std::string AnswerDetail(Node body) {
   return reason.empty() ? ReasonText(body["callModel"]) : reason;
 }
 
-// An admission that is confirmed after all was not rejected in the end.
+// An admission that is confirmed in the end was not rejected.
 void ForgetRejections(Call& call, const Endpoint& requester) {
   std::erase_if(call.ends,
                 [&requester](const End& end) { return end.kind == EndKind::kRejected && end.by == requester; });
@@ -112,7 +112,7 @@ void AddRasAnswer(Call& call, const Origin& origin, const DecodedMessage& messag
     known->inProgress = true;
     return;
   }
-  if (!known->answer.empty()) return;  // the answer to a request that was repeated
+  if (!known->answer.empty()) return;  // already answered: this answers a repeated request
   known->answer = message.name;
   known->answered = origin.microseconds;
   known->answerDetail = AnswerDetail(message.Body());

@@ -1,4 +1,4 @@
-// The facts of a call, sorted for a person.
+// The facts of a call, grouped for display.
 #pragma once
 
 #include <string>
@@ -11,8 +11,8 @@ struct Section {
   std::vector<std::string> lines;
 };
 
-// "call 3  from 5295672 to 9246526"; outside calls, what it is.
+// "call 3  from 5295672 to 9246526"; for other entries, their kind.
 std::string Heading(const Call& call);
 
-// Those with lines only. Times count from the beginning of the call.
+// Omits empty sections. Times are relative to the start of the call.
 std::vector<Section> SectionsOf(const Call& call);

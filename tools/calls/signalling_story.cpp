@@ -22,8 +22,7 @@ std::string CauseText(Node octet) {
   return Concat({"cause ", std::to_string(cause), name.empty() ? "" : " (", name, name.empty() ? "" : ")"});
 }
 
-// The cause of Q.850 and the reason of H.225.0, as far as the message has them. A reason of a Setup or Facility says
-// what the message is for.
+// The Q.850 cause and the H.225.0 reason, if present. In a Setup or Facility the reason is the purpose of the message.
 std::string WhyText(const DecodedMessage& message) {
   const std::string cause = CauseText(message.Root()["causeValue"]);
   const std::string reason = ReasonText(message.Body()["reason"]);
@@ -53,7 +52,7 @@ void AddParties(Call& call, const Leg& leg, const DecodedMessage& message) {
   }
 }
 
-// The proposal of the caller: a channel is its own way forward, or in reverse the called party's.
+// The caller's proposal. A forward channel is the caller's, a reverse one the called party's.
 Channel FastStartChannel(const Leg& leg, const Origin& origin, Node open) {
   Channel channel;
   channel.isFastStart = true;
@@ -94,7 +93,7 @@ void AddAcceptances(Call& call, const Leg& leg, const Origin& origin, const Deco
     channel.acknowledged = origin.microseconds;
     const std::string text = ChannelText(leg, channel);
     for (const std::string& known : call.fastStart.accepted) {
-      if (known == text) return;  // said again in a later message
+      if (known == text) return;  // repeated by a later message
     }
     call.fastStart.accepted.push_back(text);
     call.fastStart.acceptedIn = MessageTypeName(static_cast<unsigned>(MessageTypeOf(message)));

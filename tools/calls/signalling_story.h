@@ -1,4 +1,4 @@
-// What call-signalling messages add to the facts of a call.
+// Adds the facts of call-signalling messages to a call.
 #pragma once
 
 #include "calls/call.h"
@@ -12,7 +12,7 @@ constexpr int64_t kDisconnect = 0x45;
 constexpr int64_t kReleaseComplete = 0x5A;
 
 int64_t MessageTypeOf(const DecodedMessage& message);
-// Whether the sender is the side that allocated the call reference, which is the caller's.
+// True if the sender allocated the call reference, as the caller does.
 bool IsFromCaller(const DecodedMessage& message);
 
 void AddSignalling(Call& call, Leg& leg, const Origin& origin, const DecodedMessage& message);

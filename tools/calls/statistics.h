@@ -1,4 +1,4 @@
-// How many messages of which kind, with which faults, and how RAS requests were answered.
+// Counts messages by kind and fault, and the answers to RAS requests.
 #pragma once
 
 #include <map>
@@ -12,7 +12,7 @@ struct Responses {
   uint64_t unanswered = 0;
   uint64_t repeats = 0;
   uint64_t rejected = 0;
-  uint64_t answers = 0;  // to requests that were seen
+  uint64_t answers = 0;  // only to requests that were seen
   int64_t least = 0;     // microseconds
   int64_t most = 0;
   int64_t total = 0;
@@ -24,8 +24,8 @@ struct Statistics {
   uint64_t messages = 0;
   uint64_t calls = 0;
   std::map<Family, std::map<std::string, uint64_t>> byKind;
-  std::map<std::string, uint64_t> faults;      // by cause
-  std::map<std::string, Responses> responses;  // by request
+  std::map<std::string, uint64_t> faults;      // count by cause
+  std::map<std::string, Responses> responses;  // by name of the request
 
   void Add(const DecodedMessage& message);
   void Add(const Call& call);

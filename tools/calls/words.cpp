@@ -8,7 +8,7 @@
 
 namespace {
 
-// Whoever says so first; the end of the H.245 session only where nothing else does.
+// The first side to end the call. The end of the H.245 session counts only if nothing else ended it.
 const End* FirstEnd(const Call& call) {
   const auto comes_before = [](const End& a, const End& b) {
     const bool a_is_session = a.kind == EndKind::kEndSession;
@@ -19,7 +19,7 @@ const End* FirstEnd(const Call& call) {
   return first == call.ends.end() ? nullptr : &*first;
 }
 
-// To milliseconds.
+// Rounds to milliseconds.
 int64_t Rounded(int64_t microseconds) {
   constexpr int64_t half = 500;
   return (microseconds + (microseconds < 0 ? -half : half)) / 1000;
@@ -42,7 +42,7 @@ void AddTransactionFaults(const RasTransaction& transaction, std::vector<std::st
   if (transaction.isRejected) faults.push_back(Concat({transaction.answer, ": ", transaction.answerDetail}));
 }
 
-// Only where RTP was captured for the call at all.
+// Only for a call with captured RTP.
 void AddSilentMedia(const Call& call, std::vector<std::string>& faults) {
   const auto silent = [](const MediaAddress& media) { return media.packets.empty(); };
   if (std::all_of(call.media.begin(), call.media.end(), silent)) return;

@@ -18,7 +18,7 @@ using kelvra::h225::Q931MessageRecord;
 using kelvra::h225::RasMessageRecord;
 using kelvra::h245::H245MessageRecord;
 
-// The exports see no more of a length.
+// The exports use only 16 bits of a length.
 constexpr size_t kMostOctets = std::numeric_limits<uint16_t>::max();
 constexpr uint32_t kUsualSpareOctets = 1;
 constexpr uint32_t kMostSpareOctets = 64;
@@ -63,7 +63,7 @@ Words WordsOf(PerCause cause) {
   return {Verdict::kEndedEarly, "the message ends here"};
 }
 
-// Where the paths of the observer go through to the body of the message.
+// The prefix of the observer's paths, down to the body of the message.
 std::string PathOfBody(const DecodedMessage& decoded) {
   std::string path(decoded.name);
   if (decoded.family == Family::kQ931) return "h323-uu-pdu.h323-message-body." + path;
@@ -76,7 +76,7 @@ void AddFault(DecodedMessage& decoded, Verdict verdict, std::string member, uint
   decoded.faults.push_back({verdict, std::move(member), bit, std::move(cause), false});
 }
 
-// `size` is that of what was decoded, in octets.
+// `size` is the size of the decoded part, in octets.
 void AddStops(DecodedMessage& decoded, const DecodeLog& log, uint32_t firstBit, uint32_t size) {
   if (log.Stops().empty()) return;
   const std::string body = PathOfBody(decoded) + ".";
@@ -84,7 +84,7 @@ void AddStops(DecodedMessage& decoded, const DecodeLog& log, uint32_t firstBit, 
     const Words words = WordsOf(stop.fault.cause);
     std::string member = stop.fault.path;
     if (member.starts_with(body)) member.erase(0, body.size());
-    // An open type that claims too much carries the reader past the end.
+    // An open type whose length is too large takes the reader past the end.
     const uint64_t bit = std::min<uint64_t>(stop.fault.reached, uint64_t{size} * 8);
     AddFault(decoded, words.verdict, std::move(member), firstBit + bit, words.cause);
     decoded.faults.back().resumed = stop.resumed;
@@ -98,7 +98,7 @@ void AddLeftOver(DecodedMessage& decoded, uint32_t octets, uint64_t bit, const c
            std::to_string(octets) + (octets == 1 ? " octet" : " octets") + " left over" + where);
 }
 
-// What a decode of `size` octets left unread.
+// Adds the octets that a decode of `size` octets left unread.
 void AddRest(DecodedMessage& decoded, const DecodeLog& log, const DecodeEnd& end, uint32_t firstBit, uint32_t size,
              const char* where) {
   if (!log.Stops().empty() && !log.Stops().back().resumed) return;
@@ -109,7 +109,7 @@ void AddRest(DecodedMessage& decoded, const DecodeLog& log, const DecodeEnd& end
   if (read < size) AddLeftOver(decoded, size - read, firstBit + uint64_t{read} * 8, where);
 }
 
-// The library's own decode ends the same way.
+// True if the library's own decode succeeds too.
 bool IsClean(const DecodeLog& log, const DecodeEnd& end) {
   return log.Stops().empty() && end.status == kelvra::kDecoded && !end.departed;
 }
@@ -182,7 +182,7 @@ void DecodeH245(std::span<const uint8_t> octets, DecodeLog& log, DecodedMessage&
   TreeBuilder(decoded.nodes, log, 0).Build(record);
   const std::string_view name = decoded.Root().Chosen().Alternative();
   decoded.name = name.empty() ? decoded.Root().Alternative() : name;
-  // The export returns 1 where the reader stands at the very end, after alignment.
+  // The export returns 1 if the reader stands exactly at the end after alignment.
   decoded.ok = (end.isAtEnd ? end.bit / 8 : OctetsOf(end.bit)) == size;
   decoded.result = decoded.ok ? 1 : 0;
   AddStops(decoded, log, 0, size);
@@ -200,7 +200,7 @@ int64_t ExportQ931(Q931MessageRecord& record, std::span<const uint8_t> octets) {
   return result;
 }
 
-// What is wrong with the frame, apart from the user information.
+// Faults of the frame outside the user information.
 void AddFrameFaults(DecodedMessage& decoded, const Q931Elements& elements, uint32_t size) {
   const auto announced = elements.AnnouncedOctets();
   const bool isCut = !announced || *announced > size;
@@ -228,14 +228,14 @@ void DecodeQ931(std::span<const uint8_t> octets, DecodeLog& log, DecodedMessage&
   const Q931Elements elements(octets);
   const auto userUser = elements.UserUser();
   const bool hasContents = userUser && userUser->length > 0 && userUser->contents < size;
-  // Past the protocol discriminator.
+  // After the protocol discriminator.
   const uint32_t first = hasContents ? userUser->contents + 1 : size;
   const uint32_t length = hasContents ? std::min(userUser->length - 1, size - first) : 0;
   kelvra::h225::H323UserInformation information{};
   DecodeEnd end{};
   if (hasContents) end = kelvra::ObserveUserInformation(information, octets.data() + first, length, log, kRules);
   const bool isWhole = hasContents && IsClean(log, end) && !elements.CutOff() && elements.IsLast(*userUser);
-  // The elements stand before the user information, which then need not be decoded once more.
+  // The elements come before the user information, which then need not be decoded again.
   const int64_t result = ExportQ931(record, isWhole ? octets.first(userUser->position) : octets);
   decoded.result = isWhole ? 0 : result;
   decoded.ok = decoded.result == 0;
@@ -259,7 +259,7 @@ void DecodeTunnelled(DecodedMessage& decoded) {
 }  // namespace
 
 const MessageFault* DecodedMessage::Fault() const {
-  // A version that the library refuses says least of what was read.
+  // A refused version comes last: it says least about what was read.
   const auto worst = std::find_if(faults.begin(), faults.end(), [](const MessageFault& fault) {
     return fault.verdict != Verdict::kVersionRefused || !fault.resumed;
   });
@@ -274,7 +274,7 @@ Node DecodedMessage::Body() const {
 }
 
 DecodedMessage DecodeMessage(Family family, std::span<const uint8_t> octets) {
-  // Its memory is kept from one message to the next.
+  // Keeps its memory between messages.
   static thread_local DecodeLog log;
   DecodedMessage decoded;
   decoded.family = family;
@@ -302,7 +302,7 @@ std::vector<Announced> AnnouncedBy(const DecodedMessage& message) {
   const Node body = message.Body();
   if (message.family == Family::kQ931) add(body["h245Address"], Family::kH245);
   if (message.family != Family::kRas) return announced;
-  // An address, or a list of them.
+  // An address or a list of addresses.
   for (const Node addresses : {body["callSignalAddress"], body["destCallSignalAddress"]}) {
     if (!addresses.Is(NodeKind::kList)) add(addresses, Family::kQ931);
     for (const Node address : addresses) add(address, Family::kQ931);

@@ -13,7 +13,7 @@ std::string TextOf(const MessageFault& fault) {
   return text;
 }
 
-// A complete message that the library does not take.
+// Why the library refuses a complete message.
 std::string RefusalText(const DecodedMessage& message) {
   if (message.family != Family::kRas) return "complete, but the library refuses it";
   if (message.spareOctetsRequired == 0) return "complete, but the library refuses it, whatever its spare octets";

@@ -1,4 +1,4 @@
-// What a person calls a message, and what is wrong with it.
+// The title of a message and the text of its faults.
 #pragma once
 
 #include <string>
@@ -8,9 +8,9 @@
 const char* FamilyLabel(Family family);    // "RAS"
 const char* FamilyKeyword(Family family);  // "ras"
 
-// The alternative; of call signalling the message type before it: "Release Complete (releaseComplete)".
+// The alternative; for call signalling after the message type: "Release Complete (releaseComplete)".
 std::string MessageTitle(const DecodedMessage& message);
 
-// "octet 126: additionalSourceAddresses[0].presentationIndicator: the message ends here", each fault after the other,
-// or why the library refuses a complete message. Empty: there is nothing to say.
+// "octet 126: additionalSourceAddresses[0].presentationIndicator: the message ends here", all faults in order; or why
+// the library refuses a complete message. Empty if neither applies.
 std::string FaultText(const DecodedMessage& message);

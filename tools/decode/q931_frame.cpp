@@ -3,9 +3,9 @@
 namespace {
 
 constexpr uint32_t kTpktHeader = 4;
-constexpr uint32_t kFirstElement = kTpktHeader + 5;  // past discriminator, call reference and message type
+constexpr uint32_t kFirstElement = kTpktHeader + 5;  // after protocol discriminator, call reference and message type
 
-// What stands at a fixed place before the elements, in octets of the message.
+// A field before the elements. Octets count from the start of the message.
 struct Field {
   std::string_view member;
   uint32_t first, end;
@@ -44,7 +44,7 @@ Q931Elements::Q931Elements(std::span<const uint8_t> octets) : octets_(octets) {
   uint32_t position = kFirstElement;
   while (position < size) {
     const uint8_t identifier = octets[position];
-    if (identifier >= 0x80) {  // of a single octet
+    if (identifier >= 0x80) {  // single-octet element
       ++position;
       continue;
     }

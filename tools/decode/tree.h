@@ -1,4 +1,4 @@
-// A decoded message as a tree of what was read of it. The values point into its record.
+// What was read of a message, as a tree. The values point into the record.
 #pragma once
 
 #include <cstdint>
@@ -18,7 +18,7 @@ enum class NodeKind : uint8_t {
   kNumber,
   kEnumerated,
   kObjectIdentifier,
-  kCharacters,      // of 8 bits
+  kCharacters,      // 8 bits each
   kWideCharacters,  // BMPString
   kDigits,          // 4-bit codes: '#', '*', ',' and the digits from 0 on
   kOctets,
@@ -32,36 +32,37 @@ struct BitRange {
   uint32_t end = 0;
 };
 
-// A node as it is stored: the nodes of a message stand one after the other, each before its children.
+// A stored node. The nodes of a message are contiguous, each before its children.
 struct NodeData {
   const char* name;
   NodeKind kind;
-  uint32_t count;   // of children
-  uint32_t size;    // of the node with its descendants, in nodes
-  uint32_t length;  // of the value, in octets, code units, arcs or bits; of an ENUMERATED the number
+  uint32_t count;   // number of children
+  uint32_t size;    // number of nodes, itself and all descendants
+  uint32_t length;  // of the value, in octets, code units, arcs or bits; the number of an ENUMERATED
   BitRange bits;
   union {
     int64_t number;
     const void* value;
-    const char* identifier;  // of an ENUMERATED; null: it has none
+    const char* identifier;  // of an ENUMERATED; null if it has none
   };
 };
 
-// A handle on a node, or on none: a member that is absent or was not read. Then everything is empty.
+// A handle to a node, or to none if the member is absent or was not read. Every accessor of an empty handle returns
+// nothing.
 class Node {
  public:
   Node() = default;
   explicit Node(const NodeData* data) : data_(data) {}
 
   explicit operator bool() const { return data_ != nullptr; }
-  // The ASN.1 identifier ("h323-uu-pdu"); empty: an element of a list, or a message.
+  // The ASN.1 identifier ("h323-uu-pdu"); empty for a list element or a whole message.
   std::string_view Name() const { return data_ != nullptr ? data_->name : std::string_view(); }
   NodeKind Kind() const { return data_ != nullptr ? data_->kind : NodeKind::kNull; }
   bool Is(NodeKind kind) const { return data_ != nullptr && data_->kind == kind; }
 
   Node operator[](std::string_view member) const;
   Node Find(std::initializer_list<std::string_view> path) const;
-  // The alternative of a CHOICE, which is its first child.
+  // The chosen alternative of a CHOICE: its first child.
   Node Chosen() const { return Count() > 0 ? Node(data_ + 1) : Node(); }
   std::string_view Alternative() const { return Chosen().Name(); }
 
@@ -78,16 +79,16 @@ class Node {
    private:
     const NodeData* data_;
   };
-  // The children, in the order of the ASN.1.
+  // The children, in ASN.1 order.
   Iterator begin() const { return Iterator(data_ != nullptr ? data_ + 1 : nullptr); }
   Iterator end() const { return Iterator(data_ != nullptr ? data_ + data_->size : nullptr); }
   size_t Count() const { return data_ != nullptr ? data_->count : 0; }
 
-  // Of a number, an ENUMERATED or a BOOLEAN.
+  // The value of an INTEGER, ENUMERATED or BOOLEAN.
   std::optional<int64_t> Number() const;
-  // Of an ENUMERATED; empty: its number has none.
+  // The identifier of an ENUMERATED value; empty if it has none.
   std::string_view Identifier() const;
-  // The octets of a string, and of a BIT STRING; the codes of digits.
+  // The octets of a string or a BIT STRING, or the codes of digits.
   std::span<const uint8_t> Octets() const;
   uint32_t BitCount() const;
   std::span<const uint16_t> CodeUnits() const;
@@ -106,5 +107,5 @@ class Node {
   const NodeData* data_ = nullptr;
 };
 
-// The endpoint in a TransportAddress of H.225.0 or H.245, or in one of its alternatives.
+// The endpoint in an H.225.0 or H.245 TransportAddress, or in one of its alternatives.
 std::optional<Endpoint> ToEndpoint(Node address);

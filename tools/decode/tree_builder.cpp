@@ -7,7 +7,7 @@ namespace {
 
 bool IsSame(const char* a, const char* b) { return a == b || (a != nullptr && b != nullptr && std::strcmp(a, b) == 0); }
 
-// The names of alternatives that have none: "extension-0" to "extension-255" and the like.
+// Names for alternatives without one: "extension-0" to "extension-255" and similar.
 class NumberedNames {
  public:
   explicit NumberedNames(const std::string& stem) {
@@ -16,7 +16,7 @@ class NumberedNames {
   const char* Of(uint32_t index) const { return names_[index % names_.size()].c_str(); }
 
  private:
-  std::array<std::string, 256> names_;  // the index of a CHOICE is kept in 8 bits
+  std::array<std::string, 256> names_;  // a CHOICE index has 8 bits
 };
 
 NodeKind KindOf(kelvra::OctetNotation notation) {
@@ -78,7 +78,7 @@ TreeBuilder::TreeBuilder(std::vector<NodeData>& nodes, const DecodeLog& log, uin
                          const FramePlaces* frame)
     : nodes_(nodes), entries_(log.Entries().data()), firstBit_(firstBit), frame_(frame) {
   const auto count = static_cast<uint32_t>(log.Entries().size());
-  nodes_.reserve(count + 32);  // alternatives that hold nothing have a node and no entry
+  nodes_.reserve(count + 32);  // alternatives that are empty have a node and no entry
   level_.end = count;
   level_.isFrame = frame != nullptr;
   if (!level_.isFrame && count > 0) {
@@ -88,7 +88,7 @@ TreeBuilder::TreeBuilder(std::vector<NodeData>& nodes, const DecodeLog& log, uin
   Add("", NodeKind::kRecord, level_.entry != nullptr ? Placed(level_.entry->bits) : BitRange());
 }
 
-// The entry of a member, which may be absent; those before it are of members that the record does not hold.
+// Finds the entry of a member, which may be absent. Entries before it belong to members that the record does not hold.
 const TreeBuilder::Entry* TreeBuilder::Take(const char* name) {
   for (uint32_t i = level_.next; i < level_.end; i = entries_[i].end) {
     if (!IsSame(entries_[i].name, name)) continue;
@@ -112,8 +112,8 @@ NodeData& TreeBuilder::Add(const char* name, NodeKind kind, BitRange bits) {
 
 void TreeBuilder::Finish(uint32_t node) { nodes_[node].size = static_cast<uint32_t>(nodes_.size()) - node; }
 
-// Null where the value was not read. A member that the decoder reads without showing it may be unobserved; it is there
-// where what holds it was read.
+// Null if the value was not read. A member that the decoder reads without showing it may be unobserved; then it counts
+// as read if its container was.
 NodeData* TreeBuilder::AddValue(const char* name, NodeKind kind, bool mayBeUnobserved) {
   BitRange bits = nodes_[level_.node].bits;
   if (level_.isFrame) {
@@ -134,7 +134,7 @@ bool TreeBuilder::Enter(const char* name, NodeKind kind) {
   BitRange bits = nodes_[level_.node].bits;
   if (level_.isWhole) {
     inner.isWhole = true;
-  } else if (level_.isFrame) {  // the H323-UserInformation, which the whole log is of
+  } else if (level_.isFrame) {  // the whole log belongs to the H323-UserInformation
     inner.entry = level_.end > 0 ? entries_ : nullptr;
     inner.next = 1;
     inner.end = level_.end;
@@ -145,7 +145,7 @@ bool TreeBuilder::Enter(const char* name, NodeKind kind) {
     inner.next = static_cast<uint32_t>(entry - entries_) + 1;
     inner.end = entry->end;
     bits = Placed(entry->bits);
-  } else {  // read by hand
+  } else {  // read without a description
     if (!IsLevelRead()) return false;
     inner.isWhole = true;
   }
@@ -162,7 +162,7 @@ bool TreeBuilder::Enter(const char* name, NodeKind kind) {
   return true;
 }
 
-// Drops what was not read: of a record that holds nothing only that it was chosen can be known.
+// Drops what was not read. Of an empty record, only whether it was chosen is known.
 void TreeBuilder::Leave(const Level& outer) {
   const Level inner = level_;
   const uint32_t next = inner.entry != nullptr ? inner.entry->end : 0;
@@ -187,7 +187,7 @@ void TreeBuilder::Boolean(const char* name, uint32_t value) {
   if (NodeData* node = AddValue(name, NodeKind::kBoolean)) node->number = value != 0 ? 1 : 0;
 }
 
-// The record of an ENUMERATED is all there is of it.
+// The record of an ENUMERATED holds nothing else.
 void TreeBuilder::EnumeratedValue(uint32_t value, const char* identifier) {
   if (!IsLevelRead()) return;
   NodeData& node = nodes_[level_.node];

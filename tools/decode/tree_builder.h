@@ -1,5 +1,5 @@
-// Makes the tree of a message from the walk of its record and from what the decode of it was observed to read. Both
-// follow the same descriptions, so their members come in the same order.
+// Builds the tree of a message from the walk of its record and the log of its decode. Both follow the same
+// descriptions, so members come in the same order.
 #pragma once
 
 #include <string>
@@ -11,15 +11,15 @@
 #include "kelvra/walk.h"
 #include "observer/observer.h"
 
-// What a decode read, in its order.
+// What a decode read, in order.
 class DecodeLog : public kelvra::DecodeObserver {
  public:
   struct Entry {
-    const char* name;  // null: an element of a list
+    const char* name;  // null for a list element
     BitRange bits;
-    uint32_t end;  // the entry after those of its members
+    uint32_t end;  // the entry after the last member
     bool isRead = false;
-    bool isReached = true;  // it began where the decode had not stopped
+    bool isReached = true;  // it began before the decode stopped
     bool hasUndefinedIndex = false;
   };
   struct Stop {
@@ -39,29 +39,29 @@ class DecodeLog : public kelvra::DecodeObserver {
  private:
   std::vector<Entry> entries_;
   std::vector<Stop> stops_;
-  uint32_t open_ = 0;  // the innermost entry; the `end` of an open one is the one around it
+  uint32_t open_ = 0;  // the innermost open entry; the `end` of an open entry is its parent
   bool isStopped_ = false;
 };
 
-// Where the information elements stand that a Q.931 record holds.
+// The positions of the information elements in a Q.931 record.
 class FramePlaces {
  public:
   virtual ~FramePlaces() = default;
-  // Of the member of that name; none: it was not read.
+  // The bits of the named member; empty if it was not read.
   virtual std::optional<BitRange> Find(std::string_view member) const = 0;
 };
 
-// The visitor of a walk.
+// The visitor that walks the record.
 class TreeBuilder {
  public:
-  // Takes every member that the record holds for read.
+  // Treats every member that the record holds as read.
   explicit TreeBuilder(std::vector<NodeData>& nodes);
-  // The bits of the log are counted from `firstBit` on. With `frame` the walk is that of a Q.931 record, whose
-  // H323-UserInformation the log is of.
+  // The log counts bits from `firstBit`. With `frame`, the walk is of a Q.931 record and the log is of its
+  // H323-UserInformation.
   TreeBuilder(std::vector<NodeData>& nodes, const DecodeLog& log, uint32_t firstBit,
               const FramePlaces* frame = nullptr);
 
-  // Builds the tree of one record, whose walk this is.
+  // Builds the tree of one record. The argument walks it.
   template <class R>
   void Build(R& record) {
     level_.isChoice = IsChoice<R>();
@@ -108,16 +108,16 @@ class TreeBuilder {
  private:
   using Entry = DecodeLog::Entry;
 
-  // The record or list whose members are shown.
+  // The record or list being walked.
   struct Level {
     uint32_t node = 0;
-    uint32_t next = 0;  // the entries that its members can have
+    uint32_t next = 0;  // the first entry that its members can have
     uint32_t end = 0;
     const Entry* entry = nullptr;
     bool isChoice = false;
-    bool isWhole = false;   // all that it holds counts as read
-    bool isFrame = false;   // of Q.931
-    bool isMerged = false;  // it is the only member of a record, and takes the place of that
+    bool isWhole = false;   // everything in it counts as read
+    bool isFrame = false;   // it is the Q.931 frame
+    bool isMerged = false;  // it is the only member of its record and replaces it
   };
 
   template <class R>
