@@ -26,7 +26,7 @@ std::unique_ptr<Formatter> MakeMessageFormatter(Format format, const FormatOptio
   }
 }
 
-// Null: the format prints messages.
+// Null if the format prints messages.
 std::unique_ptr<CallFormatter> MakeCallFormatter(const Options& options) {
   switch (options.format) {
     case Format::kCallTable: return MakeCallTable(options.formatting);
@@ -50,12 +50,12 @@ std::unique_ptr<Formatter> MakeFormatter(const Options& options) {
 
 class Printer : public MessageSink {
  public:
-  // `names_inputs`: each message is shown with the file that it comes from.
+  // With `names_inputs`, each message shows its file.
   Printer(std::unique_ptr<Formatter> formatter, bool flushes, bool names_inputs)
       : formatter_(std::move(formatter)), flushes_(flushes), names_inputs_(names_inputs) {}
 
   void OnInput(const std::string& name) override { input_ = std::make_shared<const std::string>(name); }
-  // A program that waits for each message before it goes on gets it at once.
+  // A program that waits for each message gets it at once.
   void FlushEachMessage() { flushes_ = true; }
 
   std::vector<Announced> OnMessage(const Message& message) override {
@@ -91,7 +91,7 @@ class Printer : public MessageSink {
     formatter_->OnRefusedConnection(origin);
   }
 
-  // After the last message.
+  // Called after the last message.
   void Finish() {
     text_.clear();
     formatter_->Finish(text_);
@@ -100,7 +100,7 @@ class Printer : public MessageSink {
   }
 
   bool AllComplete() const { return all_complete_; }
-  // Whether there was a message, or a loss that can have been one.
+  // True if there was a message, or a loss that may have been one.
   bool Any() const { return any_; }
 
  private:
@@ -138,7 +138,7 @@ Family RequiredFamily(const Options& options) {
   return *options.family;
 }
 
-// Returns whether the file is a capture.
+// Returns true if the file is a capture.
 bool RunFile(const std::string& file, const Options& options, CaptureReader& captures, Printer& printer) {
   ByteSource source(file);
   printer.OnInput(source.Name());
@@ -166,7 +166,7 @@ void Run(const Options& options, Printer& printer) {
       any_capture = RunFile(file, options, captures, printer) || any_capture;
     }
   } catch (const InputError&) {
-    captures.Close();  // what was read is shown
+    captures.Close();  // show what was read
     throw;
   }
   captures.Close();

@@ -15,7 +15,7 @@ constexpr std::string_view kExitStatus =
     "0 all messages are complete; 1 some are not, or data was found where a message was expected; 2 bad usage, input "
     "that cannot be read, or output that cannot be written.";
 
-// What --help leaves out.
+// Sections that --help leaves out.
 constexpr Section kSections[] = {
     {"MESSAGES",
      "What was read of a message is printed, and what is wrong with it: where it ends early, claims more than there is "
@@ -45,7 +45,7 @@ OptionList OptionsToShow(const CLI::App& app) {
 
 bool TakesValue(const CLI::Option& option) { return option.get_items_expected_max() > 0; }
 
-// "--as", or "-l"; "-h" and "--help" both.
+// "--as", or "-l"; for help both "-h" and "--help".
 std::vector<std::string> Names(const CLI::Option& option) {
   std::vector<std::string> names;
   for (const std::string& name : option.get_snames()) names.push_back("-" + name);
@@ -62,7 +62,7 @@ std::string Joined(const std::vector<std::string>& words, std::string_view separ
   return text;
 }
 
-// Text as troff takes it: hyphens stay hyphens, and no line starts a request.
+// Escapes text for troff: hyphens stay hyphens, and no line starts a request.
 std::string Troff(std::string_view text) {
   std::string escaped;
   for (const char c : text) {

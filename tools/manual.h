@@ -1,4 +1,4 @@
-// The manual page and the shell completion, made from the options that the program has.
+// The manual page and the shell completion, generated from the program's options.
 #pragma once
 
 #include <string>
@@ -7,9 +7,9 @@ namespace CLI {
 class App;
 }
 
-// For --help: what a user must know, and where the rest stands.
+// For --help: the essential notes, and where to find the rest.
 std::string HelpNotes();
 // A page for man(1).
 std::string ManualPage(const CLI::App& app);
-// A completion for bash.
+// A bash completion script.
 std::string BashCompletion(const CLI::App& app);

@@ -1,4 +1,4 @@
-// What the inputs hand to the decoders.
+// What the inputs pass to the decoders.
 #pragma once
 
 #include <cstdint>
@@ -22,12 +22,12 @@ struct Origin {
 
 struct Message {
   Family family = Family::kRas;
-  std::vector<uint8_t> octets;  // of call signalling, with the TPKT header
+  std::vector<uint8_t> octets;  // for call signalling, with the TPKT header
   std::optional<Origin> origin;
-  std::shared_ptr<const std::string> file{};  // which the message comes from; null: there is one only
+  std::shared_ptr<const std::string> file{};  // the file of the message; null if there is only one
 };
 
-// Where a message asks its receiver to open a TCP connection, and what such a connection carries.
+// An address to which a message asks its receiver to open a TCP connection, and what that connection carries.
 struct Announced {
   Endpoint endpoint;
   Family family = Family::kH245;  // or kQ931
@@ -36,23 +36,23 @@ struct Announced {
 class MessageSink {
  public:
   virtual ~MessageSink() = default;
-  // What follows comes from the file of this name; frames are counted anew.
+  // The following messages come from the file of this name; the frame count restarts.
   virtual void OnInput(const std::string& /*name*/) {}
-  // Returns what the message announces.
+  // Returns the addresses that the message announces.
   virtual std::vector<Announced> OnMessage(const Message& message) = 0;
-  // Octets that should have held messages could not be told apart into such.
+  // Octets that should hold messages could not be split into any.
   virtual void OnLoss(const std::string& what) = 0;
-  // A remark on the input as a whole, which is no loss.
+  // A remark about the whole input; not a loss.
   virtual void OnNotice(const std::string& /*what*/) {}
 
-  // A connection to a port of call signalling or H.245 was refused: its SYN was answered by a RST. The origin is that
-  // of the SYN's sender and receiver, at the frame of the RST.
+  // A connection to a call-signalling or H.245 port was refused: a RST answered its SYN. The origin has the source and
+  // destination of the SYN and the frame of the RST.
   virtual void OnRefusedConnection(const Origin& /*origin*/) {}
   // A datagram that looks like RTP (RFC 3550, 5.1).
   virtual void OnMediaPacket(const Origin& /*origin*/, uint8_t /*payload_type*/, uint32_t /*ssrc*/) {}
 };
 
-// The input cannot be read, or read on; what() is for the user.
+// The input cannot be opened or read on; what() is meant for the user.
 class InputError : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };

@@ -71,7 +71,7 @@ std::optional<int> ParseOptions(int count, char** arguments, Options& options) {
   CLI::App app("Prints the H.323 signalling of a capture, or single messages.", "kelvra-dump");
   app.footer(HelpNotes());
   app.set_version_flag("--version", "kelvra-dump " KELVRA_VERSION);
-  // A path may start with '/' under Wine and the like.
+  // Under Wine, for example, a path may start with '/'.
   app.allow_windows_style_options(false);
   app.add_option("FILE", options.files, "what to read, one after the other; - or nothing: standard input")->type_name("");
 
@@ -105,7 +105,7 @@ std::optional<int> ParseOptions(int count, char** arguments, Options& options) {
   app.add_flag_callback("--relative", setTimes(TimeStyle::kRelative), "seconds since the first message")
       ->excludes(local);
 
-  // What makes the manual page is no business of --help.
+  // --help does not show the options that make the manual page.
   app.option_defaults()->group("");
   std::string (*manual)(const CLI::App&) = nullptr;
   app.add_flag_callback("--manual-page", [&manual] { manual = ManualPage; });

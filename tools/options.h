@@ -29,5 +29,5 @@ constexpr int kAllComplete = 0;
 constexpr int kSomeIncomplete = 1;
 constexpr int kUnusable = 2;
 
-// Fills the options; returns an exit status when there is nothing more to do.
+// Fills in the options; returns an exit status if there is nothing more to do.
 std::optional<int> ParseOptions(int count, char** arguments, Options& options);

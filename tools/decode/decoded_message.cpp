@@ -109,7 +109,7 @@ void AddRest(DecodedMessage& decoded, const DecodeLog& log, const DecodeEnd& end
   if (read < size) AddLeftOver(decoded, size - read, firstBit + uint64_t{read} * 8, where);
 }
 
-// True if the library's own decode succeeds too.
+// True if the decode did not stop; the library's own decode then ends the same way.
 bool IsClean(const DecodeLog& log, const DecodeEnd& end) {
   return log.Stops().empty() && end.status == kelvra::kDecoded && !end.departed;
 }

@@ -1,4 +1,4 @@
-// The forms in which calls are printed, and messages of selected calls.
+// The output formats for calls, and for the messages of selected calls.
 #pragma once
 
 #include <memory>
@@ -11,7 +11,7 @@
 class CallFormatter {
  public:
   virtual ~CallFormatter() = default;
-  // Whether it prints the messages of a call, which therefore must be kept.
+  // True if it prints messages, so calls must keep theirs.
   virtual bool NeedsMessages() const { return false; }
   // Each appends to the text.
   virtual void Begin(std::string& /*text*/) {}
@@ -21,19 +21,19 @@ class CallFormatter {
 
 // One line per call.
 std::unique_ptr<CallFormatter> MakeCallTable(const FormatOptions& options);
-// Every fact, a block per call.
+// One block per call with every fact.
 std::unique_ptr<CallFormatter> MakeCallBlocks();
 std::unique_ptr<CallFormatter> MakeLadder(const Filter& filter);
 // One page.
 std::unique_ptr<CallFormatter> MakeHtml(const Filter& filter);
 
-// Prints calls instead of messages: in the order in which they begin, or each as soon as it has ended.
+// Prints calls instead of messages, in order of their start or each as soon as it ends.
 enum class CallOrder : uint8_t { kByBeginning, kByEnd };
 std::unique_ptr<Formatter> MakeCallReport(std::unique_ptr<CallFormatter> formatter, const Filter& filter,
                                           CallOrder order);
 
-// Prints the messages that the filter wants.
+// Prints the messages that pass the filter.
 std::unique_ptr<Formatter> MakeSelection(std::unique_ptr<Formatter> formatter, const Filter& filter);
 
-// Prints the statistics of what the filter wants.
+// Prints statistics of what passes the filter.
 std::unique_ptr<Formatter> MakeStatistics(const Filter& filter);

@@ -1,4 +1,4 @@
-// A block per call with every fact.
+// One block per call with every fact.
 #include "calls/sections.h"
 #include "formats/calls.h"
 #include "text/concat.h"

@@ -1,4 +1,4 @@
-// Calls instead of messages.
+// Prints calls instead of messages.
 #include <map>
 #include <unordered_set>
 #include <utility>
@@ -9,7 +9,7 @@
 
 namespace {
 
-// Of calls that have ended, while one that began earlier goes on.
+// The output of ended calls that wait for an earlier call to end.
 constexpr size_t kMostWaitingOctets = 0x4000000;
 
 class CallReport : public Formatter, private CallListener {
@@ -65,7 +65,7 @@ class CallReport : public Formatter, private CallListener {
     return has_wanted && filter_.WantsCall(call) == Wanted::kYes;
   }
 
-  // A connection that was refused has no message.
+  // A refused connection has no message.
   bool HasWantedRefusal(const Call& call) const {
     for (const Origin& refused : call.refusedConnections) {
       if (filter_.WantsConnection(refused)) return true;
@@ -77,10 +77,10 @@ class CallReport : public Formatter, private CallListener {
   const Filter& filter_;
   CallOrder order_;
   CallTracker tracker_;
-  std::unordered_set<const Call*> wanted_;  // of which a message is wanted
+  std::unordered_set<const Call*> wanted_;  // calls with at least one wanted message
   std::map<uint64_t, std::string> waiting_;
   size_t waiting_octets_ = 0;
-  uint64_t next_ = 0;  // in the order of calls
+  uint64_t next_ = 0;  // the next call in order
   std::string ready_;
 };
 

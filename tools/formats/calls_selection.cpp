@@ -1,4 +1,4 @@
-// The messages that a filter wants.
+// Prints the messages that pass the filter.
 #include <utility>
 
 #include "calls/call_tracker.h"

@@ -54,7 +54,7 @@ class CallTable : public CallFormatter {
     return Concat({DateText(call.first, zone), " ", ClockTime(call.first, zone)});
   }
 
-  // Most are registrations kept alive, so those that went well are counted.
+  // Most of these are keep-alive registrations, so successful ones are only counted.
   void NoteOther(const Call& call) {
     ++others_;
     const auto faults = Faults(call);

@@ -1,4 +1,4 @@
-// What the formats for a person share: times in the style that was asked for, and colours.
+// Shared by the text formats: times in the chosen style, and colours.
 #pragma once
 
 #include <cstdint>
@@ -8,16 +8,16 @@
 
 #include "formats/formats.h"
 
-// Times in one style; those that are relative start at the first that is shown.
+// Times in one style; relative times start at the first one shown.
 class TimeColumn {
  public:
   explicit TimeColumn(TimeStyle style) : style_(style) {}
 
   // "23:59:59.000001" or "+12.000001"
   std::string Clock(int64_t microseconds);
-  // With the date: "2024-01-31T23:59:59.000001Z" in UTC.
+  // With the date, in UTC: "2024-01-31T23:59:59.000001Z".
   std::string Full(int64_t microseconds);
-  // The date, where it is another than that of the time before; empty otherwise.
+  // The date if it differs from the previous one; otherwise empty.
   std::string NewDate(int64_t microseconds);
 
  private:

@@ -28,7 +28,7 @@ class DetailList {
   std::string text_;
 };
 
-// Some equipment fills identifiers up with NUL characters, which are left out.
+// Drops the NUL characters with which some equipment pads identifiers.
 std::string Quoted(std::string_view text) {
   return Concat({"\"", text.substr(0, text.find_last_not_of('\0') + 1), "\""});
 }
@@ -53,7 +53,7 @@ std::string PartyDigits(Node alias) {
   return {};
 }
 
-// A number, a string, yes or no, an address, or which alternative was chosen.
+// A number, a string, yes or no, an address, or the chosen alternative.
 std::string ValueText(Node value) {
   if (IsText(value)) return Quoted(value.Text());
   if (value.Is(NodeKind::kNumber)) return value.Text();
@@ -78,7 +78,7 @@ std::string ListText(Node list) {
   return Joined(texts, ", ");
 }
 
-// The first of the members that says something.
+// The first member with a value.
 std::string FirstOf(Node body, Names members) {
   for (const std::string_view member : members) {
     const Node value = body[member];
@@ -99,14 +99,14 @@ void CollectMedia(Node node, std::vector<std::string>& media) {
   for (const Node member : node) CollectMedia(member, media);
 }
 
-// "media/control" of each channel in the value, each pair once.
+// "media/control" of each channel, each pair once.
 std::string MediaText(Node node) {
   std::vector<std::string> media;
   CollectMedia(node, media);
   return Joined(media, ", ");
 }
 
-// The call that a message, or a part of it, is about. Bandwidth is in units of 100 bit/s.
+// The call that a message, or a part of it, refers to. Bandwidth is in units of 100 bit/s.
 void AddCall(Node call, DetailList& details) {
   details.Add("crv", FirstOf(call, {"callReferenceValue"}));
   details.Add("call", FirstOf(call["callIdentifier"], {"guid"}));
@@ -137,7 +137,7 @@ void AddRas(const DecodedMessage& message, DetailList& details) {
   for (const Node call : body["perCallInfo"]) AddCall(call, details);
 }
 
-// The octet holds an extension bit, too.
+// The octet also holds an extension bit.
 std::string CauseText(Node octet) {
   const auto number = octet.Number();
   if (!number) return {};
@@ -146,7 +146,7 @@ std::string CauseText(Node octet) {
   return Concat({std::to_string(cause), name.empty() ? "" : " ", name});
 }
 
-// Which codec a capability names, a generic one with its identifier.
+// The codec of a capability; for a generic one, its identifier.
 std::string CodecText(Node capability) {
   const Node application = capability["application"];
   const Node choice = application ? application : capability;
@@ -154,7 +154,7 @@ std::string CodecText(Node capability) {
   return Concat({choice.Alternative(), identifier.empty() ? "" : " ", identifier});
 }
 
-// The codec of a DataType or ModeElementType, or what else it stands for.
+// The codec of a DataType or ModeElementType, or the kind of data.
 std::string DataTypeText(Node dataType) {
   const std::string_view kind = dataType.Alternative();
   if (kind == "h235Media") return Concat({"encrypted ", DataTypeText(dataType.Find({"h235Media", "mediaType"}))});
@@ -163,7 +163,7 @@ std::string DataTypeText(Node dataType) {
   return hasCodec ? CodecText(dataType.Chosen()) : std::string(kind);
 }
 
-// The codecs of the channels that fast start offers or accepts, one of both directions for each.
+// The codecs that fast start offers or accepts, once for both directions.
 std::string FastStartCodecs(Node fastStart, std::string_view parameters) {
   std::vector<std::string> codecs;
   for (const Node channel : fastStart) {
@@ -184,7 +184,7 @@ std::string_view DirectionOf(std::string_view capability) {
   return capability.starts_with("receive") ? "receive" : "transmit";
 }
 
-// The codecs of a capability table, by direction.
+// The codecs of a capability table, grouped by direction.
 void AddCapabilities(Node table, DetailList& details) {
   for (const char* direction : {"receive", "transmit", "both"}) {
     std::vector<std::string> codecs;
@@ -207,13 +207,13 @@ std::string ModesText(Node requestedModes) {
   return Joined(modes, ", ");
 }
 
-// Without the flag that tells who allocated it, so that both sides of a call show the same.
+// Without the flag bit that shows which side allocated it, so that both sides of a call show the same value.
 std::string CallReferenceText(Node value) {
   const auto number = value.Number();
   return number ? std::to_string(*number & 0x7FFF) : std::string();
 }
 
-// Q.931's octet 3a may stand before the digits.
+// Octet 3a of Q.931 may precede the digits.
 std::string PartyNumber(Node element) {
   const auto octets = element.Octets();
   if (octets.empty()) return element ? Quoted("") : std::string();
@@ -262,13 +262,13 @@ void AddUserInput(Node body, DetailList& details) {
   if (!duration.empty()) details.Add("for", duration + " ms");
 }
 
-// The bit rate that flow control sets, in steps of 100 bit/s.
+// The bit rate of a flow control, in units of 100 bit/s.
 std::string RestrictionText(Node restriction) {
   const auto rate = restriction["maximumBitRate"].Number();
   return rate ? std::to_string(*rate * 100) + " bit/s" : std::string(restriction.Alternative());
 }
 
-// What a message says that is a CHOICE itself, down to the alternatives that hold nothing.
+// The nested alternatives of a CHOICE, down to one without content.
 std::string ChoiceText(Node choice) {
   const std::string_view nested = choice.Chosen().Alternative();
   const bool isPlain = choice.Chosen().Count() == 1 && choice.Chosen().Chosen().Is(NodeKind::kNull);
@@ -289,7 +289,7 @@ std::string VendorText(Node identifier) {
                  FirstOf(code, {"manufacturerCode"})});
 }
 
-// Octets that are characters by custom.
+// Octets that usually hold characters.
 std::string CharactersIn(Node octets) {
   if (!octets) return {};
   std::string text;

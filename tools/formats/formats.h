@@ -1,4 +1,4 @@
-// The forms in which messages are printed.
+// The output formats for messages.
 #pragma once
 
 #include <cstdint>
@@ -17,7 +17,7 @@ enum class TimeStyle : uint8_t {
 
 struct FormatOptions {
   TimeStyle times = TimeStyle::kUtc;
-  bool showsOctets = false;  // of the tree: where each member stands, and the message in hexadecimal
+  bool showsOctets = false;  // for the tree: the position of each member, and the message in hexadecimal
   bool isColored = false;
 };
 
@@ -26,10 +26,10 @@ class Formatter {
   virtual ~Formatter() = default;
   // Appends whole lines.
   virtual void Print(const Message& message, const DecodedMessage& decoded, std::string& text) = 0;
-  // What a capture has besides messages.
+  // Other events of a capture.
   virtual void OnMediaPacket(const Origin& /*origin*/, uint8_t /*payload_type*/) {}
   virtual void OnRefusedConnection(const Origin& /*origin*/) {}
-  // What follows the last message.
+  // Called after the last message.
   virtual void Finish(std::string& /*text*/) {}
 };
 

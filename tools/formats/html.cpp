@@ -50,7 +50,7 @@ class Html : public CallFormatter {
 
   static std::string Cell(const std::string& text) { return Concat({"<td>", Escaped(text), "</td>"}); }
 
-  // A number to sort by, below 0 where there is none.
+  // A cell with its sort key, which is below 0 if there is no time.
   static std::string TimeCell(const std::optional<int64_t>& span) {
     return Concat({"<td class=\"number\" data-value=\"", std::to_string(span.value_or(-1)), "\">",
                    span ? Seconds(*span) : "-", "</td>"});

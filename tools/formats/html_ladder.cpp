@@ -31,7 +31,7 @@ std::string Head(size_t x, size_t y, bool points_right) {
                  std::to_string(y - kHead / 2), " ", from, ",", std::to_string(y + kHead / 2), "\"/>"});
 }
 
-// Within one column the arrow is only its label.
+// If both ends are in one column, only the label.
 std::string Arrow(size_t source, size_t destination, size_t y, const std::string& label) {
   const size_t from = kLeft + source * kSpacing;
   const size_t to = kLeft + destination * kSpacing;
@@ -39,7 +39,7 @@ std::string Arrow(size_t source, size_t destination, size_t y, const std::string
   return Concat({Line(from, y, to, y, ""), Head(to, y, from < to), Text((from + to) / 2, y - 5, "middle", label)});
 }
 
-// So that the whole row can be clicked.
+// Makes the whole row clickable.
 std::string Ground(size_t y, size_t width) {
   return Concat({"<rect y=\"", std::to_string(y - kRowHeight / 2), "\" width=\"", std::to_string(width), "\" height=\"",
                  std::to_string(kRowHeight), "\" fill=\"transparent\"/>"});

@@ -6,7 +6,7 @@
 
 #include "calls/ladder_events.h"
 
-// "m3-12": the 12th message of the call that is third in order.
+// "m3-12": the 12th message of call 3.
 std::string MessageAnchor(const Call& call, size_t index);
 
 void AppendSvgLadder(const Call& call, const std::vector<LadderEvent>& events, std::string& html);

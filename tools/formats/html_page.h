@@ -1,4 +1,4 @@
-// What every page of calls has.
+// The fixed parts of the page of calls.
 #pragma once
 
 constexpr const char* kPageBegin = R"(<!doctype html>

@@ -1,8 +1,8 @@
-// Text within HTML.
+// Text in HTML.
 #pragma once
 
 #include <string>
 #include <string_view>
 
-// With nothing in it that HTML would take for its own, within attributes too.
+// Escapes everything special to HTML, also inside attributes.
 std::string Escaped(std::string_view text);

@@ -48,7 +48,7 @@ void AppendElements(std::string& json, Node node) {
   json += ']';
 }
 
-// An object that is written member by member.
+// Writes an object member by member.
 class ObjectWriter {
  public:
   explicit ObjectWriter(std::string& json) : json_(json) {}
@@ -69,7 +69,7 @@ class ObjectWriter {
     Name(name);
     json_ += "null";
   }
-  // What is appended next is the value.
+  // The caller appends the value next.
   void Name(std::string_view name) {
     json_ += separator_;
     json_ += '"';
@@ -110,7 +110,7 @@ void AppendFaults(ObjectWriter& line, std::string& json, const DecodedMessage& d
   json += ']';
 }
 
-// Whether and how far the message was decoded, and its members.
+// Appends the result of the decode and the members of the message.
 void AppendDecoded(ObjectWriter& line, std::string& json, const DecodedMessage& decoded, size_t octets) {
   if (decoded.name.empty()) {
     line.Null("name");

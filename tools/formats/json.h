@@ -1,4 +1,4 @@
-// JSON of what was read of a message, by the rules of ITU-T X.697: SEQUENCE and CHOICE are objects.
+// What was read of a message as JSON, by the rules of ITU-T X.697: SEQUENCE and CHOICE are objects.
 #pragma once
 
 #include <string>

@@ -1,4 +1,4 @@
-// The ladder diagram of a call in text.
+// A call's ladder diagram in text.
 #include <algorithm>
 
 #include "calls/ladder_events.h"
@@ -13,9 +13,9 @@ namespace {
 
 constexpr size_t kTimeWidth = 13;
 constexpr size_t kLeastSpacing = 24;
-constexpr size_t kArrowWidth = 6;  // what an arrow has around its label
+constexpr size_t kArrowWidth = 6;  // added to the label
 
-// One call's diagram: a line of life for each column, as far apart as the labels need.
+// One diagram: a lifeline per column, as far apart as the labels need.
 class Diagram {
  public:
   Diagram(const Call& call, std::vector<LadderEvent> events)

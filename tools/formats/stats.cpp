@@ -1,4 +1,4 @@
-// How many of what.
+// Prints statistics.
 #include <unordered_set>
 #include <vector>
 
@@ -88,7 +88,7 @@ class StatisticsReport : public Formatter, private CallListener {
 
   const Filter& filter_;
   CallTracker tracker_;
-  std::unordered_set<const Call*> wanted_;  // of which a message is wanted
+  std::unordered_set<const Call*> wanted_;  // calls with at least one wanted message
   Statistics statistics_;
   uint64_t refused_ = 0;
 };

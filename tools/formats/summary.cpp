@@ -1,4 +1,4 @@
-// A line for each message.
+// One line per message.
 #include "decode/message_text.h"
 #include "formats/console_text.h"
 #include "formats/details.h"

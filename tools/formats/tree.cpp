@@ -1,4 +1,4 @@
-// Every member on a line of its own.
+// One line per member.
 #include <algorithm>
 #include <cstdio>
 
@@ -12,7 +12,7 @@
 
 namespace {
 
-// Octets that are text: every one a printable character of ASCII, but for NULs at the end.
+// Text in octets: printable ASCII only, except for NULs at the end.
 std::string_view TextIn(Node node) {
   if (!node.Is(NodeKind::kOctets) || node.Name() == "ip" || node.Name() == "network") return {};
   const auto octets = node.Octets();
@@ -80,7 +80,7 @@ class TreeFormatter : public Formatter {
     text_->append(2 * depth, ' ');
   }
 
-  // "12.3-14.7": the first bit and the last.
+  // "12.3-14.7": first and last bit.
   void AppendPlace(BitRange bits) {
     std::string place;
     if (bits.end > bits.first) {
@@ -98,7 +98,7 @@ class TreeFormatter : public Formatter {
     text += static_cast<char>('0' + bit % 8);
   }
 
-  // `before` stands before the name.
+  // `before` precedes the name.
   void PrintMember(Node node, std::string_view before, size_t depth) {
     std::string& text = *text_;
     BeginLine(node, depth);
@@ -130,7 +130,7 @@ class TreeFormatter : public Formatter {
       std::string label = "[";
       AppendNumber(label, index++);
       label += ']';
-      // A CHOICE stands on the line of its index.
+      // A CHOICE shares the line of its index.
       if (element.Is(NodeKind::kRecord) && element.Count() == 1) {
         label += ' ';
         PrintMember(element.Chosen(), label, depth);

@@ -1,4 +1,4 @@
-// Captures as pcap and pcapng files hold them.
+// Reads pcap and pcapng captures.
 #pragma once
 
 #include <cstdint>
@@ -13,13 +13,13 @@ class CaptureFile;
 struct CapturePorts {
   std::set<uint16_t> ras{1718, 1719};        // UDP
   std::set<uint16_t> call_signalling{1720};  // TCP
-  std::set<uint16_t> h245;                   // TCP, besides the addresses that are announced
+  std::set<uint16_t> h245;                   // TCP, in addition to announced addresses
 
   bool AreRas(uint16_t source, uint16_t destination) const { return ras.contains(source) || ras.contains(destination); }
 };
 
-// Captures one after the other. Programs begin a new file from time to time, so connections go on in the next, unless
-// its time shows that it is another capture.
+// Reads several captures in sequence. Capture programs rotate files, so connections continue in the next file, unless
+// its time shows that it is a different capture.
 class CaptureReader {
  public:
   CaptureReader(const CapturePorts& ports, MessageSink& sink);
@@ -27,12 +27,13 @@ class CaptureReader {
   CaptureReader(const CaptureReader&) = delete;
   CaptureReader& operator=(const CaptureReader&) = delete;
 
-  // Frames are counted anew. Throws InputError, also after messages, when the capture cannot be read on.
+  // Restarts the frame count. Throws InputError if the capture cannot be read on, also after messages.
   void Read(ByteSource& source);
-  // The same in steps: the header, and then packet by packet until there is none. The source lives as long.
+  // The same in steps: the header, then one packet at a time until there are no more. The source must outlive the
+  // reading.
   void Open(ByteSource& source);
   bool ReadPacket();
-  // Delivers what waits for more, and reports what was lost.
+  // Delivers what is still waiting, and reports losses.
   void Close();
 
  private:

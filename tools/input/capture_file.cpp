@@ -20,13 +20,13 @@ constexpr uint32_t kInterfaceDescription = 1;
 constexpr uint32_t kObsoletePacket = 2;
 constexpr uint32_t kSimplePacket = 3;
 constexpr uint32_t kEnhancedPacket = 6;
-constexpr uint32_t kBlockFrameOctets = 12;  // type and length before the body, the length again after it
+constexpr uint32_t kBlockFrameOctets = 12;  // type and length before the body, and the length again after it
 
 constexpr uint16_t kTimeResolution = 9;
 constexpr uint16_t kTimeOffset = 14;
 
 constexpr uint32_t kMostPacketOctets = 0x40000;
-constexpr uint32_t kMostBlockOctets = 0x100000;  // of the blocks that are read
+constexpr uint32_t kMostBlockOctets = 0x100000;  // for the blocks that are read
 constexpr size_t kMostInterfaces = 0x10000;
 
 bool IsSupported(LinkType link_type) {
@@ -42,7 +42,7 @@ bool IsRead(uint32_t block_type) {
          block_type == kEnhancedPacket;
 }
 
-// 10, or 2 where the first bit is set, to the power of the other bits; 0 where that is too much.
+// 10 (or 2 if the first bit is set) to the power of the other bits; 0 on overflow.
 uint64_t UnitsPerSecond(uint8_t resolution) {
   const unsigned exponent = resolution & 0x7FU;
   if ((resolution & 0x80) != 0) return exponent < 64 ? uint64_t{1} << exponent : 0;
@@ -54,7 +54,7 @@ uint64_t UnitsPerSecond(uint8_t resolution) {
   return units;
 }
 
-// Modulo 2^64, as hostile files may have any time.
+// Modulo 2^64, because a hostile file may contain any time.
 int64_t Microseconds(uint64_t time, uint64_t units_per_second, int64_t offset_seconds) {
   const uint64_t fraction = time % units_per_second;
   const uint64_t micro = units_per_second <= kMicro * kMicro ? fraction * kMicro / units_per_second
@@ -111,7 +111,8 @@ void CaptureFile::ReadPcapHeader() {
   };
   if (!is_magic()) big_endian_ = true;
   if (!is_magic()) Fail("neither pcap nor pcapng");
-  const auto link_type = static_cast<LinkType>(Number16(octets_, big_endian_ ? 22 : 20));  // the rest is on checksums
+  const auto link_type =
+      static_cast<LinkType>(Number16(octets_, big_endian_ ? 22 : 20));  // the other bits describe checksums
   Require(link_type);
   const bool nanoseconds = Number32(octets_, 0) == kNanosecondsMagic;
   interfaces_.push_back({link_type, 0, nanoseconds ? kNano : kMicro, 0});
@@ -145,7 +146,7 @@ bool CaptureFile::NextRecord(CapturedPacket& packet) {
   return true;
 }
 
-// The byte order of a section stands after the length of its header.
+// The byte order of a section follows the length of its header.
 void CaptureFile::ReadSectionOrder() {
   const auto start = source_.Peek(8);
   if (start.size() < 8) Fail("the capture ends within a block");
@@ -162,7 +163,7 @@ bool CaptureFile::NextBlock(Block& block) {
   ReadRest(4);
   const uint32_t length = Number32(octets_, 0);
   if (length < kBlockFrameOctets || length % 4 != 0) Fail("a block has a wrong length");
-  const uint32_t rest = length - 8;  // body, and length again
+  const uint32_t rest = length - 8;  // body and second length
   block.body = {};
   if (!IsRead(block.type)) {
     if (!source_.Skip(rest)) Fail("the capture ends within a block");

@@ -23,8 +23,8 @@ enum class LinkType : uint16_t {
 struct CapturedPacket {
   LinkType link_type = LinkType::kEthernet;
   int64_t microseconds = 0;         // since 1970-01-01 UTC
-  std::span<const uint8_t> octets;  // until the next packet is read
-  uint32_t length = 0;              // of the packet on the wire, of which the capture may hold less
+  std::span<const uint8_t> octets;  // valid until the next packet is read
+  uint32_t length = 0;              // on the wire; the capture may hold less
 };
 
 class CaptureFile {
@@ -32,7 +32,7 @@ class CaptureFile {
   // Reads the header. Throws InputError.
   explicit CaptureFile(ByteSource& source);
 
-  // False at the end. Throws InputError where the file cannot be read on.
+  // False at the end. Throws InputError if the file cannot be read on.
   bool Next(CapturedPacket& packet);
 
  private:
@@ -48,11 +48,11 @@ class CaptureFile {
   };
 
   [[noreturn]] void Fail(const std::string& what) const;
-  // Refuses link types that are not read.
+  // Throws InputError for an unsupported link type.
   void Require(LinkType link_type) const;
   uint16_t Number16(std::span<const uint8_t> octets, size_t at) const;
   uint32_t Number32(std::span<const uint8_t> octets, size_t at) const;
-  // Reads so many octets; false where the file ends before the first of them.
+  // Reads `count` octets; false if the file ends before the first.
   bool Read(size_t count);
   void ReadRest(size_t count);
 
@@ -69,6 +69,6 @@ class CaptureFile {
   ByteSource& source_;
   bool is_pcapng_ = false;
   bool big_endian_ = false;
-  std::vector<Interface> interfaces_;  // of a pcap file one
+  std::vector<Interface> interfaces_;  // a pcap file has one
   std::vector<uint8_t> octets_;
 };

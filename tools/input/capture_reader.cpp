@@ -10,7 +10,7 @@ namespace {
 
 constexpr size_t kRtpHeaderOctets = 12;
 
-// RFC 3550, 5.1, and RFC 5761, 4, by which RTCP looks like these payload types.
+// RFC 3550 5.1. RTCP would have these payload types (RFC 5761 4).
 bool LooksLikeRtp(std::span<const uint8_t> datagram) {
   if (datagram.size() < kRtpHeaderOctets || datagram[0] >> 6 != 2) return false;
   const int payload_type = datagram[1] & 0x7F;
@@ -26,7 +26,7 @@ class CaptureReader::Distributor {
 
   void StartFile() { origin_.frame = 0; }
   void OnPacket(const CapturedPacket& packet) {
-    // A file that goes back in time does not go on where the one before it ended.
+    // A file that starts earlier does not continue the previous one.
     if (origin_.frame == 0 && packet.microseconds < origin_.microseconds) streams_.CloseAll();
     origin_.frame += 1;
     origin_.microseconds = packet.microseconds;
@@ -44,7 +44,7 @@ class CaptureReader::Distributor {
     if (count > 0) sink_.OnLoss(what + std::to_string(count));
   }
 
-  // Returns false where the packet is known to hold no signalling.
+  // Returns false if the packet cannot hold signalling.
   bool Take(PacketContent content) {
     switch (content) {
       case PacketContent::kOther: return false;

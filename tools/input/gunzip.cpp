@@ -7,7 +7,7 @@
 namespace {
 
 constexpr size_t kPieceOctets = 0x10000;
-constexpr int kGzipOnly = 16;  // added to the bits of the window
+constexpr int kGzipOnly = 16;  // added to the window bits
 
 constexpr std::array<uint8_t, 3> kMagic{0x1F, 0x8B, Z_DEFLATED};
 constexpr uint8_t kReservedFlags = 0xE0;
@@ -55,7 +55,7 @@ size_t Gunzip::Read(std::span<uint8_t> to, const Reader& reader) {
   return to.size() - stream_.avail_out;
 }
 
-// Members may follow each other, and zeros that fill a block of a tape the last of them.
+// Further members may follow, and zero padding after the last, as from a tape block.
 bool Gunzip::StartMember(const Reader& reader) {
   bool padded = false;
   while (Refill(reader) && *stream_.next_in == 0) {

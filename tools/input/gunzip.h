@@ -1,4 +1,4 @@
-// What gzip has compressed (RFC 1952), a piece at a time.
+// Decompresses gzip (RFC 1952) in pieces.
 #pragma once
 
 #include <zlib.h>
@@ -15,12 +15,12 @@ class GzipError : public std::runtime_error {
 
 class Gunzip {
  public:
-  // Fills a part of the span given, at least one octet unless there are no more, and returns how much.
+  // Writes to the start of the span and returns the number of octets, 0 only at the end.
   using Reader = std::function<size_t(std::span<uint8_t>)>;
 
   static constexpr size_t kMagicOctets = 4;
   static bool IsCompressed(std::span<const uint8_t> start);
-  // What has come so far may be the start of something compressed.
+  // True if these octets may be the start of compressed data.
   static bool MayBeCompressed(std::span<const uint8_t> start);
 
   // `start` holds the first octets of the file.
@@ -29,12 +29,12 @@ class Gunzip {
   Gunzip(const Gunzip&) = delete;
   Gunzip& operator=(const Gunzip&) = delete;
 
-  // Returns how many octets it wrote, none at the end only. Throws GzipError.
+  // Returns the number of octets written, 0 only at the end. Throws GzipError.
   size_t Read(std::span<uint8_t> to, const Reader& reader);
 
  private:
   bool Refill(const Reader& reader);
-  // Returns false where no member follows.
+  // Returns false if there is no further member.
   bool StartMember(const Reader& reader);
 
   z_stream stream_{};

@@ -12,7 +12,7 @@
 namespace {
 
 constexpr std::string_view kBlanks = " \t\r\f\v";
-constexpr size_t kMostOctets = 1 << 20;  // of a message
+constexpr size_t kMostOctets = 1 << 20;  // per message
 
 bool IsBlank(char character) { return kBlanks.find(character) != std::string_view::npos; }
 bool IsHexDigit(char character) { return IsHexText(character) && character != ':' && !IsBlank(character); }
@@ -45,9 +45,9 @@ struct DumpLine {
   std::vector<uint8_t> octets;
 };
 
-// Takes the octets off, up to the column of characters: programs leave more than one blank before that, or draw a bar.
-// In the middle of 16 octets there may be two blanks as well. Without a colon before them, octets stand alone: what
-// groups them then groups them in an order of its own.
+// Removes the octets, up to the character column: programs put more than one blank or a bar before it. There may also
+// be two blanks after the eighth octet. Without a colon after the offset, octets must be single: a program that groups
+// them may also reorder them.
 void TakeOctets(std::string_view& text, DumpLine& line) {
   constexpr size_t middle = 8;
   for (bool first = true;; first = false) {
@@ -64,7 +64,7 @@ void TakeOctets(std::string_view& text, DumpLine& line) {
   }
 }
 
-// Nothing where the line has no offset.
+// Empty if the line has no offset.
 std::optional<DumpLine> ParseDumpLine(std::string_view text) {
   constexpr size_t fewest = 3;
   constexpr size_t most = 8;
@@ -86,7 +86,7 @@ std::optional<DumpLine> ParseDumpLine(std::string_view text) {
 
 }  // namespace
 
-// In plain text, zeros at the start stand in a group like those that follow.
+// In plain text, leading zeros come in a group like those that follow.
 bool StartsDump(std::string_view line) {
   const auto parsed = ParseDumpLine(WithoutHashComment(line));
   return parsed && parsed->offset == 0 && !parsed->octets.empty();
@@ -144,7 +144,7 @@ void HexText::OnDumpLine(std::string_view line) {
   form_ = Form::kPlain;
 }
 
-// Comments become blanks.
+// Replaces comments by blanks.
 std::string HexText::WithoutComments(std::string_view line) {
   std::string kept;
   while (!line.empty()) {
@@ -191,7 +191,7 @@ void HexText::OnArrayOctet(std::string_view& line) {
   line.remove_prefix(2 + digits.size());
 }
 
-// What stands before the octets of an array, or tells its size.
+// Removes what precedes the octets of an array, or gives its size.
 void HexText::SkipDeclaration(std::string_view& line) const {
   const size_t size = std::min(line.find_first_of("{\";"), line.size());
   const bool assigns = line.substr(0, size).find_first_of("=[") != std::string_view::npos;

@@ -1,4 +1,4 @@
-// Messages as hexadecimal text: a line for each, dumps with offsets, or arrays of C.
+// Messages as hexadecimal text: one per line, dumps with offsets, or C arrays.
 #pragma once
 
 #include <cstdint>
@@ -8,19 +8,19 @@
 #include <utility>
 #include <vector>
 
-// Whether a line starts what other programs write, unlike plain hexadecimal text: a dump, of which each line has its
-// offset, as hexdump -C, od -A x -t x1, xxd and packet tools write them; or octets in the way of C.
+// True if the line starts the output of another program: a dump with an offset on each line, as from hexdump -C, od -A
+// x -t x1, xxd and packet tools, or C source. Plain hexadecimal text is neither.
 bool StartsDump(std::string_view line);
 bool StartsArray(std::string_view line);
 
-// A plain line is a message. A dump ends at an empty line, at a line with its offset alone, or where another starts; an
-// array at its closing brace, a semicolon or an empty line.
+// A plain line is one message. A dump ends at an empty line, at a line with only its offset, or at the start of another
+// dump; an array ends at its closing brace, a semicolon or an empty line.
 class HexText {
  public:
   using Handler = std::function<void(std::vector<uint8_t>&&)>;
   explicit HexText(Handler handler) : handler_(std::move(handler)) {}
 
-  // Each of these throws std::invalid_argument, which says what is wrong with the line.
+  // Each of these throws std::invalid_argument, which names the fault in the line.
   void OnLine(std::string_view line);
   void OnEnd();
 
@@ -29,7 +29,7 @@ class HexText {
 
   void OnDumpLine(std::string_view line);
   void OnArrayLine(std::string_view line);
-  // Takes a part off the line's start.
+  // Removes a part from the start of the line.
   void OnArrayPart(std::string_view& line);
   void OnArrayOctet(std::string_view& line);
   void SkipDeclaration(std::string_view& line) const;

@@ -15,8 +15,8 @@ constexpr size_t kDetectionOctets = 4096;
 constexpr size_t kLongestLine = 1 << 20;
 constexpr size_t kLongestRaw = 1 << 20;
 
-// As they stand in the file: pcap with microseconds and nanoseconds in either order, and pcapng's
-// section header block, which reads the same in both.
+// As stored in the file: pcap with microseconds or nanoseconds in either byte order, and the section header block of
+// pcapng, the same in both.
 constexpr std::array<std::array<uint8_t, 4>, 5> kCaptureMagics{{{0xA1, 0xB2, 0xC3, 0xD4},
                                                                 {0xD4, 0xC3, 0xB2, 0xA1},
                                                                 {0xA1, 0xB2, 0x3C, 0x4D},
@@ -29,8 +29,7 @@ bool IsCapture(std::span<const uint8_t> start) {
   });
 }
 
-// Text that is mostly hexadecimal: the rest are mistakes, of which the reader can name the line. Comments may hold
-// any octets.
+// If text is mostly hexadecimal, the rest is a mistake whose line the reader can name. Comments may hold any octets.
 bool IsMostlyHex(std::string_view text) {
   size_t fitting = 0;
   size_t others = 0;

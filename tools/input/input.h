@@ -1,4 +1,4 @@
-// The inputs without a capture round the messages.
+// Inputs other than captures.
 #pragma once
 
 #include <cstdint>
@@ -8,10 +8,10 @@
 
 enum class InputKind : uint8_t { kAuto, kCapture, kHex, kRaw };
 
-// What the first octets show the input to be. Throws InputError when there are none.
+// Detects the kind of input from its first octets. Throws InputError if there are none.
 InputKind DetectInput(ByteSource& source);
 
-// A line for each message, dumps with offsets, or arrays of C; see HexText.
+// One message per line, dumps with offsets, or C arrays; see HexText.
 void ReadHexText(ByteSource& source, Family family, MessageSink& sink);
 
 // The whole input is one message.

@@ -11,7 +11,7 @@ constexpr uint16_t kIpv6Type = 0x86DD;
 
 constexpr uint8_t kIpv4InIp = 4;
 constexpr uint8_t kIpv6InIp = 41;
-// Extension headers of IPv6 (RFC 8200, 4).
+// IPv6 extension headers (RFC 8200 4).
 constexpr uint8_t kHopByHop = 0;
 constexpr uint8_t kRouting = 43;
 constexpr uint8_t kFragmentHeader = 44;
@@ -36,7 +36,7 @@ size_t LinkHeaderOctets(LinkType link_type) {
   }
 }
 
-// Where the link's header names the protocol that follows, if it does by an EtherType.
+// The offset of the EtherType in the link header, for links that have one.
 size_t EtherTypeAt(LinkType link_type) {
   switch (link_type) {
     case LinkType::kEthernet: return 12;
@@ -50,7 +50,7 @@ bool HasEtherType(LinkType link_type) {
          link_type == LinkType::kLinuxCooked2;
 }
 
-// What a length field leaves of the octets; 0 stands where the sender's hardware was to fill it in.
+// The octets up to the length in a header; a length of 0 was left for the sender's hardware to fill in.
 std::span<const uint8_t> Limited(std::span<const uint8_t> octets, size_t length) {
   return length == 0 ? octets : octets.first(std::min(length, octets.size()));
 }
@@ -60,7 +60,7 @@ std::span<const uint8_t> Limited(std::span<const uint8_t> octets, size_t length)
 PacketContent PacketReader::Read(LinkType link_type, std::span<const uint8_t> octets) {
   const size_t header = LinkHeaderOctets(link_type);
   if (octets.size() < header) return PacketContent::kCutOff;
-  // The address family in the header of a loopback differs from system to system; the version of IP does not.
+  // The address family in a loopback header differs between systems; the IP version does not.
   if (!HasEtherType(link_type)) return ReadInternet(octets.subspan(header));
   return ReadEthernet({NetworkNumber16(octets, EtherTypeAt(link_type)), octets.subspan(header)});
 }

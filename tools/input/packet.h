@@ -1,4 +1,4 @@
-// From the octets of a captured packet to what TCP or UDP carries in it.
+// Finds the TCP or UDP payload of a captured packet.
 #pragma once
 
 #include <cstdint>
@@ -9,7 +9,7 @@
 #include "input/capture_file.h"
 #include "input/packet_fragments.h"
 
-// Protocol numbers of the Internet Protocol.
+// IP protocol numbers.
 constexpr uint8_t kTcpProtocol = 6;
 constexpr uint8_t kUdpProtocol = 17;
 
@@ -29,8 +29,8 @@ struct TcpSegment {
 
 enum class PacketContent : uint8_t {
   kOther,     // neither TCP nor UDP
-  kCutOff,    // or wrong, within the headers
-  kFragment,  // others are waited for
+  kCutOff,    // or wrong, in the headers
+  kFragment,  // waits for other fragments
   kTcp,
   kUdp,
 };
@@ -39,10 +39,10 @@ class PacketReader {
  public:
   explicit PacketReader(const CapturePorts& ports) : fragments_(ports) {}
 
-  // The results of a packet stand until the next one is read.
+  // The results remain valid until the next packet is read.
   PacketContent Read(LinkType link_type, std::span<const uint8_t> octets);
 
-  // The addresses are those of the innermost packet, in which a tunnel ends.
+  // The addresses of the innermost packet, inside any tunnel.
   const Endpoint& Source() const { return source_; }
   const Endpoint& Destination() const { return destination_; }
   const TcpSegment& Segment() const { return segment_; }
@@ -50,7 +50,7 @@ class PacketReader {
   const FragmentedPackets& Fragments() const { return fragments_; }
 
  private:
-  // A layer of protocols, and what follows it.
+  // A protocol layer, and what follows it.
   struct Layer {
     uint16_t protocol = 0;
     std::span<const uint8_t> octets;
@@ -58,7 +58,7 @@ class PacketReader {
 
   PacketContent ReadEthernet(Layer layer);
   PacketContent ReadInternet(std::span<const uint8_t> octets);
-  // These leave the payload in `layer`, and return what the packet is where that ends it.
+  // These leave the payload in `layer`, or return the final kind of the packet.
   std::optional<PacketContent> ReadIpv4(Layer& layer);
   std::optional<PacketContent> ReadIpv6(Layer& layer);
   std::optional<PacketContent> ReadExtension(Layer& layer);
@@ -67,7 +67,7 @@ class PacketReader {
   PacketContent ReadUdp(std::span<const uint8_t> octets);
 
   FragmentedPackets fragments_;
-  std::vector<uint8_t> whole_;  // of the fragments that were joined last
+  std::vector<uint8_t> whole_;  // the packet last reassembled
   Endpoint source_;
   Endpoint destination_;
   TcpSegment segment_;

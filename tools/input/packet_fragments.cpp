@@ -30,7 +30,7 @@ std::optional<std::vector<uint8_t>> FragmentedPackets::Join(const Fragment& frag
   return whole;
 }
 
-// Where fragments overlap, what came with the nearer one stands.
+// Where fragments overlap, the octets of the nearer one count.
 std::optional<std::vector<uint8_t>> FragmentedPackets::Whole(const Packet& packet) {
   if (!packet.end) return std::nullopt;
   std::vector<uint8_t> whole;

@@ -1,4 +1,4 @@
-// The IP packets of a capture that come in fragments (RFC 791, 3.2; RFC 8200, 4.5).
+// Reassembles fragmented IP packets (RFC 791 3.2; RFC 8200 4.5).
 #pragma once
 
 #include <cstdint>
@@ -11,12 +11,12 @@
 #include "input/capture.h"
 
 struct Fragment {
-  Endpoint source;  // without ports
+  Endpoint source;  // the port is not set
   Endpoint destination;
   uint32_t identification = 0;
   uint8_t protocol = 0;
   uint32_t offset = 0;  // in octets
-  bool more = false;    // follow
+  bool more = false;    // more fragments follow
   std::span<const uint8_t> octets;
 };
 
@@ -24,9 +24,9 @@ class FragmentedPackets {
  public:
   explicit FragmentedPackets(const CapturePorts& ports) : ports_(ports) {}
 
-  // The whole payload, with the last of its fragments.
+  // Returns the whole payload once the last fragment has arrived.
   std::optional<std::vector<uint8_t>> Join(const Fragment& fragment);
-  // How many packets that may hold RAS lack a fragment; streams report the gaps of TCP.
+  // The number of incomplete packets that may hold RAS; streams report the gaps of TCP.
   uint64_t Incomplete() const;
 
  private:
@@ -46,7 +46,7 @@ class FragmentedPackets {
   bool MayHoldRas(const Fragment& fragment) const;
 
   const CapturePorts& ports_;
-  Packets waiting_;       // longest first
-  size_t fragments_ = 0;  // of all that wait
+  Packets waiting_;       // oldest first
+  size_t fragments_ = 0;  // of all waiting packets
   uint64_t given_up_ = 0;
 };

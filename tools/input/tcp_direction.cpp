@@ -5,7 +5,7 @@
 
 namespace {
 
-// RFC 1006 asks for 7 octets, but an H.245 message may be of one octet.
+// RFC 1006 requires at least 7 octets, but an H.245 message may have just one.
 constexpr size_t kShortestCallSignalling = 7;
 constexpr size_t kShortestH245 = 5;
 
@@ -17,17 +17,17 @@ constexpr int32_t kImplausibleJump = 0x1000000;
 
 bool Opens(const TcpSegment& segment) { return segment.Has(TcpSegment::kSyn); }
 
-// An opening takes a sequence number before its payload (RFC 9293, 3.4).
+// A SYN takes a sequence number before its payload (RFC 9293 3.4).
 uint32_t PayloadStart(const TcpSegment& segment) { return segment.sequence + (Opens(segment) ? 1 : 0); }
 
-// The payload starts in the middle of a packet, which that of an opening never does.
+// True if the payload starts inside a packet; the payload of a SYN never does.
 bool IsMidPacket(const TcpSegment& segment, const TpktFramer& framer) {
   return !Opens(segment) && !framer.MayStart(segment.payload);
 }
 
 uint32_t StartOf(const TcpSegment& first, bool opposite, bool mid_packet) {
   if (opposite) return first.acknowledgement;
-  // The packet's start may follow yet.
+  // The start of the packet may still follow.
   return mid_packet ? first.sequence - kReorderingOctets : PayloadStart(first);
 }
 

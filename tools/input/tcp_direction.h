@@ -8,25 +8,25 @@
 
 class TcpDirection {
  public:
-  // `first` is the first segment seen of the direction, or of its opposite, whose acknowledgement shows where this
-  // direction stands.
+  // `first` is the first segment seen of this direction, or of the opposite one, whose acknowledgement shows the
+  // position of this one.
   TcpDirection(Family family, const TcpSegment& first, bool opposite, MessageSink& sink);
 
   void OnSegment(const TcpSegment& segment, const Origin& origin);
   // Delivers what waits for segments that were never captured.
   void Close();
 
-  // Whether the segment belongs to another connection between the same ports.
+  // True if the segment belongs to a new connection between the same ports.
   bool IsNewConnection(const TcpSegment& segment) const;
   size_t HeldOctets() const;
 
  private:
-  // The opening came after a segment from the middle of the connection's first packet.
+  // True if the SYN arrived after a segment from inside the connection's first packet.
   bool IsLateOpening(const TcpSegment& segment) const;
   void Deliver();
   void Emit(std::vector<uint8_t>&& packet);
   void LoseStep();
-  // Gives up on segments that others wait for.
+  // Skips segments that others wait for.
   void PassGap();
   bool GapIsOld();
   bool ResumeAfterGap();
@@ -40,8 +40,8 @@ class TcpDirection {
   uint32_t start_;
   TcpOrder order_;
   Origin origin_;
-  int64_t gap_since_ = 0;  // 0: no gap
-  bool seeking_;           // until a segment starts as a packet does
+  int64_t gap_since_ = 0;  // 0 without a gap
+  bool seeking_;           // looking for a segment that starts like a packet
   bool delivered_ = false;
   bool stopped_ = false;
 };

@@ -4,7 +4,7 @@
 
 namespace {
 
-// What the map needs for a segment besides its octets, roughly.
+// Approximate memory that the map needs for a segment in addition to its octets.
 constexpr size_t kOverhead = 96;
 
 }  // namespace

@@ -1,4 +1,4 @@
-// Puts the segments of one direction of a TCP connection in order.
+// Orders the segments of one direction of a TCP connection.
 #pragma once
 
 #include <cstdint>
@@ -6,26 +6,26 @@
 #include <span>
 #include <vector>
 
-// Sequence numbers wrap round.
+// Sequence numbers wrap around.
 inline int32_t SequenceDistance(uint32_t from, uint32_t to) { return static_cast<int32_t>(to - from); }
 
 class TcpOrder {
  public:
   explicit TcpOrder(uint32_t next) : next_(next) {}
 
-  // Of octets that came before, those that came first stand.
+  // If octets arrive twice, the first copy counts.
   void Add(uint32_t sequence, std::span<const uint8_t> payload);
-  // What has come in order since the last call.
+  // The octets that have become available in order since the last call.
   std::vector<uint8_t> TakeReady();
   // The sequence number of the next octet in order.
   uint32_t Next() const { return static_cast<uint32_t>(next_); }
 
-  // Segments after a gap, by position, which unlike the sequence number does not wrap.
+  // Segments after a gap, by position; unlike a sequence number, a position does not wrap.
   using Waiting = std::map<int64_t, std::vector<uint8_t>>;
   const Waiting& AfterGap() const { return waiting_; }
-  // Gives up the octets before the position, which is one of AfterGap() or before them all.
+  // Skips the octets before the position, which is in AfterGap() or before all of it.
   void SkipTo(int64_t position);
-  // The position of a sequence number near the next.
+  // The position of a sequence number close to Next().
   int64_t PositionOf(uint32_t sequence) const { return next_ + SequenceDistance(Next(), sequence); }
   void DropWaiting();
 

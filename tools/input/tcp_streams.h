@@ -10,7 +10,7 @@
 #include "input/capture.h"
 #include "input/tcp_direction.h"
 
-// Passes messages on and keeps the addresses that they announce.
+// Passes messages on and remembers the addresses that they announce.
 class AnnouncedAddresses : public MessageSink {
  public:
   explicit AnnouncedAddresses(MessageSink& sink) : sink_(sink) {}
@@ -23,9 +23,9 @@ class AnnouncedAddresses : public MessageSink {
     uint64_t segments = 0;  // with payload
     bool recognised = false;
   };
-  // How connections with this address were announced and used; null where it was not.
+  // How connections with this address were announced and used; null if it was not announced.
   Use* Find(const Endpoint& endpoint);
-  // Reports the addresses at which there were segments and no message.
+  // Reports the addresses that received segments but no message.
   void Close();
 
  private:
@@ -38,11 +38,11 @@ class TcpStreams {
  public:
   TcpStreams(const CapturePorts& ports, MessageSink& sink) : ports_(ports), sink_(sink), addresses_(sink) {}
 
-  // Hands on a message that came otherwise, whose addresses are heeded too.
+  // Passes on a message from elsewhere and remembers the addresses that it announces.
   void OnMessage(const Message& message) { addresses_.OnMessage(message); }
-  // Returns whether the connection carries signalling.
+  // Returns true if the connection carries signalling.
   bool OnSegment(const TcpSegment& segment, const Origin& origin);
-  // Ends the connections at hand.
+  // Ends all open connections.
   void CloseAll();
   // The same, and reports on announced addresses.
   void Close();
@@ -53,7 +53,7 @@ class TcpStreams {
     Key key;
     TcpDirection direction;
     size_t held;
-    bool awaits_answer;  // its connection was opened here
+    bool awaits_answer;  // this side sent the SYN
   };
   using Entries = std::list<Entry>;
 
@@ -69,5 +69,5 @@ class TcpStreams {
   AnnouncedAddresses addresses_;
   Entries entries_;  // least recently used first
   std::map<Key, Entries::iterator> index_;
-  size_t held_ = 0;  // octets, of all entries
+  size_t held_ = 0;  // in octets, for all entries
 };

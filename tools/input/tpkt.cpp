@@ -29,7 +29,7 @@ bool TpktFramer::MayStart(std::span<const uint8_t> octets) const {
   if (!octets.empty() && octets[0] != kVersion) return false;
   if (octets.size() < kTpktHeaderOctets) return true;
   const size_t length = PacketOctets(octets);
-  // Equipment sends the header alone to keep a connection alive.
+  // Some equipment sends a bare header to keep the connection alive.
   return length >= shortest_ || length == kTpktHeaderOctets;
 }
 

@@ -1,4 +1,4 @@
-// TPKT framing (RFC 1006, 6): packets with a header of 4 octets on a stream.
+// TPKT framing (RFC 1006 6): packets with a 4-octet header on a stream.
 #pragma once
 
 #include <cstddef>
@@ -11,25 +11,25 @@ constexpr size_t kTpktHeaderOctets = 4;
 
 class TpktFramer {
  public:
-  // A packet of fewer octets than `shortest`, header included, shows that the stream is out of step.
+  // A packet shorter than `shortest`, including the header, shows that the stream is out of step.
   explicit TpktFramer(size_t shortest) : shortest_(shortest) {}
 
   void Add(std::span<const uint8_t> octets);
-  // The next whole packet with its header; nothing when more octets are needed or it is out of step.
+  // The next whole packet with its header; empty if more octets are needed or the stream is out of step.
   std::optional<std::vector<uint8_t>> Next();
 
-  // The octets at hand start with no header.
+  // True if the octets do not start with a header.
   bool OutOfStep() const { return !MayStart(Rest()); }
-  // Whether octets may be the first of a packet, as far as they go.
+  // True if the octets may be the start of a packet.
   bool MayStart(std::span<const uint8_t> octets) const;
-  // Octets of a packet that is not whole yet.
+  // The octets of a packet that is not complete yet.
   size_t Pending() const { return Rest().size(); }
   void Clear();
 
  private:
   std::span<const uint8_t> Rest() const { return std::span(octets_).subspan(used_); }
   bool StartsWithPacket(std::span<const uint8_t> octets) const;
-  // A new vector in place of the old one, which would keep its memory.
+  // Replaces the vector, since clearing it would keep its memory.
   void ReleaseUsed();
 
   size_t shortest_;

@@ -12,7 +12,7 @@
 
 namespace {
 
-// Hands a copy of the text to the caller; without memory for it, the caller gets no text and another status.
+// Gives the caller a copy of the text; if memory is short, no text and another status.
 int HandOver(int status, std::string_view text, char** to) noexcept {
   char* copy = new (std::nothrow) char[text.size() + 1];
   if (copy == nullptr) return KELVRA_TEXT_OUT_OF_MEMORY;
@@ -21,7 +21,7 @@ int HandOver(int status, std::string_view text, char** to) noexcept {
   return status;
 }
 
-// Runs what may throw. No exception passes; what it says becomes the text.
+// Runs something that may throw. No exception leaves; its message becomes the text.
 template <class Run>
 int Guard(char** text, Run run) noexcept {
   if (text == nullptr) return KELVRA_TEXT_BAD_ARGUMENT;
@@ -41,7 +41,7 @@ int Guard(char** text, Run run) noexcept {
 
 bool IsFamily(int family) { return family >= KELVRA_TEXT_RAS && family <= KELVRA_TEXT_H245; }
 
-// One object of JSON, on one line without its end.
+// One JSON object on one line, without the line end.
 std::string ToJson(const Message& message, const DecodedMessage& decoded) {
   std::string json;
   MakeJson()->Print(message, decoded, json);
@@ -55,7 +55,7 @@ static_assert(static_cast<int>(Family::kRas) == KELVRA_TEXT_RAS &&
               static_cast<int>(Family::kQ931) == KELVRA_TEXT_Q931 &&
               static_cast<int>(Family::kH245) == KELVRA_TEXT_H245);
 
-// A capture that is read packet by packet, as far as the next message needs.
+// A capture, read packet by packet as far as the next message needs.
 struct kelvra_text_capture final : MessageSink {
  public:
   explicit kelvra_text_capture(const char* path) : source_(path), reader_(ports_, *this) { reader_.Open(source_); }
@@ -93,7 +93,7 @@ struct kelvra_text_capture final : MessageSink {
     std::string text;
   };
 
-  // Reads a packet, or ends.
+  // Reads a packet, or reaches the end.
   void ReadOn() {
     try {
       if (ReadPacket()) return;
@@ -120,7 +120,7 @@ struct kelvra_text_capture final : MessageSink {
   CaptureReader reader_;
   std::deque<Item> waiting_;
   bool has_begun_ = false;
-  bool is_over_ = false;  // what waits is the rest
+  bool is_over_ = false;  // only the waiting items remain
   Item end_{KELVRA_TEXT_END, {}};
 };
 

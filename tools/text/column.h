@@ -1,4 +1,4 @@
-// Columns of text.
+// Aligned columns of text.
 #pragma once
 
 #include <algorithm>
@@ -6,12 +6,12 @@
 #include <string>
 #include <string_view>
 
-// Grows with what it has held, so that long addresses disturb few lines.
+// Widens to the longest text so far, so that long addresses shift few lines.
 class Column {
  public:
   explicit Column(size_t width) : width_(width) {}
 
-  // Returns how many blanks fill the column up after a text of so many characters.
+  // Returns the number of blanks that pad a text of this length to the column.
   size_t Blanks(size_t characters) {
     width_ = std::max(width_, characters);
     return width_ - characters;

@@ -39,7 +39,7 @@ Run LongestZeroRun(const Groups& groups) {
       longest = current;
     }
   }
-  // RFC 5952 4.2.2: one group alone is not shortened.
+  // RFC 5952 4.2.2: a single group is not shortened.
   return longest.length > 1 ? longest : Run{groups.size(), 0};
 }
 

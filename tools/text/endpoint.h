@@ -19,5 +19,5 @@ struct Endpoint {
 // `address` holds 4 octets (IPv4) or 16 (IPv6); any other number throws std::invalid_argument.
 Endpoint MakeEndpoint(std::span<const uint8_t> address, uint16_t port);
 
-// "192.0.2.1:1720" or "[2001:db8::1]:1720", the latter as RFC 5952 has it.
+// "192.0.2.1:1720" or "[2001:db8::1]:1720", the latter by RFC 5952.
 std::string ToText(const Endpoint& endpoint);

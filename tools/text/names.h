@@ -1,11 +1,11 @@
-// The names that Q.931 and Q.850 give to numbers.
+// The names of numbers in Q.931 and Q.850.
 #pragma once
 
 #include <string>
 #include <string_view>
 
-// "Release Complete"; "Type 0x3F" where Q.931 has no name for it.
+// "Release Complete"; "Type 0x3F" if Q.931 has no name.
 std::string MessageTypeName(unsigned type);
 
-// Of a cause without its extension bit: "user busy"; empty where Q.850 has none.
+// The name of a cause without its extension bit: "user busy"; empty if Q.850 has none.
 std::string_view CauseName(unsigned cause);

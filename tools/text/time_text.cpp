@@ -14,7 +14,7 @@ void AppendPadded(std::string& text, int64_t number, size_t width) {
   for (size_t i = width; i-- > 0 && number > 0; number /= 10) text[first + i] = static_cast<char>('0' + number % 10);
 }
 
-// Of local time from UTC at that second.
+// The offset of local time from UTC at that second.
 int64_t OffsetAt(int64_t second) {
   const auto time = static_cast<std::time_t>(second);
   std::tm local{};

@@ -1,4 +1,4 @@
-// Times of a capture as text.
+// Capture times as text.
 #pragma once
 
 #include <cstdint>
@@ -18,5 +18,5 @@ std::string ClockTime(int64_t microseconds, TimeZone zone = TimeZone::kUtc);
 // "+12.000001", in seconds
 std::string RelativeTime(int64_t microseconds);
 
-// The time that a clock of the zone shows, as if it were UTC: what has the same value on the same day.
+// The local time of the zone as if it were UTC.
 int64_t InZone(int64_t microseconds, TimeZone zone);

@@ -32,13 +32,13 @@ void AppendEscape(std::string& text, unsigned unit) {
   for (int shift = 12; shift >= 0; shift -= 4) text += digits[unit >> shift & 15];
 }
 
-// Characters without a shape of their own that break lines or turn the direction of the text around them.
+// Invisible characters that break lines or change the direction of the surrounding text.
 bool ShapesLines(unsigned unit) {
   return unit == 0x61C || unit == 0x200E || unit == 0x200F || (unit >= 0x2028 && unit <= 0x202E) ||
          (unit >= 0x2066 && unit <= 0x2069);
 }
 
-// The character of that kind, or the control character, that starts the text, and its octets; or none.
+// The control or line-shaping character at the start of the text, and its octets; or none.
 struct Control {
   unsigned unit = 0;
   size_t octets = 0;
@@ -59,19 +59,18 @@ Control LeadingControl(std::string_view text) {
   return {};
 }
 
-// Whether a character may begin a control or be one, or be of those that JSON escapes.
+// True if a character may be a control or start one, or is one that JSON escapes.
 bool NeedsLook(char character) {
   const auto octet = static_cast<unsigned char>(character);
   return octet < 0x20 || octet == '"' || octet == '\\' || octet == 0x7F || octet == 0xC2 || octet == 0xD8 ||
          octet == 0xE2;
 }
 
-// Appends the text with its controls escaped. `appendShort` is asked first about each character that may need it, and
-// may append an escape of its own.
+// Appends the text with its controls escaped. `appendShort` sees each candidate first and may append its own escape.
 template <class AppendShort>
 void AppendEscaped(std::string& escaped, std::string_view text, AppendShort appendShort) {
   while (!text.empty()) {
-    // What stands before the next octet that could be or begin a control.
+    // The octets before the next candidate.
     size_t plain = 0;
     while (plain < text.size() && !NeedsLook(text[plain])) ++plain;
     escaped += text.substr(0, plain);

@@ -1,4 +1,4 @@
-// Text in UTF-8.
+// UTF-8 text.
 #pragma once
 
 #include <cstdint>
@@ -8,13 +8,13 @@
 
 void AppendLatin1(std::string& text, std::span<const uint8_t> characters);
 
-// Surrogates that stand alone become U+FFFD.
+// A lone surrogate becomes U+FFFD.
 void AppendUtf16(std::string& text, std::span<const uint16_t> units);
 
-// A string of JSON with its quotation marks. Control characters, which could command a terminal, and line separators
+// A JSON string with its quotation marks. Line separators and control characters, which could command a terminal,
 // become \u escapes.
 void AppendJsonString(std::string& json, std::string_view text);
 
-// With the same characters as \u escapes.
+// Escapes the same characters as \u.
 void AppendPrintable(std::string& printable, std::string_view text);
 std::string Printable(std::string_view text);
