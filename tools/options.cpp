@@ -73,7 +73,8 @@ std::optional<int> ParseOptions(int count, char** arguments, Options& options) {
   app.set_version_flag("--version", "kelvra-dump " KELVRA_VERSION);
   // Under Wine, for example, a path may start with '/'.
   app.allow_windows_style_options(false);
-  app.add_option("FILE", options.files, "what to read, one after the other; - or nothing: standard input")->type_name("");
+  app.add_option("FILE", options.files, "what to read, one after the other; - or nothing: standard input")
+      ->type_name("");
 
   app.option_defaults()->group("Input");
   AddKeyword(app, "--input", kInputs, options.input, "what the input is (auto: judged by its first octets)");
