@@ -2,8 +2,8 @@
 //
 //   template <class T> void Block(Slot<T> slot, uint32_t count);
 //
-// which is shown the slot of each block, null or not, and how many elements the record says that it holds, before what
-// hangs off the block.
+// It receives the slot of each block, null or not, and the element count that the record gives, before the visitor
+// enters the block.
 #pragma once
 
 #include <cstdint>

@@ -11,7 +11,7 @@ namespace kelvra::test {
 
 class ExactBuffer {
  public:
-  // Inlined, and built with a sanitizer, GCC takes the copy of no octets for one past its block.
+  // Not inlined: with a sanitizer, GCC takes the copy of zero octets for one past the block.
   [[gnu::noinline]] explicit ExactBuffer(const std::vector<uint8_t>& octets)
       : size_(static_cast<uint32_t>(octets.size())), octets_(new uint8_t[octets.size()]) {
     std::copy(octets.begin(), octets.end(), octets_.get());

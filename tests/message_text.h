@@ -1,4 +1,4 @@
-// Messages as text: hexadecimal digits, and the lines of tests/data.
+// Messages as text: hexadecimal digits, and lines of tests/data.
 #pragma once
 
 #include <stdint.h>
@@ -10,7 +10,7 @@
 
 namespace kelvra::test {
 
-// The octets that lower-case hexadecimal digits stand for.
+// Decodes lower-case hexadecimal digits.
 inline std::vector<uint8_t> Hex(std::string_view digits) {
   const auto nibble = [](char digit) { return static_cast<uint32_t>(digit <= '9' ? digit - '0' : digit - 'a' + 10); };
   std::vector<uint8_t> octets;
@@ -20,7 +20,7 @@ inline std::vector<uint8_t> Hex(std::string_view digits) {
   return octets;
 }
 
-// The value of a string member in one line of JSON; the strings wanted hold no escapes.
+// The value of a string member in a line of JSON; these strings have no escapes.
 inline std::string StringMember(const std::string& line, const std::string& name) {
   const std::string start = "\"" + name + "\": \"";
   const size_t at = line.find(start);

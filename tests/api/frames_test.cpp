@@ -17,7 +17,7 @@ using Octets = std::vector<uint8_t>;
 
 constexpr uint8_t kDirt = 0xC7;
 
-// A dirty record and what stands behind it.
+// A dirty record and a guard after it.
 template <class Record>
 struct Guarded {
   Guarded() { std::memset(static_cast<void*>(this), kDirt, sizeof *this); }
@@ -137,7 +137,7 @@ TEST(RasFrame, PassesOverAnUnknownExtensionAlternative) {
   Octets body = ras.Bytes();
   EXPECT_EQ(Octets(body.begin() + 1, body.end() - 4), Octets(sizeof ras.record - 5, 0));
 
-  // Exactly at the end counts as a failure, beyond it does not.
+  // An end exactly at the buffer's end counts as failure, one past it does not.
   EXPECT_EQ(DecodeRas(ras, Buffer(Hex("8902aabb"))), 0);
   EXPECT_EQ(+ras.record.choiceTag, 9u);
   const Buffer beyond(Hex("8905aabb"));

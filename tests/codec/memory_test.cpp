@@ -10,9 +10,9 @@ namespace kelvra {
 namespace {
 
 TEST(CodecAlloc, GivesZeroedBlocks) {
-  // Small ones are cleared in ways that depend on their size.
+  // Small sizes have their own ways of clearing.
   for (size_t size = 1; size <= 1100; ++size) {
-    // Twice, because a heap likes to hand out again what it has just got back.
+    // Twice, because a heap tends to reuse the block that was just freed.
     for (int round = 0; round < 2; ++round) {
       auto* block = static_cast<uint8_t*>(CodecAlloc(size));
       ASSERT_NE(block, nullptr);

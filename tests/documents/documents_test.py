@@ -15,7 +15,7 @@ TOP = os.path.dirname(os.path.dirname(os.path.dirname(os.path.abspath(__file__))
 COMPILER, ARCHIVE, TEXT_LIBRARY = sys.argv[1:4]
 PAGES = [os.path.relpath(page, TOP) for folder in ("", "docs", "python", "samples", "examples")
          for page in glob.glob(os.path.join(TOP, folder, "*.md"))]
-# Decodes the README's message for a document's function.
+# Decodes the README's message and calls the document's function.
 DRIVER = """
 int main() {
   const uint8_t datagram[] = {0x08, 0x00, 0x00, 0x04, 0x06, 0x00, 0x08, 0x91, 0x4A, 0x00, 0x05, 0x20, 0x00};
@@ -33,7 +33,7 @@ def page(name):
 
 
 def blocks(name, language):
-    """Each block of the language with the text that follows it."""
+    """Each block of the language, with the text after it."""
     text = page(name)
     return [(match.group(1), text[match.end():])
             for match in re.finditer(rf"^```{language}\n(.*?)^```\n", text, re.DOTALL | re.MULTILINE)]

@@ -27,7 +27,7 @@ def viewer_objects(path):
 
 
 class Folder(unittest.TestCase):
-    """Two captures of the same name in different folders, one cut short, one of the next day."""
+    """Two captures of the same name in different folders, one cut short, one from the next day."""
 
     def setUp(self):
         folder = tempfile.TemporaryDirectory()

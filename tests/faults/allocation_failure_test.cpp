@@ -1,4 +1,4 @@
-// What allocations that are refused leave besides the record.
+// What refused allocations leave in addition to the record.
 #include "faults/channel_writer.h"
 #include "faults/fault_test.h"
 #include "record/release.h"
@@ -10,7 +10,7 @@ namespace {
 
 using AllocationFailureTest = FaultTest;
 
-// A slot of the ring that stayed taken would have those around it resume at a wrong place.
+// If a slot of the ring stayed taken, the open types around it would resume at a wrong place.
 TEST_F(AllocationFailureTest, H245LeavesEveryOpenTypeThatItEnters) {
   for (const Message& original : Corpus()) {
     if (original.family != Family::kH245) continue;
@@ -28,7 +28,7 @@ TEST_F(AllocationFailureTest, H245LeavesEveryOpenTypeThatItEnters) {
   }
 }
 
-// A message without a block to refuse decodes on an empty heap too.
+// A message that needs no block also decodes with an empty heap.
 TEST_F(AllocationFailureTest, AMessageThatNeedsNoBlockNeedsNoMemory) {
   heap_.RefuseFrom(1);
   const std::vector<uint8_t> octets = OpenLogicalChannelMessage(WriteNullDataType);
@@ -61,7 +61,7 @@ class RedundancyEncodingTest : public FaultTest {
   static const h245::RedundancyEncoding& EncodingOf(const DecodedMessage& message) {
     return message.H245().request.openLogicalChannel.forwardLogicalChannelParameters.dataType.redundancyEncoding;
   }
-  // Copies: nothing may refer to a pointer that stands unaligned in its record.
+  // Copies the values: nothing may refer to an unaligned pointer in a record.
   static const void* SecondaryEncodingOf(const DecodedMessage& message) {
     return EncodingOf(message).secondaryEncoding;
   }
@@ -75,7 +75,7 @@ TEST_F(RedundancyEncodingTest, ReleasesTheSecondaryEncodingAtOnceWhenTheListIsRe
   heap_.RefuseOnly(kListOfSecondary);
   DecodedMessage message(Family::kH245, Octets());
   ASSERT_EQ(heap_.Granted().size(), 3U);
-  // The blocks of the record first, then the record's own: the first that was granted.
+  // The record's blocks first, then the record itself, which was granted first.
   ASSERT_EQ(heap_.Releases().size(), 3U);
   for (const Release& release : heap_.Releases()) EXPECT_EQ(release.sourcePath, "codec/h245func");
   EXPECT_EQ(heap_.Releases().back().block, heap_.Granted().front());

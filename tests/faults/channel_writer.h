@@ -1,4 +1,4 @@
-// H.245 requests composed by hand: an openLogicalChannel around any DataType.
+// H.245 requests composed by hand: an openLogicalChannel with any DataType.
 #pragma once
 
 #include <cstdint>
@@ -10,7 +10,7 @@ namespace kelvra::test {
 
 inline void WriteNullDataType(BitWriter& writer) { writer.Bits(0b0001, 4); }
 
-// A smallest H.245 OpenLogicalChannel: nullData and no multiplex parameters.
+// The smallest H.245 OpenLogicalChannel: nullData and no multiplex parameters.
 inline BitWriter NullChannel(uint16_t number) {
   return BitWriter()
       .Bits(0, 2)
@@ -23,7 +23,7 @@ inline BitWriter NullChannel(uint16_t number) {
       .OpenType(std::vector<uint8_t>());
 }
 
-// `writeDataType` takes the writer of the message.
+// `writeDataType` takes the message's writer.
 template <class Write>
 std::vector<uint8_t> OpenLogicalChannelMessage(Write writeDataType) {
   BitWriter message;

@@ -1,6 +1,6 @@
-// Every carried message with every fault of a kind: cut at each octet, each bit flipped, each octet at its
-// extremes, an octet put in at each place, each allocation refused alone and with all after it. The record
-// is looked at octet by octet after each, and its digest compared with the known one.
+// Every carried message with every fault of a kind: cut at each octet, each bit flipped, each octet at its extremes, an
+// octet inserted at each place, each allocation refused alone and with all after it. After each fault the test checks
+// the record octet by octet and compares its digest with the known one.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -25,7 +25,7 @@
 namespace kelvra::test {
 namespace {
 
-// A record between guard words, decoded from a block of the message's very size.
+// A record between guard words, decoded from a block of exactly the message's size.
 template <class RecordType>
 class GuardedDecode {
  public:
@@ -57,7 +57,7 @@ class GuardedDecode {
   int64_t result_ = 0;
 };
 
-// GoogleTest owns it.
+// Owned by GoogleTest.
 KnownDigests* const known_digests = [] {
   auto* const digests = new KnownDigests;
   testing::AddGlobalTestEnvironment(digests);
@@ -71,7 +71,7 @@ class ExhaustiveFaults : public testing::Test {
 
   void TearDown() override { heap_.DropLiveBlocks(); }
 
-  // Decodes twice over different earlier contents. `refuse` sets the heap up before each.
+  // Decodes twice, over different previous contents. `refuse` prepares the heap before each.
   void Try(
       const std::vector<uint8_t>& octets, const std::function<void()>& refuse = [] {}) {
     const uint64_t first = TryOnce(octets, 0xA5, refuse);
@@ -80,7 +80,7 @@ class ExhaustiveFaults : public testing::Test {
     all_.AddWord(first);
   }
 
-  // Calls `fault` with each carried message and stops at the first that fails.
+  // Calls `fault` with each carried message; stops at the first failure.
   void ForEachMessage(FaultKind kind, const std::function<void(const std::vector<uint8_t>&)>& fault) {
     std::string changed;
     for (const Message& message : Corpus()) {
@@ -119,7 +119,7 @@ class ExhaustiveFaults : public testing::Test {
     EXPECT_TRUE(mayOwn || owned.empty());
   }
 
-  // What is left of a message prints as one JSON object.
+  // The remains of a message print as one JSON object.
   void ExpectPrints([[maybe_unused]] Record& record) {
 #ifdef KELVRA_PRINT_RECORDS
     std::vector<NodeData> nodes;
@@ -139,14 +139,14 @@ class ExhaustiveFaults : public testing::Test {
     EXPECT_TRUE(decode.GuardsHold());
   }
 
-  // Printing costs several times what a decode does. An odd step meets each of an octet's bits in turn.
+  // Printing costs several times as much as decoding. An odd step reaches each bit of an octet in turn.
   static constexpr size_t kRunsPerPrint = 15;
   size_t runs_ = 0;
   Digest all_;
 };
 
-// The few long messages, tables of alike elements most of them, are tried at a few places only, each time at
-// another bit of an octet.
+// The few long messages, mostly tables of similar elements, are tested at a few places only, each at another bit of its
+// octet.
 size_t StepOf(const std::vector<uint8_t>& octets) { return octets.size() < 400 ? 1 : 33; }
 
 using Families = testing::Types<Ras, Q931, H245>;

@@ -1,4 +1,4 @@
-// What every fault test looks at, whatever was done to the message.
+// The checks of every fault test, whatever the fault.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -28,7 +28,7 @@ class FaultTest : public testing::Test {
     EXPECT_LE(heap_.OctetsGranted(), kMaximumMessageMemory) << what;
   }
 
-  // A release gives back every block and leaves no pointer; another one finds nothing to do.
+  // A release frees every block and leaves no pointer; a second one does nothing.
   void ExpectCleanRelease(DecodedMessage& message, const std::string& what) {
     message.Release();
     EXPECT_TRUE(heap_.LiveBlocks().empty()) << what;
@@ -39,13 +39,13 @@ class FaultTest : public testing::Test {
     EXPECT_EQ(heap_.WildReleases(), 0U) << what;
   }
 
-  // Decodes the octets, whatever they are.
+  // Decodes any octets.
   void ExpectSafe(Family family, const std::vector<uint8_t>& octets, const std::string& what) {
     heap_.Reset();
     DecodedMessage message(family, octets);
     switch (family) {
       case Family::kRas:
-        EXPECT_NE(message.Result(), 0) << what;  // an accepted message ends behind its first octet
+        EXPECT_NE(message.Result(), 0) << what;  // an accepted message ends after its first octet
         break;
       case Family::kQ931: EXPECT_TRUE(message.Result() == 0 || message.Result() == -1) << what; break;
       case Family::kH245: EXPECT_TRUE(message.Result() == 0 || message.Result() == 1) << what; break;

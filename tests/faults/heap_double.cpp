@@ -76,7 +76,7 @@ void* HeapDouble::Allocate(size_t size) {
     return nullptr;
   }
   void* block = std::calloc(size, 1);
-  if (block == nullptr) std::abort();  // the machine's own heap gave out: no test can judge that
+  if (block == nullptr) std::abort();  // the real heap is exhausted, so no test can judge the result
   live_.emplace(block, size);
   granted_.push_back(block);
   octetsGranted_ += size;
@@ -92,7 +92,7 @@ void HeapDouble::Free(void* slot, const char* sourcePath) {
   if (found == live_.end()) {
     ++wildReleases_;
   } else {
-    // What still points here afterwards shall not find its old contents.
+    // Later reads through this pointer must not find the old contents.
     std::memset(block, 0xDD, found->second);
     live_.erase(found);
     std::free(block);

@@ -1,5 +1,4 @@
-// A heap and a diagnostic hook in the place of the library's own: they record what the library asks of
-// them, and the heap refuses on demand.
+// Replaces the library's heap and diagnostic hook: both record each call, and the heap refuses on demand.
 #pragma once
 
 #include <cstddef>
@@ -31,27 +30,27 @@ class HeapDouble {
  public:
   static HeapDouble& Instance();
 
-  // Forgets what was recorded and grants everything again. Live blocks stay live.
+  // Forgets all records and refusals. Live blocks stay live.
   void Reset();
-  // Takes back what is still live, so that a leak fails the test that made it and no other.
+  // Frees the remaining live blocks, so that a leak fails only the test that made it.
   void DropLiveBlocks();
-  // Refuses the n-th allocation from now on, counted from 1.
+  // Refuses the n-th allocation from now on, counting from 1.
   void RefuseOnly(size_t nth);
   // Refuses the n-th allocation and all after it.
   void RefuseFrom(size_t nth);
-  // Calls `between` before each allocation, but not from within itself.
+  // Calls `between` before each allocation, except one that it makes itself.
   void OnAllocation(std::function<void()> between) { between_ = std::move(between); }
 
   size_t Requests() const { return requests_; }
   size_t Refusals() const { return refusals_; }
   uint64_t OctetsGranted() const { return octetsGranted_; }
-  // The blocks granted, in the order of their requests.
+  // The blocks granted, in order.
   const std::vector<const void*>& Granted() const { return granted_; }
   const std::vector<Release>& Releases() const { return releases_; }
   const std::vector<TraceCall>& Traces() const { return traces_; }
-  // The blocks that were granted and not released, sorted.
+  // The blocks granted and not yet released, sorted.
   std::vector<const void*> LiveBlocks() const;
-  // Releases of what was no live block.
+  // Releases of something other than a live block.
   size_t WildReleases() const { return wildReleases_; }
 
   void* Allocate(size_t size);

@@ -16,7 +16,7 @@ std::vector<const Message*> MessagesOf(Family family) {
   return messages;
 }
 
-// The first octets of a message, to bring the decoder to where the hostile ones begin.
+// The first octets of a message, which take the decoder to the hostile ones.
 std::vector<uint8_t> StartOf(const Message& message, size_t size) {
   return {message.octets.begin(), message.octets.begin() + static_cast<ptrdiff_t>(size)};
 }
@@ -56,7 +56,7 @@ TEST_F(HostileInputTest, BuffersOfNoise) {
   }
 }
 
-// A negative length claims 16 bits' worth of octets, of which none is there.
+// A negative length claims 16 bits' worth of octets, but there are none.
 TEST_F(HostileInputTest, ANegativeLengthOfQ931LeavesTheBufferAlone) {
   const ExactBuffer nothing({});
   h225::Q931MessageRecord record;

@@ -1,8 +1,8 @@
-// The digests of tests/data/record-digests-32 and -64, one line per message: its name, then a digest of the records
-// that each kind of fault makes of it. No change of a decoder goes unnoticed that shows in any of them, and targets
-// with pointers of the same size decode into the same octets.
+// The digests in tests/data/record-digests-32 and -64, one line per message: its name, then for each kind of fault a
+// digest of the resulting records. Any visible change of a decoder changes a digest, and targets with the same pointer
+// size decode into the same octets.
 //
-// With KELVRA_RENEW_DIGESTS in the environment the file is written instead, and what changed is printed.
+// If KELVRA_RENEW_DIGESTS is set, the test writes the file instead and prints what changed.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -21,14 +21,14 @@ enum class FaultKind { kCut, kFlipped, kExtremes, kAdded, kRefused };
 
 class KnownDigests : public testing::Environment {
  public:
-  // The same wherever the message stands in its file: its alternative and a digest of its octets.
+  // Independent of the message's place in its file: its alternative and a digest of its octets.
   static std::string NameOf(const Message& message);
   std::vector<std::string> Names() const;
 
-  // Whether the digest is the known one, or is to become it.
+  // True if the digest is the known one, or is about to replace it.
   bool Accepts(const Message& message, FaultKind kind, const Digest& digest);
 
-  // Before the first test and after the last.
+  // Called before the first test and after the last.
   void SetUp() override;
   void TearDown() override;
 
@@ -40,7 +40,7 @@ class KnownDigests : public testing::Environment {
   std::string path_;
   bool renewing_ = false;
   std::map<std::string, Line> lines_;
-  std::map<std::string, std::string> changed_;  // the kinds of fault that changed, by the message's name
+  std::map<std::string, std::string> changed_;  // the kinds of fault that changed, by message name
 };
 
 }  // namespace kelvra::test

@@ -1,4 +1,4 @@
-// The decode and the release of each family under the same names, for tests that are written once for all.
+// Decode and release under the same names for each family, for tests that cover all.
 #pragma once
 
 #include <cstddef>
@@ -21,7 +21,7 @@ struct Ras {
   }
   static void Release(Record* record) { KelvraFreeRASMessage(record); }
   static bool MayReturn(int64_t result) { return result >= 0; }
-  // Whether a decode with this result leaves blocks to release.
+  // True if a decode with this result may leave blocks to release.
   static bool MayOwnBlocks(int64_t result) { return result != 0; }
 };
 
@@ -49,7 +49,7 @@ struct H245 {
   static bool MayOwnBlocks(int64_t) { return true; }
 };
 
-// Of the result, the record and what is left after the release.
+// A digest of the result, the record and what is left after the release.
 template <class MessageFamily>
 uint64_t DigestOf(const std::vector<uint8_t>& octets) {
   typename MessageFamily::Record record;

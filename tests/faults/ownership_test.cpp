@@ -1,4 +1,4 @@
-// Who owns the blocks of a decoded message, and who gives them back.
+// Who owns the blocks of a decoded message, and who frees them.
 #include <algorithm>
 #include <cstring>
 
@@ -9,7 +9,7 @@ namespace {
 
 class OwnershipTest : public FaultTest {
  protected:
-  // Whether something was released, and all of it with this source path.
+  // True if something was released, and everything with this source path.
   bool ReleasedBy(const char* sourcePath) const {
     return !heap_.Releases().empty() &&
            std::all_of(heap_.Releases().begin(), heap_.Releases().end(),
@@ -26,7 +26,7 @@ TEST_F(OwnershipTest, EachFamilyReleasesUnderItsOwnPath) {
     message.Release();
     EXPECT_TRUE(heap_.Granted().empty() || ReleasedBy(ReleasePath(original.family))) << original.name;
     if (original.family == Family::kH245 || heap_.Requests() < 2) continue;
-    // A decode that refuses its message gives back what was granted until then.
+    // A decode that refuses its message frees what was granted.
     heap_.Reset();
     heap_.RefuseFrom(2);
     DecodedMessage refused(original.family, WithSpare(original.family, original.octets));
@@ -35,8 +35,8 @@ TEST_F(OwnershipTest, EachFamilyReleasesUnderItsOwnPath) {
   }
 }
 
-// With pointers of 64 bits such an address agrees with a source route that lost its tag in all but the
-// count of the route, when its octets lie at an address like this one.
+// With 64-bit pointers, such an address matches a source route that lost its tag in everything except the route count,
+// if its octets lie at an address like this one.
 TEST_F(OwnershipTest, ANonStandardAddressIsNotTakenForASourceRoute) {
   if constexpr (sizeof(void*) == 8) {
     h225::TransportAddress address{};

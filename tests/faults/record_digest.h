@@ -1,6 +1,5 @@
-// A digest of all octets of a record and its blocks, pointers aside: whether a member is walked or not,
-// whether a list's element was reached or not. Equal decodes have equal digests, on each target whose
-// records have the same layout.
+// A digest of all octets of a record and its blocks except pointers, whether or not a member is walked or a list
+// element reached. Equal decodes have equal digests on all targets with the same record layout.
 #pragma once
 
 #include <cstddef>
@@ -22,7 +21,7 @@ class Digest {
   uint64_t value_ = 0xCBF29CE484222325;
 };
 
-// Finds the blocks of a record and the slots that hold their addresses.
+// Finds the blocks of a record and the slots with their addresses.
 class BlockCollector : public BlockVisitor<BlockCollector> {
  public:
   struct FoundBlock {
@@ -38,10 +37,10 @@ class BlockCollector : public BlockVisitor<BlockCollector> {
   }
 
   const std::vector<FoundBlock>& Blocks() const { return blocks_; }
-  // Sorted; a block that two slots share appears twice.
+  // Sorted; a block in two slots appears twice.
   std::vector<const void*> Addresses() const;
 
-  // Adds the record and all blocks, each with null in the place of its pointers.
+  // Adds the record and all blocks, with null in place of each pointer.
   void AddTo(Digest& digest, const void* record, size_t size) const;
 
  private:
@@ -49,7 +48,7 @@ class BlockCollector : public BlockVisitor<BlockCollector> {
   std::vector<FoundBlock> blocks_;
 };
 
-// Of a Q.931 message they are those of the user information, whether it is marked as present or not.
+// For a Q.931 message these are the blocks of the user information, whether or not it is marked as present.
 BlockCollector BlocksOf(h225::RasMessageRecord& record);
 BlockCollector BlocksOf(h225::Q931MessageRecord& record);
 BlockCollector BlocksOf(h245::H245MessageRecord& record);

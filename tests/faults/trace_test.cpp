@@ -1,4 +1,4 @@
-// What the diagnostic hook is told. The line of a call counts only where it is a number of its own.
+// The calls of the diagnostic hook. The line matters only if it is a distinct number.
 #include <gtest/gtest.h>
 
 #include "faults/heap_double.h"
@@ -13,7 +13,7 @@ class TraceTest : public testing::Test {
  protected:
   void SetUp() override { heap_.Reset(); }
 
-  // What is traced while `read` has a reader over these octets.
+  // The trace while `read` uses a reader over these octets.
   template <class Read>
   std::vector<TraceCall> TracesOf(const std::vector<uint8_t>& octets, Read read) {
     PerReader reader;
@@ -25,7 +25,7 @@ class TraceTest : public testing::Test {
     return traces;
   }
 
-  // What a decode traces, the lines left out.
+  // The trace of a decode, without lines.
   std::vector<TraceCall> TracesOf(Family family, const std::vector<uint8_t>& octets) {
     DecodedMessage message(family, octets);
     message.Release();
@@ -60,7 +60,7 @@ TEST_F(TraceTest, WhatFailsOtherwiseIsNotTraced) {
   EXPECT_EQ(TracesOf({}, [](PerReader& r) { PerReadBits(r, 1); }), Traces{});
   EXPECT_EQ(TracesOf({0x05}, [](PerReader& r) { PerReadInteger(r); }), Traces{});
   EXPECT_EQ(TracesOf({0x01}, [](PerReader& r) { PerReadOctets(r, 2); }), Traces{});
-  // Aligning takes the reader to its end.
+  // Aligning moves the reader to its end.
   EXPECT_EQ(TracesOf({0x01},
                      [](PerReader& r) {
                        PerReadBit(r);
@@ -86,7 +86,7 @@ TEST_F(TraceTest, TheQ931FrameTellsItsEntryAndWhatItLacks) {
 TEST_F(TraceTest, AnUnknownAlternativeIsToldWhenItIsReleased) {
   const TraceCall unknown{64, 4, 4, 36, 0};
   EXPECT_EQ(TracesOf(Family::kRas, {0x89, 2, 0xAA, 0xBB, 0}), Traces{unknown});
-  // An index beyond the root: the decode releases what it refuses, and the caller releases it again.
+  // An index outside the root: the decode releases what it refuses, and the caller releases it again.
   EXPECT_EQ(TracesOf(Family::kRas, {0x7C, 0}), (Traces{unknown, unknown}));
 }
 

@@ -1,5 +1,5 @@
-// The version mode of the process: which messages set it, and that a registration goes by the version that it names
-// itself, whatever is decoded between two steps of its own.
+// The version mode of the process: which messages set it, and that a registration uses its own version, whatever else
+// is decoded between two of its steps.
 #include <set>
 
 #include "codec/memory.h"
@@ -12,7 +12,7 @@ namespace {
 
 using VersionModeTest = FaultTest;
 
-// As a message of this version does that another thread decodes.
+// Has the same effect as a message of this version that another thread decodes.
 void NameVersion(uint8_t version) {
   const uint8_t identifier[] = {0x06, 0x00, 0x08, 0x91, 0x4A, 0x00, version};
   PerReader reader;
@@ -39,7 +39,7 @@ TEST_F(VersionModeTest, OfAnotherMessageDoesNotMatterToARegistration) {
   }
 }
 
-// They name version 4.
+// These name version 4.
 TEST_F(VersionModeTest, StaysAsItIsWhateverOtherRasMessagesName) {
   const std::set<std::string> others = {"gatekeeperRequest",          "gatekeeperConfirm",
                                         "gatekeeperReject",           "registrationReject",

@@ -1,5 +1,4 @@
-// What the decoder tests share: records that release themselves, and the values that many messages
-// carry.
+// Shared by the decoder tests: records that release themselves, and values that many messages carry.
 #pragma once
 
 #include <string>
@@ -16,10 +15,10 @@ namespace kelvra::test {
 
 inline constexpr uint32_t kMarker = 0x5A;
 
-// The octets composed so far and the marker.
+// The octets so far, then the marker.
 inline std::vector<uint8_t> Marked(BitWriter writer) { return writer.Octets({kMarker}); }
 
-// A zeroed record that gives its blocks back.
+// A zeroed record that releases its blocks.
 template <class R>
 class Owned {
  public:
@@ -38,7 +37,7 @@ class Owned {
   R record_;
 };
 
-// Decodes a type of H.245, whose failures nobody reports.
+// Decodes an H.245 type, whose failures are not reported.
 template <class R>
 void DecodeH245(R& record, PerReader& reader) {
   static_cast<void>(Decode(record, reader));
@@ -53,7 +52,7 @@ inline std::string TextOf(const OctetStringValue& value) {
   return {octets.begin(), octets.end()};
 }
 
-// `count` octets that rise from `first`.
+// `count` octets that count up from `first`.
 inline std::vector<uint8_t> Rising(uint8_t first, uint32_t count) {
   std::vector<uint8_t> octets;
   for (uint32_t i = 0; i < count; ++i) octets.push_back(static_cast<uint8_t>(first + i));
@@ -63,7 +62,7 @@ inline std::vector<uint8_t> Rising(uint8_t first, uint32_t count) {
 // { itu-t recommendation h 2250 version `version` }, version below 128.
 inline std::vector<uint8_t> ProtocolIdentifier(uint8_t version) { return {0x00, 0x08, 0x91, 0x4A, 0x00, version}; }
 
-// An H.225.0 EndpointType with nothing in it.
+// An empty H.225.0 EndpointType.
 inline BitWriter& EmptyEndpointType(BitWriter& writer) { return writer.Bits(0, 9); }
 
 // An H.225.0 TransportAddress: ipAddress 10.1.2.`host`.

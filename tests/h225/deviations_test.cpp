@@ -1,4 +1,4 @@
-// Readings of H.225.0 that the vectors leave out, since they differ from the ASN.1.
+// H.225.0 readings that deviate from the ASN.1, so the vectors leave them out.
 #include <gtest/gtest.h>
 
 #include "h225/common/protocol_version.h"
@@ -53,7 +53,7 @@ TEST(GSMUIMTest, TmsiIsReadAsCharacters) {
 }
 
 TEST(ANSI41UIMTest, SingleOctetsAreAligned) {
-  // The three of them after the mandatory system-id, one character long: bits are left in its octet.
+  // Three single octets after the mandatory system-id, one character long, which leaves bits in its octet.
   BitWriter w;
   w.Bit(false).Bits(0b00000011100, 11).Bits(0, 2).Bits(0, 2).Align().Bits(0x9F, 8).Octets({0x66, 0x77, 0x88});
   Input input(Marked(w));
@@ -115,7 +115,7 @@ BitWriter ConnectRoot() {
 BitWriter Presentation(uint32_t tag) { return BitWriter().Bits(tag, 3); }
 
 TEST(ConnectTest, MultipleCallsAloneTakesTheNextAdditionAsMaintainConnection) {
-  // The open type behind multipleCalls is that of an extension alternative: its first bit is 1.
+  // The open type after multipleCalls is that of an extension alternative: its first bit is 1.
   BitWriter w = ConnectRoot();
   Additions(w, Addition(5, 11) | Addition(9, 11) | Addition(10, 11), 11);
   w.OpenType({0x00}).OpenType({0x80}).OpenType(Presentation(2));
@@ -143,7 +143,7 @@ TEST(ConnectTest, MaintainConnectionAloneIsReadAsTheNextAddition) {
   EXPECT_EQ(input.Next(), 1U) << "the open type of presentationIndicator is left over";
 }
 
-// What the mode is after a CallStatus body with this identifier.
+// The mode after a CallStatus body with this identifier.
 int32_t ModeAfter(const Octets& identifier) {
   BitWriter w;
   w.Bits(0, 3).OpenType(identifier).Bit(false).Octets(Rising(1, 16));

@@ -1,4 +1,4 @@
-// Composes Q.931 frames behind a TPKT header.
+// Composes Q.931 frames with a TPKT header.
 #pragma once
 
 #include <vector>
@@ -20,13 +20,13 @@ class Q931Builder {
     octets_.insert(octets_.end(), octets.begin(), octets.end());
     return *this;
   }
-  // An element with a one-octet length, which is `claimed` when that is given.
+  // An element with a one-octet length; `claimed` replaces the true length.
   Q931Builder& Element(uint8_t identifier, const std::vector<uint8_t>& contents, int claimed = -1) {
     octets_.push_back(identifier);
     octets_.push_back(static_cast<uint8_t>(claimed < 0 ? static_cast<int>(contents.size()) : claimed));
     return Octets(contents);
   }
-  // The user-user element, whose length may be given apart from its contents.
+  // The user-user element; `claimed` replaces the true length.
   Q931Builder& UserUser(const std::vector<uint8_t>& information, int claimed = -1) {
     const int length = claimed < 0 ? static_cast<int>(information.size()) + 1 : claimed;
     octets_.push_back(0x7E);

@@ -19,7 +19,7 @@ using test::Q931Builder;
 using test::Rising;
 using Octets = std::vector<uint8_t>;
 
-// A frame decoded from an exact-size block; released at the end.
+// A frame decoded from a block of exactly its size; released at the end.
 class Frame {
  public:
   explicit Frame(const Octets& octets) : Frame(octets, static_cast<int32_t>(octets.size())) {}
@@ -84,7 +84,7 @@ TEST(Q931FrameTest, NullArgumentsAreRefused) {
   EXPECT_EQ(FindQ931Element(&frame, 0x7E, nullptr), kQ931BadArgument);
 }
 
-// With its header of 3 octets the user-user element would not fit in 16 bits.
+// With its 3-octet header, the user-user element would not fit in 16 bits.
 TEST(Q931FrameTest, ALengthThatItsHeaderCarriesPast16BitsIsBeyondTheFrame) {
   for (const uint8_t low : {uint8_t{0xFD}, uint8_t{0xFF}}) {
     Octets octets = Q931Builder().UserUser().Done();
@@ -143,7 +143,7 @@ TEST(Q931FrameTest, BoundsOfTheOtherElements) {
       const struct {
         uint8_t identifier;
         const uint8_t* octets;
-        int length;  // as kept, or -1 where none is
+        int length;  // as stored, or -1 if there is none
       } kSlots[] = {{0x04, frame.m.bearerCapability, frame.m.bearerCapabilityLength},
                     {0x29, frame.m.dateTime, -1},
                     {0x2C, frame.m.keypadFacility, -1},
@@ -165,7 +165,7 @@ TEST(Q931FrameTest, BoundsOfTheOtherElements) {
 }
 
 TEST(Q931FrameTest, ElementsWithoutABoundCopyOneOctet) {
-  // Of an empty element the octet behind it is copied; of a cause, the second one.
+  // An empty element copies the octet after it; a cause copies the second one.
   Frame frame(Q931Builder()
                   .Element(0x14, {0x0A, 1})
                   .Element(0x27, {})
@@ -199,7 +199,7 @@ TEST(Q931FrameTest, ElementsThatAreAbsentLeaveTheirMembersClear) {
 TEST(Q931FrameTest, FirstOccurrenceCounts) {
   Frame frame(Q931Builder().Element(0x08, {0x80, 0x90}).Element(0x08, {0x80, 0x91}).UserUser().Done());
   EXPECT_EQ(+frame.m.causeValue, 0x90);
-  // One out of its slot's bounds hides a later one that would fit.
+  // An element with a length that its slot refuses hides a later one that would fit.
   Frame hidden(Q931Builder().Element(0x1E, {1, 2, 3}).Element(0x1E, {1, 2}).UserUser().Done());
   EXPECT_FALSE(hidden.Has(kProgressIndicatorPresent));
   EXPECT_EQ(hidden.result, kQ931Decoded);
@@ -213,7 +213,7 @@ TEST(Q931FrameTest, RedirectingNumberIsNotKept) {
 }
 
 TEST(Q931FrameTest, ElementLongerThanTheBufferReadsZeros) {
-  // The claim of 6 does not exceed the frame as a whole, though only 2 octets are left.
+  // The claim of 6 is within the frame length, although only 2 octets are left.
   Frame frame(Q931Builder().UserUser().Element(0x29, {26, 11}, 6).Done());
   EXPECT_EQ(frame.result, kQ931Decoded);
   EXPECT_TRUE(frame.Has(kDateTimePresent));
@@ -221,7 +221,7 @@ TEST(Q931FrameTest, ElementLongerThanTheBufferReadsZeros) {
 }
 
 TEST(Q931FrameTest, ElementLongerThanTheFrameIsPassedOver) {
-  // The frame is 5 octets of header and 5 of this element: a claim of 8 just fits, of 9 does not.
+  // The frame has 5 header octets and 5 of this element: a claim of 8 just fits, 9 does not.
   Frame fits(Q931Builder().Element(0x10, {1, 2, 3}, 8).Done());
   EXPECT_TRUE(fits.Has(kCallIdentityPresent));
   Frame beyond(Q931Builder().Element(0x10, {1, 2, 3}, 9).Done());
@@ -242,18 +242,18 @@ TEST(Q931FrameTest, UserInformationMayEndWithItsElementButNotTwoOctetsBehind) {
 }
 
 TEST(Q931FrameTest, FailedUserInformationIsReleased) {
-  // A body index of 7 behind a nonStandardData flag is malformed; a Setup cut short leaves blocks.
+  // A body index of 7 after a nonStandardData flag is malformed; a Setup cut short leaves blocks.
   EXPECT_EQ(Frame(Q931Builder().UserUser(BitWriter().Bits(0, 4).Bits(7, 4)).Done()).result, kQ931Rejected);
   Octets cut = BitWriter().Bits(0, 8).Bits(0, 8).OpenType(test::ProtocolIdentifier(4));
   Frame frame(Q931Builder().UserUser(cut).Done());
   EXPECT_EQ(frame.result, kQ931Rejected);
   EXPECT_TRUE(+frame.m.userInformation.h323UuPdu.h323MessageBody.setup.protocolIdentifier.arcs == nullptr);
-  // A Connect that ends before its conferenceID, which no status tells.
+  // A Connect that ends before its conferenceID, which no status reports.
   const Octets connect = {0x02, 0x00, 0x06, 0x00, 0x08, 0x91, 0x4A, 0x00, 0x04, 0x80, 0x02, 0x20, 0x7F};
   EXPECT_EQ(Frame(Q931Builder().UserUser(connect).Done()).result, kQ931Rejected);
 }
 
-// The numbers are those that callers in other languages know.
+// Callers in other languages use these numbers.
 TEST(Q931FrameTest, EachElementHasItsBit) {
   constexpr struct {
     uint8_t identifier;

@@ -1,4 +1,4 @@
-// Registration: what a message means by its additions depends on the H.225.0 version that it names.
+// Registration: the meaning of the additions depends on the H.225.0 version that the message names.
 #include "kelvra/h225/ras/registration.h"
 
 #include <gtest/gtest.h>
@@ -45,14 +45,14 @@ BitWriter BeginRegistrationReject(uint8_t version) {
 const Octets kBooleanOrAddresses = {0x40, 0x00};
 const Octets kTrue = {0x80};
 
-// The additions keepAlive, maintainConnection, the tenth one, multipleCalls and one beyond all known.
+// The additions keepAlive, maintainConnection, the tenth, multipleCalls and an unknown one.
 Octets ExtendedRequest(uint8_t version) {
   BitWriter w = BeginRegistrationRequest(ProtocolIdentifier(version), true);
   Additions(w, Addition(5, 22) | Addition(8, 22) | Addition(9, 22) | Addition(14, 22) | Addition(21, 22), 22);
   return Marked(w.OpenType(kTrue).OpenType(kTrue).OpenType(kBooleanOrAddresses).OpenType(kTrue).OpenType({1, 2, 3}));
 }
 
-// A preGrantedARQ with four additions, of which the fourth is `annexE`, and three octets behind it.
+// A preGrantedARQ with four additions, the fourth of which is `annexE`, and three octets after it.
 Octets ConfirmWithPreGrant(uint8_t version) {
   BitWriter grant;
   grant.Bit(true).Bits(0b1010, 4);
@@ -61,7 +61,7 @@ Octets ConfirmWithPreGrant(uint8_t version) {
   return Additions(w, Addition(6, 7), 7).OpenType(grant).Octets({0, 0, 0});
 }
 
-// Which of the members that depend on the version a message had.
+// Which version-dependent members a message had.
 struct Reading {
   uint32_t keepAlive, maintainConnection, versionThreeBoolean, alternateTransportAddresses, multipleCalls;
   bool complete;
@@ -81,8 +81,7 @@ Reading ReadRequest(const Octets& octets) {
           decoded && input.Next() == kMarker};
 }
 
-// The additions of preGrantedARQ that are not known are counted anew, so the confirm passes over as many
-// open types behind it.
+// The unknown additions of preGrantedARQ are counted anew, so the confirm skips as many open types after it.
 struct Grant {
   uint32_t irrFrequencyInCall, totalBandwidthRestriction;
   uint32_t versionThreeBoolean, alternateTransportAddresses, useSpecifiedTransport;
@@ -131,7 +130,7 @@ TEST(RegistrationTest, UnknownVersionIsRefusedAtOnce) {
   const Octets kIdentifiers[] = {
       ProtocolIdentifier(0),
       ProtocolIdentifier(5),
-      {0x00, 0x08, 0x91, 0x4A, 0x00},  // an arc too few
+      {0x00, 0x08, 0x91, 0x4A, 0x00},  // one arc too few
       {0x00, 0x08, 0x91, 0x4A, 0x00, 0x04, 0x04},
       {},
   };

@@ -1,4 +1,4 @@
-// Types that can hold themselves are followed to the maximum depth. Past it nothing is read, nor what follows.
+// Recursive types are followed to the maximum depth. Past it nothing is read, including what follows.
 #include <gtest/gtest.h>
 
 #include "h225/decoding.h"
@@ -13,10 +13,10 @@
 namespace kelvra::test {
 namespace {
 
-// A value of T that nests `levels` deep.
+// Writes a value of T with `levels` levels of nesting.
 using Write = void (*)(BitWriter& w, uint32_t levels);
 
-// `inner` is the value within another, or null; `isRead` tells of the innermost whether its members were read.
+// `inner` is the nested value, or null; `isRead` reports whether the members of the innermost value were read.
 template <class T>
 void ExpectDepthIsBounded(Write write, const T* (*inner)(const T&), bool (*isRead)(const T&)) {
   for (const uint32_t levels : {kMaximumDepth, kMaximumDepth + 1}) {
@@ -33,7 +33,7 @@ void ExpectDepthIsBounded(Write write, const T* (*inner)(const T&), bool (*isRea
     EXPECT_EQ(isRead(*innermost), levels == kMaximumDepth);
     EXPECT_EQ(input.reader.depth, 0U);
     if (levels == kMaximumDepth) {
-      EXPECT_EQ(status, kDecoded);  // and more than ten open types deep the reader resumes elsewhere
+      EXPECT_EQ(status, kDecoded);  // past ten open types the reader resumes elsewhere
     } else if (kReportsFailures<T>) {
       EXPECT_EQ(status, kMalformed);
     }
@@ -54,7 +54,7 @@ TEST(DepthTest, OfEnumeratedParametersIsBounded) {
       [](const h225::EnumeratedParameter& m) { return m.id.standard == 1; });
 }
 
-// With a list `supersedes` of one after each value.
+// With a one-element list `supersedes` after each value.
 void WriteGenericParameter(BitWriter& w, uint32_t levels) {
   w.Bits(0b01, 2).Bits(0, 3).Bits(127, 7);  // standard
   if (levels == 1) {
@@ -108,7 +108,7 @@ constexpr uint32_t kMultiplePayloadStreamMode = 3;
 constexpr uint32_t kFecMode = 4;
 constexpr uint32_t kUnknown = 9;
 
-// Extension alternatives, each but the last holding the next; the last is unknown.
+// Nested extension alternatives; the innermost is unknown.
 template <uint32_t kAlternative>
 void WriteMode(BitWriter& w, uint32_t levels) {
   if (levels == 1) {

@@ -1,4 +1,4 @@
-// Readings of H.245 that the vectors leave out, since they differ from the ASN.1 or no encoder makes them.
+// H.245 readings that the vectors leave out, because they deviate from the ASN.1 or no encoder produces them.
 #include <gtest/gtest.h>
 
 #include "h225/decoding.h"

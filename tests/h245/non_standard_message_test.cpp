@@ -41,7 +41,7 @@ TEST(NonStandardMessageTest, PrivateMessageOfEachClass) {
     const uint32_t allowance = input.reader.allowance;
     Owned<H245MessageRecord> m;
     DecodeH245(*m, input.reader);
-    const H245NonStandardMessageRecord& body = m->request.nonStandard;  // all four classes are laid out alike
+    const H245NonStandardMessageRecord& body = m->request.nonStandard;  // all four classes have the same layout
     EXPECT_EQ(+body.messageClass, messageClass);
     EXPECT_EQ(+body.privateMessageDecoded, 1U);
     EXPECT_EQ(+body.privateMessage.messageType, 200);

@@ -23,7 +23,7 @@ Octets Filled(Octets octets, const Octets& pattern, size_t size) {
 
 // --- H.245 ---
 
-// A videoData channel up to where the first open type begins: an extendedVideoCapability.
+// A videoData channel up to the first open type: an extendedVideoCapability.
 Octets ExtendedVideoChannel() {
   BitWriter message;
   message.Bits(0b000, 3).Bits(0b00011, 5).Bits(0b00, 2);  // openLogicalChannel
@@ -32,8 +32,8 @@ Octets ExtendedVideoChannel() {
   return message.Align();
 }
 
-// Video capabilities in each other as deep as they may be, each a list of 255 whose open types end after a
-// few octets. The innermost skip as far as a length can say, and what they read there is read for each.
+// Video capabilities nested to the maximum depth, each a list of 255 whose open types end after a few octets. The
+// innermost skip as far as a length allows, and each of them reads the same octets there.
 Octets RewoundVideoCapabilities(size_t size) {
   constexpr uint8_t kList[] = {0x03, 0x00, 0x80, 0xFF};
   const Octets wide = {0x81, 0x03, 0x00, 0x80, 0xFF};              // a list of 255 in an open type of 3 octets
@@ -51,7 +51,7 @@ Octets RewoundVideoCapabilities(size_t size) {
   return octets;
 }
 
-// Streams in each other: each open type ends where its own first element starts.
+// Nested streams: each open type ends where its own first element starts.
 Octets RewoundPayloadStreams(size_t size) {
   BitWriter level;
   level.Bits(0, 1).Align().Length(255);            // 255 elements
@@ -63,7 +63,7 @@ Octets RewoundPayloadStreams(size_t size) {
   return Filled(message, level, size);
 }
 
-// Elements that are an object identifier and no more, of which each claims all that is left and none ends.
+// Elements that are only an object identifier, which claims the whole rest and never ends.
 Octets ClaimedObjectIdentifiers(size_t size) {
   Octets octets = ExtendedVideoChannel();
   Append(octets, {0x03, 0x00, 0x80, 0xFF});
@@ -73,15 +73,15 @@ Octets ClaimedObjectIdentifiers(size_t size) {
   return octets;
 }
 
-// The same with a length that goes past the end.
+// The same, with a length past the end.
 Octets ObjectIdentifiersPastTheEnd(size_t size) {
   Octets octets = ExtendedVideoChannel();
   Append(octets, {0x03, 0x00, 0x80, 0xFF});
   return Filled(octets, {0x80, 0x05, 0x00, 0x00, 0xBF, 0xFF, 0x81}, size);
 }
 
-// Capabilities that each are an object identifier of as many octets as fit. The open type around them ends
-// with the longest length there is.
+// Capabilities with an object identifier as long as fits. The open type around them ends with the longest possible
+// length.
 Octets LongObjectIdentifiers(size_t size) {
   const uint32_t each = static_cast<uint32_t>((size - 64) / 255);
   BitWriter message;
@@ -98,7 +98,7 @@ Octets LongObjectIdentifiers(size_t size) {
   return octets;
 }
 
-// Parameters in each other to the depth, each a list of 255 that goes on in the next.
+// Parameters nested to the maximum depth, each a list of 255 that continues in the next.
 Octets NestedParameters(size_t size) {
   BitWriter capability;
   capability.Bits(0b001000, 6).Bits(0b000, 3).OpenType({0x2A, 3});  // collapsing alone; an identifier
@@ -114,8 +114,8 @@ Octets NestedParameters(size_t size) {
   return Filled(octets, parameter, size);
 }
 
-// The value of an extendedVideoCapability ten open types deep. The innermost holds another, and a nonStandard
-// with `data`.
+// The value of an extendedVideoCapability ten open types deep. The innermost holds another, and a nonStandard with
+// `data`.
 Octets VideoCapabilitiesTenDeep(const Octets& data) {
   constexpr int kLevels = 10;
   BitWriter smallest;
@@ -132,8 +132,8 @@ Octets VideoCapabilitiesTenDeep(const Octets& data) {
   return list;
 }
 
-// 56 streams of 255 elements: those of the first are nullData, those of the others nonStandard, with an object
-// identifier and an octet each. The open type around them ends after a quarter of the longest message.
+// 56 streams of 255 elements: nullData in the first, in the others nonStandard with an object identifier and an octet.
+// The open type around them ends after a quarter of the longest message.
 Octets PayloadStreams(size_t size) {
   constexpr uint32_t kStreams = 56;
   constexpr uint32_t kElements = 255;
@@ -156,8 +156,8 @@ Octets PayloadStreams(size_t size) {
   return octets;
 }
 
-// A DataType that holds itself `levels` times, by way of h235Media and the primary of a redundancyEncoding, which
-// takes the deepest stack. Its open types have no octet.
+// A DataType nested in itself `levels` times, through h235Media and the primary of a redundancyEncoding, which uses the
+// most stack. Its open types are empty.
 void NestedRedundantMedia(BitWriter& w, int levels) {
   if (levels == 0) return WriteNullDataType(w);
   w.Bit(true).NormallySmall(1).Length(0);  // h235Media
@@ -182,8 +182,8 @@ BitWriter DeepestFastStart() {
 
 // --- RAS ---
 
-// An Endpoint whose nonStandardData has an object identifier, and a list of as many tokens as are said that
-// starts `distance` octets on.
+// An Endpoint whose nonStandardData has an object identifier, and a list of the given number of tokens that starts
+// `distance` octets later.
 Octets EndpointWithTokens(uint32_t distance, uint32_t tokens) {
   constexpr size_t kIdentifier = 64;
   Octets octets = {0xC0,
@@ -202,8 +202,8 @@ Octets EndpointWithTokens(uint32_t distance, uint32_t tokens) {
   return octets;
 }
 
-// Endpoints that all read the same generic data behind the last of them, in which open types of no octet
-// hold bitmaps that claim 2^31 additions.
+// Endpoints that all read the same generic data after the last endpoint, in which empty open types hold bitmaps that
+// claim 2^31 additions.
 Octets RewoundEndpoints(size_t size) {
   constexpr uint32_t kEndpoints = 20;
   const Octets nested = {0x40, 0x00, 0x00, 0x44, 0x08, 0x00};
@@ -234,14 +234,14 @@ BitWriter GatekeeperRequestHead() {
   return message;
 }
 
-// The same with the bitmap of its additions, of which the one at `index` is there.
+// The same with the bitmap of its additions, of which only the one at `index` is present.
 BitWriter DiscoveryWith(uint32_t index) {
   BitWriter message = GatekeeperRequestHead();
   return Additions(message, Addition(index, 10), 10);
 }
 
-// Additions that are passed over, as many as the message has room for: half of it is their bitmap, and the
-// rest their open types, each starting with an octet of `length`.
+// Skipped additions, as many as fit: half of the message is their bitmap, the rest their open types, each starting with
+// an octet of `length`.
 Octets SkippedAdditions(size_t size, uint8_t length) {
   BitWriter message = GatekeeperRequestHead();
   message.NormallySmall(static_cast<uint32_t>(size * 4));
@@ -251,8 +251,8 @@ Octets SkippedAdditions(size_t size, uint8_t length) {
   return octets;
 }
 
-// Behind the length of a list's open type: generic data whose parameters are lists of parameters, 512 wide
-// at each level.
+// After the length of a list's open type: generic data whose parameters are lists of parameters, 512 wide at each
+// level.
 Octets WideGenericData(BitWriter& message, size_t size) {
   message.Length(kLongestLength).Length(255);
   message.Bit(false).Bit(true).Bits(0b0000, 4).Align().Bits(7, 16).Align().Bits(511, 16);  // 512 parameters
@@ -267,14 +267,14 @@ Octets WideGenericDataOfARequest(size_t size) {
   return WideGenericData(message, size);
 }
 
-// Cryptographic tokens in open types of no octet.
+// Cryptographic tokens in empty open types.
 Octets RewoundTokens(size_t size, uint8_t filler) {
   BitWriter message = DiscoveryWith(1);
   message.Length(0).Length(255);
   return Filled(message, {filler, 0x00}, size);
 }
 
-// Continues `w` with the PDU of a Setup up to the latter's additions, of which the one at `index` is there.
+// Appends the PDU of a Setup up to its additions, of which only the one at `index` is present.
 BitWriter& PduOfSetupWith(BitWriter& w, uint32_t index) {
   constexpr uint32_t kAdditions = 26;
   w.Bits(0b00, 2).Bits(0b0000, 4);  // no nonStandardData; setup
@@ -311,7 +311,7 @@ Octets CallOfEmptyPdus() {
   return CallWith(pdus);
 }
 
-// Conforming: calls whose PDUs are all empty, 255 to a call.
+// Conforming: calls with only empty PDUs, 255 per call.
 Octets EmptyPdus(size_t size) {
   const Octets call = CallOfEmptyPdus();
   Octets octets = ResponseWith(std::vector<Octets>((size - 64) / call.size(), call));
@@ -319,7 +319,7 @@ Octets EmptyPdus(size_t size) {
   return octets;
 }
 
-// Empty PDUs that each carry 255 supplementary services of an octet.
+// Empty PDUs with 255 one-octet supplementary services each.
 Octets CallOfServices(size_t count) {
   BitWriter services;
   services.Length(255);
@@ -333,7 +333,7 @@ Octets CallOfServices(size_t count) {
   return CallWith(pdus);
 }
 
-// Conforming: calls of as many empty PDUs as a message may have blocks for, then supplementary services.
+// Conforming: calls with as many empty PDUs as the block limit allows, then supplementary services.
 Octets ServicesOfManyPdus(size_t size) {
   constexpr size_t kCallsOfEmptyPdus = 13;
   constexpr size_t kMostServicePdus = 24;  // what the open type of one call holds
@@ -368,7 +368,7 @@ Octets Packet(const Octets& information, size_t size) {
   return Q931Builder().UserUser(octets).Done();
 }
 
-// The user information of a Setup up to the latter's additions, of which the one at `index` is there.
+// The user information of a Setup up to its additions, of which only the one at `index` is present.
 BitWriter SetupWith(uint32_t index) {
   BitWriter information;
   information.Bits(0b00, 2);  // no user data
@@ -378,7 +378,7 @@ BitWriter SetupWith(uint32_t index) {
 constexpr uint32_t kTokens = 4;
 constexpr uint32_t kDesiredFeatures = 22;
 
-// Channels in open types of a few octets, each of which reads the video capabilities behind the last.
+// Channels in open types of a few octets, each of which reads the video capabilities after the last channel.
 Octets RewoundFastStart(size_t size) {
   Octets information = SetupWith(kFastStart).Length(kLongestLength).Length(255);
   Octets channel = ExtendedVideoChannel();
@@ -393,7 +393,7 @@ Octets RewoundFastStart(size_t size) {
   return Packet(Filled(information, {0x80, 0x02, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF}, size - 16), size);
 }
 
-// Conforming: as many smallest channels as one list holds.
+// Conforming: as many of the smallest channels as one list holds.
 Octets SmallestChannels(size_t size) {
   BitWriter information = SetupWith(kFastStart);
   BitWriter channels;
@@ -418,7 +418,7 @@ Octets RewoundSetupTokens(size_t size) {
   return Packet(Filled(information, {0x80, 0x00, 0x7F}, size - 16), size);
 }
 
-// Elements whose lengths lead round in circles, so that none is found.
+// Elements whose lengths form a cycle, so that the search finds none.
 Octets CircularElements(size_t size) {
   Octets octets = {3, 0, 0, 0, 0x08, 0x02, 0x00, 0x01, 0x05};
   octets = Filled(octets, {0x01, 0x00}, size - 3);
@@ -428,11 +428,11 @@ Octets CircularElements(size_t size) {
 
 Octets ElementsWithoutContents(size_t size) { return Filled({3, 0, 0, 0, 0x08, 0x02, 0x00, 0x01, 0x05}, {0xA0}, size); }
 
-// The octets that lie around the aliases of a registration, the spare octet included.
+// The octets around the aliases of a registration, including the spare octet.
 constexpr size_t kAroundAliases = 24;
 
-// An alias whose `tmsi` has one octet. It is read as one digit, so that all behind it is read out of place and
-// past the open type.
+// An alias whose `tmsi` has one octet. The decoder reads it as one digit, so everything after it is read at the wrong
+// place and past the open type.
 BitWriter AliasReadAgain() {
   BitWriter uim;
   uim.Bits(0b01, 2).Bits(0b0011011, 7);    // gsm-uim with tmsi, msisdn, hplmn and vplmn
@@ -462,7 +462,7 @@ std::vector<uint8_t> RegistrationOfAliases(size_t size) {
 
 std::vector<uint8_t> CapabilitiesElevenDeep(size_t size) {
   constexpr int kTimes = 4;
-  constexpr size_t kMostData = 15943;  // what the outermost open type has room for
+  constexpr size_t kMostData = 15943;  // the room in the outermost open type
   constexpr size_t kAroundData = 1103;
   const size_t dataSize = size - kAroundData < kMostData ? size - kAroundData : kMostData;
   Octets data;

@@ -1,6 +1,5 @@
-// Messages made to keep a decoder busy: lists, nesting, bitmaps, object identifiers and open types as
-// large as they may be, and open types that end before what is read in them, so that octets are read over
-// and over. None of them conforms but those that say so.
+// Messages that keep a decoder busy: lists, nesting, bitmaps, object identifiers and open types of the largest size,
+// and open types that end before their contents, so that octets are read repeatedly. None conforms unless marked so.
 #pragma once
 
 #include <cstdint>
@@ -10,15 +9,15 @@
 
 namespace kelvra::test {
 
-// Each message with `size` octets, or fewer where it needs no more. Sizes from 16 to 64 kB serve them all.
+// Each message with `size` octets, or fewer if it needs no more. Sizes from 16 to 64 kB work for all.
 std::vector<Message> HostileMessages(size_t size);
 
-// Conforming: a registration whose aliases are read again, with its spare octet, and how many aliases it has.
+// Conforming: a registration whose aliases are read again, with its spare octet, and the number of its aliases.
 std::vector<uint8_t> RegistrationOfAliases(size_t size);
 uint32_t AliasesOfRegistration(size_t size);
 
-// Conforming: a capability set of which one capability lies eleven open types deep, one more than are kept apart.
-// The reader resumes in the innermost data, where another capability as deep seems to begin, four times over.
+// Conforming: a capability set with one capability eleven open types deep, one more than the reader tracks. The reader
+// resumes in the innermost data, where another capability just as deep seems to begin, four times over.
 std::vector<uint8_t> CapabilitiesElevenDeep(size_t size);
 
 }  // namespace kelvra::test

@@ -11,7 +11,7 @@
 namespace kelvra::test {
 namespace {
 
-// Lets `reader` begin at the user information; false when there is none.
+// Moves `reader` to the user information; false if there is none.
 bool BeginUserInformation(PerReader& reader, const std::vector<uint8_t>& octets) {
   const h225::Q931Frame frame = h225::FrameOf(octets.data(), static_cast<int32_t>(octets.size()));
   h225::Q931Element element{};
@@ -20,7 +20,7 @@ bool BeginUserInformation(PerReader& reader, const std::vector<uint8_t>& octets)
   return true;
 }
 
-// What `decode` takes from the reader.
+// The cost of `decode` according to the reader.
 template <class Decode>
 MessageCost CostOfDecode(PerReader& reader, Decode decode) {
   const uint32_t allowance = reader.allowance;

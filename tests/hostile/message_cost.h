@@ -1,4 +1,4 @@
-// What a message costs, in figures that are the same on every run.
+// The cost of a message in deterministic numbers.
 #pragma once
 
 #include <cstdint>
@@ -13,7 +13,7 @@ struct MessageCost {
   uint32_t claimed;  // octets of blocks
 };
 
-// Decodes the octets as the export of the family does, and releases the record.
+// Decodes the octets like the family's export, and releases the record.
 MessageCost CostOf(Family family, const std::vector<uint8_t>& octets);
 
 }  // namespace kelvra::test

@@ -1,5 +1,5 @@
-// How deep the stack of a decode and of a release goes at most. The stack below is painted first, and looked
-// at afterwards.
+// The maximum stack depth of a decode and of a release. The test paints the unused stack first and inspects it
+// afterwards.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -8,14 +8,14 @@
 #include "faults/message_family.h"
 #include "hostile/hostile_messages.h"
 
-// A sanitizer's frames are larger, and not all on the stack.
+// A sanitizer's frames are larger, and partly outside the stack.
 #if !defined(__SANITIZE_ADDRESS__)
 
 namespace kelvra::test {
 namespace {
 
 constexpr size_t kWatched = 128 << 10;
-constexpr size_t kPaintedBelow = 4 << 10;  // more than the frames of those who paint and look differ by
+constexpr size_t kPaintedBelow = 4 << 10;  // more than the frames of painter and inspector differ by
 constexpr size_t kDeepest = 64 << 10;
 constexpr uint8_t kPaint = 0xA7;
 
@@ -39,7 +39,7 @@ constexpr uint8_t kPaint = 0xA7;
   return kWatched - unused;
 }
 
-// The records stay off the stack that is measured.
+// Keeps the records off the measured stack.
 template <class MessageFamily>
 size_t DepthOf(const std::vector<uint8_t>& octets) {
   static typename MessageFamily::Record record;

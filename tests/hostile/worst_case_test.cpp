@@ -1,5 +1,4 @@
-// What the worst messages may cost, in figures that are the same on every run: octets read again, and octets
-// of blocks claimed.
+// Limits on the cost of the worst messages, in deterministic numbers: octets read again, and octets of blocks claimed.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -23,7 +22,7 @@ TEST_F(WorstCases, ClaimNoMoreThanTheBoundAndStopWhereTheyReadTooMuchAgain) {
     for (const Message& message : HostileMessages(size)) {
       heap_.Reset();
       const MessageCost cost = CostOf(message.family, message.octets);
-      // What the heap has counted: the reader's own figure cannot pass its bound.
+      // Counted by the heap, because the reader's own number cannot exceed its bound.
       EXPECT_LE(heap_.OctetsGranted(), kMaximumMessageMemory) << message.name;
       EXPECT_EQ(heap_.OctetsGranted(), cost.claimed) << message.name;
       if (cost.reread > kMaximumRereading) ++stopped;

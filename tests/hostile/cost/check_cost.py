@@ -11,7 +11,7 @@ import tempfile
 
 MOST = 30_000_000  # 15 ms at two instructions a nanosecond
 RATIO = 2.2
-# Half a millisecond, below which growth is not judged: bounds begin to hold there, and searches to go round.
+# Half a millisecond. Smaller costs are not judged for growth: bounds start to apply there, and searches start to wrap.
 SMALLEST = 1_300_000
 
 

@@ -1,9 +1,9 @@
-// Decodes and releases each hostile message at growing sizes. By itself it prints the time of each; under
-// callgrind it leaves the instructions of each, which check_cost.py judges.
+// Decodes and releases each hostile message at growing sizes. Run alone, it prints the time of each; under callgrind it
+// records the instructions of each for check_cost.py.
 //
 //   kelvra_worst_cases [CORPORA]
 //
-// Of the messages that fuzzing has left in CORPORA/FAMILY it prints instead the most that one of them costs.
+// With CORPORA it prints instead the highest cost of a message that fuzzing has left in CORPORA/FAMILY.
 #include <valgrind/callgrind.h>
 
 #include <algorithm>
@@ -20,7 +20,7 @@
 namespace kelvra::test {
 namespace {
 
-// The largest size that all exports take whole, and how often it is halved.
+// The largest size that all exports accept, and how often it is halved.
 constexpr size_t kLargest = 65535;
 constexpr int kHalvings = 2;
 constexpr int kRounds = 5;
@@ -40,7 +40,7 @@ void Run(const Message& message) {
   }
 }
 
-// The best of some rounds, in milliseconds.
+// The best of several rounds, in milliseconds.
 double TimeOf(const Message& message) {
   using Clock = std::chrono::steady_clock;
   double best = 1e9;
@@ -74,7 +74,7 @@ void MeasureHostileMessages() {
   }
 }
 
-// Keeps in `most` what is larger of the two, and in `name` whose it is.
+// Keeps the larger number in `most`, and its message in `name`.
 template <class Number>
 void KeepMost(Number& most, Number value, std::string& name, const Message& message) {
   if (value <= most) return;
@@ -82,7 +82,7 @@ void KeepMost(Number& most, Number value, std::string& name, const Message& mess
   name = message.name;
 }
 
-// The most that a message of the folder costs, and its name.
+// The highest cost of a message in the folder, and its name.
 void MeasureCorpus(Family family, const std::filesystem::path& folder) {
   size_t messages = 0;
   MessageCost most{};
