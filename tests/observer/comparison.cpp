@@ -12,7 +12,7 @@
 namespace kelvra::test {
 namespace {
 
-// A record and what its decode ended with.
+// A record and how its decode ended.
 template <class Record>
 struct Outcome {
   Record record;

@@ -8,7 +8,7 @@
 
 namespace kelvra::test {
 
-// Whether both leave the same record and blocks, the same status and the same position.
+// True if both leave the same record and blocks, the same status and the same position.
 bool ObservedDecodeAgrees(Family family, const uint8_t* octets, size_t size);
 
 }  // namespace kelvra::test

@@ -37,7 +37,7 @@ TEST(ObservedDecode, AgreesWithThePlainDecodeOfFlippedBits) {
   uint32_t bit = 0;
   for (const Message& message : Corpus()) {
     Octets octets = WithSpare(message.family, message.octets);
-    for (; bit < octets.size() * 8; bit += 7) {  // every seventh bit of all messages in a row
+    for (; bit < octets.size() * 8; bit += 7) {  // every seventh bit across all messages
       octets[bit / 8] ^= static_cast<uint8_t>(0x80 >> bit % 8);
       ASSERT_TRUE(Agrees(message.family, octets)) << message.name << " bit " << bit;
       octets[bit / 8] ^= static_cast<uint8_t>(0x80 >> bit % 8);
@@ -46,7 +46,7 @@ TEST(ObservedDecode, AgreesWithThePlainDecodeOfFlippedBits) {
   }
 }
 
-// Writes down what it is shown, a line for each event.
+// Writes one line per event.
 class Listener : public DecodeObserver {
  public:
   std::string heard;
@@ -129,8 +129,8 @@ TEST(Observer, NamesElementsByTheirIndex) {
   EXPECT_NE(heard.find("stopped at locationRequest.destinationInfo[1] bit 64 cause 1\n"), std::string::npos) << heard;
 }
 
-// The open type of a requestInProgress holds two octets, of which the message reads three and wants more: the decode
-// stops, and resumes after the open type.
+// The open type of a requestInProgress holds two octets; the message reads three and wants more: the decode stops, and
+// resumes after the open type.
 TEST(Observer, ResumesAfterAnOpenType) {
   const Octets octets = BitWriter().Bit(true).NormallySmall(0).OpenType({0x00, 0x00}).Octets({0x5A});
   EXPECT_EQ(HeardOfRas(octets),
@@ -143,14 +143,14 @@ TEST(Observer, ResumesAfterAnOpenType) {
 }
 
 TEST(Observer, NamesAStringWhoseOctetsAreMissing) {
-  // A nonStandardMessage whose data announce five octets.
+  // A nonStandardMessage whose data announces five octets.
   const Octets octets = BitWriter().Bits(23, 6).Bits(0, 1).Align().Bits(0, 16).Bits(0, 2).OpenType({0x2B}).Octets({5});
   const std::string heard = HeardOfRas(octets);
   EXPECT_NE(heard.find("stopped at nonStandardMessage.nonStandardData.data bit 48 cause 1\n"), std::string::npos)
       << heard;
 }
 
-// Whether the decode of a message stops, or goes past what it was given.
+// True if the decode of the message stops or goes past its octets.
 bool IsFoundCut(const Message& message, size_t size) {
   const Octets octets(message.octets.begin(), message.octets.begin() + static_cast<ptrdiff_t>(size));
   const std::string heard = message.family == Family::kRas ? HeardOfRas(octets) : HeardOfH245(octets);

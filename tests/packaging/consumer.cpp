@@ -1,4 +1,4 @@
-// Decodes a gatekeeperReject with its spare octet by what is installed, and releases it.
+// Decodes a gatekeeperReject with its spare octet using the installed library, and releases it.
 #include <stdio.h>
 
 #include "kelvra/kelvra.h"

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Uses the packages of scripts/dist.sh as their readers do: dist_test.sh FOLDER. The Debian packages go into a root of
-# their own by dpkg; the zips are used under Wine, also by a program that LLVM's linker makes.
+# Uses the packages of scripts/dist.sh like a user: dist_test.sh FOLDER. dpkg installs the Debian packages into a root
+# of their own; the zips run under Wine, also with a program linked by LLVM's linker.
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 top=$here/../..
@@ -19,7 +19,7 @@ debian_packages() {
   local root=$work/root
   mkdir -p "$root/var/lib/dpkg/"{info,updates} "$root/var/log"
   touch "$root/var/lib/dpkg/status"
-  # The root holds nothing else, so what the packages depend on is looked for on this machine.
+  # The root holds nothing else, so this machine provides the dependencies.
   dpkg --root="$root" --force-depends --force-not-root --force-script-chrootless --log="$work/dpkg.log" \
     -i "$dist"/*.deb >/dev/null 2>&1 || fail "dpkg does not install the packages"
   local package
@@ -39,7 +39,7 @@ tarball() {
   shows_the_sample "$(echo "$work"/kelvra-*-linux-x64)/bin/kelvra-dump"
 }
 
-# A program of Clang for Windows' own formats, linked by LLVM's linker.
+# Compiles a program with Clang for the Windows formats and links it with LLVM's linker.
 links_for_windows() {
   local folder=$1 target=$2
   clang --target="$target" -ffreestanding -std=c99 -O1 -I"$folder/include" -c "$here/by_windows_linker.c" \

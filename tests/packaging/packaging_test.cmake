@@ -1,4 +1,4 @@
-# Builds and runs programs that use the library as somebody else's project does:
+# Builds and runs programs that use the library as another project would:
 #   cmake -DHOW=installed|subdirectory|fetched -DBUILD=... -DWORK=... [-DSHARED=...] [-DTOOLCHAIN=...] [-DEMULATOR=...]
 #     -P packaging_test.cmake
 #
@@ -9,7 +9,7 @@ function(run)
   execute_process(COMMAND ${ARGN} COMMAND_ERROR_IS_FATAL ANY)
 endfunction()
 
-# The folder of the one file of this name that is installed.
+# The folder that holds the one installed file of this name.
 function(folder_of name result)
   file(GLOB_RECURSE files ${WORK}/prefix/${name})
   list(LENGTH files count)
@@ -30,7 +30,7 @@ function(use_installation)
   folder_of(kelvra.pc pkgconfig)
   set(ENV{PKG_CONFIG_PATH} ${pkgconfig})
   if(TOOLCHAIN)
-    # It looks for packages where its target's own are.
+    # Looks for packages where those of its target are installed.
     folder_of(kelvraConfig.cmake package)
     set(options -Dkelvra_DIR=${package})
   else()
@@ -63,7 +63,7 @@ endif()
 run(${CMAKE_COMMAND} -G Ninja -B ${host} ${options})
 run(${CMAKE_COMMAND} --build ${host})
 
-# A guest is installed by nobody, and writes to no folder but its own.
+# A guest is not installed, and writes only to its own folder.
 if(NOT HOW STREQUAL installed)
   run(${CMAKE_COMMAND} --install ${host} --prefix ${WORK}/nothing)
   file(GLOB entries RELATIVE ${host} ${host}/*)

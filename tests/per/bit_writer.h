@@ -1,4 +1,4 @@
-// Composes aligned PER, first bit uppermost, so that a test shows what its input says.
+// Composes aligned PER, most significant bit first, so that a test shows the meaning of its input.
 #pragma once
 
 #include <stdint.h>
@@ -31,7 +31,7 @@ class BitWriter {
     Align();
     return value < 128 ? Bits(value, 8) : Bits(0x8000U | value, 16);
   }
-  // Normally small number (X.691 10.6); 64 and more take the form with a length.
+  // Normally small number (X.691 10.6); from 64 on, the form with a length.
   BitWriter& NormallySmall(uint32_t value) {
     if (value < 64) return Bits(value, 7);
     Bit(true);
@@ -39,7 +39,7 @@ class BitWriter {
     while (octets < 4 && value >> (8 * octets) != 0) ++octets;
     return Length(octets).Bits(value, 8 * octets);
   }
-  // Whole octets from where the writer stands; aligns first.
+  // Whole octets at the current position; aligns first.
   BitWriter& Octets(const std::vector<uint8_t>& octets) {
     Align();
     octets_.insert(octets_.end(), octets.begin(), octets.end());
@@ -59,7 +59,7 @@ class BitWriter {
 
  private:
   std::vector<uint8_t> octets_;
-  uint32_t used_ = 0;  // bits of the last octet, 0 when it is full
+  uint32_t used_ = 0;  // bits used in the last octet; 0 if it is full
 };
 
 }  // namespace kelvra::test

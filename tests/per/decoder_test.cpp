@@ -22,7 +22,7 @@ uint32_t ReadHeader(Choice& choice, PerReader& reader, uint32_t roots) {
   return index;
 }
 
-// Extension bit, then the index of its kind: from every offset, also where the message ends within them.
+// An extension bit, then the index: from every offset, also if the message ends inside them.
 TEST(ReadChoiceHeader, IsAnExtensionBitAndAnIndex) {
   for (uint32_t first = 0; first < 256; ++first) {
     for (size_t size = 1; size <= 3; ++size) {
@@ -55,8 +55,7 @@ struct Names {
   static constexpr const char* kAlternatives[] = {"first", "second", "third", "fourth", "fifth"};
 };
 
-// Decodes the extension alternative `index` of a CHOICE that knows three, and tells whether its open type was
-// entered.
+// Decodes the extension alternative `index` of a CHOICE that knows three; reports whether its open type was entered.
 template <class NullChoice, class Decode>
 bool Enters(uint32_t index, Decode decode) {
   Input input(BitWriter().Bit(true).NormallySmall(index).OpenType({1, 2}).Octets({0x5A}));

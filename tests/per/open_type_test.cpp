@@ -13,8 +13,8 @@ namespace {
 
 using Octets = std::vector<uint8_t>;
 
-// Level `level` of `levels` open types, one inside the other: behind the next level stand an octet
-// that names this one and an octet that no decoder knows.
+// Level `level` of `levels` nested open types: after the next level come an octet with the number of this level and an
+// octet that no decoder knows.
 Octets Nested(uint32_t level, uint32_t levels) {
   BitWriter value;
   if (level < levels) value.OpenType(Nested(level + 1, levels));
@@ -105,7 +105,7 @@ TEST(OpenType, AnEleventhLevelTakesTheSlotOfTheFirst) {
     OpenTypeEnd(input.reader);
   }
   EXPECT_EQ(ReadOctet(input.reader), 0xA1u);
-  // The first resumes behind the value of the eleventh, where the octet of the tenth stands.
+  // The first resumes after the value of the eleventh, at the octet of the tenth.
   OpenTypeEnd(input.reader);
   EXPECT_EQ(ReadOctet(input.reader), 0xAAu);
 }
@@ -157,7 +157,7 @@ TEST(PerSkipOpenTypes, EndsWithTheInputWhateverTheCount) {
   EXPECT_TRUE(fragmented.AtExactEnd());
 }
 
-// The presence bit of the next addition, absent where the bitmap holds no more.
+// The presence bit of the next addition; absent if the bitmap has no more bits.
 uint32_t ReadAdditionBit(PerReader& reader, int32_t& additions) {
   if (additions <= 0) return 0;
   --additions;
@@ -183,7 +183,7 @@ TEST(ExtensionAdditions, KnownOnesMatchThoseReadOneByOne) {
   }
 }
 
-// Bitmaps of many words, from every place inside an octet, against a count of their bits one by one.
+// Bitmaps of many words, from every bit offset, compared with a bit-by-bit count.
 TEST(ExtensionAdditions, AreCountedAcrossWordsFromAnyOffset) {
   Octets octets(24);
   uint32_t state = 12345;

@@ -15,7 +15,7 @@ const Numbers kNull = {-1};
 
 struct RangeCase {
   uint32_t range;
-  uint32_t octetCount;  // the number that tells how many octets follow, in 2 bits; 9: there is none
+  uint32_t octetCount;  // the 2-bit count of the octets that follow; 9 if there is none
   bool aligned;
   uint32_t bits;
   uint32_t value;
@@ -23,7 +23,7 @@ struct RangeCase {
 
 constexpr uint32_t kNoCount = 9;
 
-// Each number stands behind one bit, so that an alignment shows, and before an octet that must be next.
+// Each number follows one bit, so that alignment is visible, and precedes an octet that must come next.
 TEST(PerReadConstrainedWholeNumber, TakesTheFormOfItsRange) {
   const RangeCase cases[] = {
       {0, kNoCount, false, 0, 0},
@@ -58,7 +58,7 @@ TEST(PerReadConstrainedWholeNumber, TakesTheFormOfItsRange) {
       {kFullRange, 0, true, 8, 1},
       {kFullRange, 1, true, 16, 0x0102},
       {kFullRange, 3, true, 32, 0xFEDCBA98},
-      // A bit field holds more than its range where that is no power of two; the value is kept.
+      // Unless the range is a power of two, the bit field holds more than the range; the value is kept.
       {5, kNoCount, false, 3, 7},
   };
   for (const RangeCase& test : cases) {
@@ -79,7 +79,7 @@ TEST(PerReadConstrainedWholeNumber, ReadsAFourthOctetOfAThreeOctetRangeAsZeroAnd
   for (const uint32_t range : {65537U, 1U << 24}) {
     Input input({0xDF, 0xFF});
     EXPECT_EQ(PerReadConstrainedWholeNumber(input.reader, range), 0u);
-    EXPECT_EQ(input.Bit(), 8u);  // it aligns, and takes no octet
+    EXPECT_EQ(input.Bit(), 8u);  // aligns, and consumes no octet
     EXPECT_EQ(PerReadBits(input.reader, 8), 0xFFu);
   }
 }
@@ -108,7 +108,7 @@ TEST(PerReadConstrainedWholeNumber, CutShortIsZeroAtTheEnd) {
 struct NumberCase {
   Octets octets;
   int64_t value;
-  uint64_t bit;  // where the reader stands afterwards
+  uint64_t bit;  // the position of the reader afterwards
 };
 
 template <class Read>
@@ -211,7 +211,7 @@ TEST(PerReadOctets, AlignsAndReadsToTheVeryEnd) {
   EXPECT_TRUE(input.AtExactEnd());
 }
 
-// Short strings are copied in ways that depend on their size.
+// The copy of short strings depends on their size.
 TEST(PerReadOctets, CopiesEveryOctetOfAnyCount) {
   for (uint32_t count = 1; count <= 64; ++count) {
     Octets octets;
@@ -406,7 +406,7 @@ TEST(PerReadPrintableString, MapsEveryIndex) {
   Octets octets(256);
   for (uint32_t i = 0; i < 256; ++i) octets[i] = static_cast<uint8_t>(i);
   Input input(octets);
-  // A to S, at 22 to 40, are spaces; so is all that stands behind z.
+  // A to S, at 22 to 40, are spaces, and so is everything after z.
   const std::string expected = " '()+,-./0123456789:=?" + std::string(19, ' ') + "TUVWXYZabcdefghijklmnopqrstuvwxyz" +
                                std::string(256 - 74, ' ');
   EXPECT_EQ(TakenText(PerReadPrintableString(input.reader, 256), 256), expected);
@@ -451,7 +451,7 @@ TEST(PerReadSubidentifier, ReadsSevenBitsAnOctetAndKeepsTheLow32) {
                  {{0x8F, 0xFF, 0xFF, 0xFF, 0x7F}, 0xFFFFFFFF, 40},
                  {{0x90, 0x80, 0x80, 0x80, 0x05}, 5, 40},
                  {{0x81, 0x81, 0x81, 0x81, 0x81, 0x81, 0x01, 0xFF}, 0x10204081, 56},
-                 // Without a last octet: the end reads as one of zero.
+                 // The last octet is missing: the end reads as a zero octet.
                  {{0x81}, 128, 8},
                  {{0x81, 0x82}, (128 + 2) << 7, 16},
                  {{}, 0, 0}},
@@ -461,7 +461,7 @@ TEST(PerReadSubidentifier, ReadsSevenBitsAnOctetAndKeepsTheLow32) {
 struct ObjectIdentifierCase {
   Octets octets;
   uint32_t count;
-  Numbers arcs;  // kNull: there is no block
+  Numbers arcs;  // kNull if there is no block
   uint64_t bit;
 };
 
@@ -474,14 +474,14 @@ TEST(PerReadObjectIdentifier, ReadsItsArcs) {
       {{0x01, 0x78, 0xFF}, 2, {3, 0}, 16},
       {{0x06, 0x00, 0x08, 0x91, 0x4A, 0x00, 0x04}, 6, {0, 0, 8, 2250, 0, 4}, 56},
       {{0x00, 0xFF}, 0, kNull, 8},
-      // Missing contents: what is there has been counted.
+      // Missing contents: the octets that exist have been counted.
       {{0x05, 0x2B, 0x06}, 3, kNull, 24},
       {{0x05}, 1, kNull, 8},
       // No final octet in the contents: one arc, read on to the octet that ends it.
       {{0x02, 0x81, 0x82, 0x03, 0xFF}, 1, {16643 / 40}, 32},
       {{0x02, 0x81, 0x82}, 1, {(130 << 7) / 40}, 24},
       {{0x01, 0x81}, 1, {3}, 16},
-      // The last subidentifier lacks its final octet: it is not counted.
+      // The last subidentifier has no final octet and is not counted.
       {{0x02, 0x2B, 0x86}, 2, {1, 3}, 16},
   };
   for (const ObjectIdentifierCase& test : cases) {
@@ -584,7 +584,7 @@ TEST(PerAllocate, AllowanceGrowsWithTheMessage) {
   EXPECT_EQ(reader.allowance, kLeastMessageMemory + 100 * kMessageMemoryForEachOctet);
   PerReaderInit(reader, octets.data(), 0xFFFF);
   EXPECT_EQ(reader.allowance, kMaximumMessageMemory);
-  // Octets that are claimed and not there give no room.
+  // Octets that are claimed but missing allow no blocks.
   PerReaderInit(reader, octets.data(), 0xFFFF, 100);
   EXPECT_EQ(reader.allowance, kLeastMessageMemory + 100 * kMessageMemoryForEachOctet);
 }

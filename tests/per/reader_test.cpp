@@ -52,7 +52,7 @@ TEST(PerReadBits, ReadsEveryWidthFromEveryOffset) {
   for (uint32_t offset = 0; offset < 8; ++offset) {
     for (uint32_t width = 0; width <= 32; ++width) {
       SCOPED_TRACE(testing::Message() << "offset " << offset << ", width " << width);
-      // Cut off behind the last octet that the value touches, so that one more would be an over-read.
+      // The message ends after the last octet of the value, so that reading one more is an over-read.
       std::vector<uint8_t> octets = BitWriter().Bits(kPattern, 64);
       octets.resize(std::max(1u, (offset + width + 7) / 8));
       Input input(octets);
@@ -98,7 +98,7 @@ void ExpectBitsOfKnownCounts(std::integer_sequence<uint32_t, kCountsLessOne...>)
   }
 }
 
-// The fewer bits the compiler knows there are, the fewer octets are loaded for them.
+// The fewer the bits known at compile time, the fewer octets are loaded.
 TEST(PerReadBits, ReadsEveryKnownCountFromEveryOffset) {
   ExpectBitsOfKnownCounts(std::make_integer_sequence<uint32_t, 32>());
 }
@@ -154,7 +154,7 @@ TEST(PerReadBit, ReadsBitByBit) {
   EXPECT_EQ(PerReadBit(input.reader), 0u);
 }
 
-// Every count, from every offset, in messages that hold all of the flags, some or none.
+// Every count from every offset, in messages with all, some or none of the flags.
 TEST(PerReadFlags, AreThoseThatAreReadOneByOne) {
   const std::vector<uint8_t> octets = {0x9C, 0x3A, 0x5F, 0x17, 0xE2, 0xB4};
   for (size_t size = 1; size <= octets.size(); ++size) {
@@ -266,7 +266,7 @@ TEST(PerPeekOctet, LooksAheadWithoutMoving) {
   EXPECT_EQ(input.Bit(), 8u);
 }
 
-// The element of a frame may claim more octets than the caller's buffer holds.
+// An element of a frame may claim more octets than the caller's buffer holds.
 TEST(PerReader, ReadsZerosBehindTheCallersOctets) {
   Input input({0xAB, 0xCD});
   input.reader.end = PerAdvance(input.reader.position, 8);

@@ -1,4 +1,4 @@
-// What a message has read again, and what becomes of one that has too much.
+// How much a message reads again, and what happens past the limit.
 #include <gtest/gtest.h>
 
 #include "per/bit_writer.h"
@@ -53,7 +53,7 @@ TEST(Rereading, OfARefusedValueReachesNoFurtherThanItRead) {
   }
   EXPECT_EQ(input.reader.reread, 0U);
   EXPECT_EQ(input.Bit(), 2400U);
-  // Read to the last octet, and not moved there, all of it counts.
+  // Read to the last octet rather than moved there, everything counts.
   OpenTypeBegin(input.reader);
   while (!PerAtEnd(input.reader)) PerReadBits(input.reader, 8);
   OpenTypeEnd(input.reader);
@@ -102,7 +102,7 @@ TEST(Rereading, CountsTheOctetsOfAnObjectIdentifierThatAreOnlyLookedAt) {
 
 class TooMuchRereading : public testing::Test {
  protected:
-  // Open types without octets, with as many octets read behind each.
+  // Empty open types, with as many octets read after each.
   static constexpr uint32_t kOctets = 4096;
   static constexpr uint32_t kTimes = kMaximumRereading / kOctets;
 

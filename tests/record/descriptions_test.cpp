@@ -1,5 +1,5 @@
-// Holds each description against its record. The members that the description of a SEQUENCE tells follow one another
-// without gap or overlap and fill the record; a CHOICE tells each member of its union, and fills its record too.
+// Compares each description with its record. The members that the description of a SEQUENCE reports are contiguous and
+// fill the record; a CHOICE reports each member of its union, and fills its record too.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -38,7 +38,7 @@ template <class T>
 constexpr bool kIsString = std::is_same_v<T, OctetStringValue> || std::is_same_v<T, BMPStringValue> ||
                            std::is_same_v<T, ObjectIdentifierValue>;
 
-// What is wrong with the description of one record.
+// The faults in the description of one record.
 class Faults {
  public:
   template <class... Text>
@@ -48,7 +48,7 @@ class Faults {
   void AddIfToldTwice(const std::string& name) {
     if (!told_.insert(name).second) Add(name, " is told twice");
   }
-  // That a value up to `high` fits into an unsigned member, and one from `low` on into a signed one.
+  // Checks that a value up to `high` fits in an unsigned member, and one from `low` on in a signed one.
   template <class T>
   void AddIfWider(const std::string& name, int64_t low, int64_t high) {
     using Limits = std::numeric_limits<T>;
@@ -61,14 +61,14 @@ class Faults {
   std::set<std::string> told_;
 };
 
-// The octets of a record that a description tells.
+// The octets of a record that a description reports.
 class Tiles {
  public:
   template <class Record>
   Tiles(const Record& record, Faults& faults)
       : begin_(reinterpret_cast<const char*>(&record)), octets_(sizeof record), faults_(faults) {}
 
-  // `part` says which part of what has the name is laid: "the flag of ", or "" for itself.
+  // `part` names the part of the member: "the flag of ", or "" for the member itself.
   void Lay(const char* part, const char* name, const void* address, size_t octets) {
     Lay(std::string(part) + name, address, octets);
   }
@@ -77,7 +77,7 @@ class Tiles {
     if (!tiles_.empty() && at < tiles_.back().at) faults_.Add(name, " stands before what is told before it");
     tiles_.push_back({name, at, at + static_cast<ptrdiff_t>(octets)});
   }
-  // That they fill the record.
+  // Checks that the tiles fill the record.
   void AddUncovered() {
     std::stable_sort(tiles_.begin(), tiles_.end(), [](const Tile& a, const Tile& b) { return a.at < b.at; });
     ptrdiff_t end = 0;
@@ -210,7 +210,7 @@ class SequenceCheck {
   bool isExtended_ = false;
 };
 
-// Follows the description of a CHOICE, and keeps where its members stand.
+// Follows the description of a CHOICE, and records the positions of its members.
 class ChoiceCheck {
  public:
   explicit ChoiceCheck(Faults& faults) : faults_(faults) {}
@@ -239,7 +239,7 @@ class ChoiceCheck {
     extension_ = flag.Address();
   }
 
-  // `alternatives` are the members of the record's union, if it has one. Some are no alternatives.
+  // `alternatives` are the members of the record's union, if it has one. Some members are not alternatives.
   template <class Record>
   void AddUncovered(const Record& record, NameList alternatives) {
     if (roots_ == 0 || roots_ > 256) faults_.Add(std::to_string(roots_), " root alternatives");
@@ -291,7 +291,7 @@ struct IdentifierCheck : EmptyVisitor {
   void EnumeratedValue(uint32_t, const char* name) { identifier = name; }
 };
 
-// A decoder reads the flags of a SEQUENCE at once, and notes which of its components are BOOLEANs in a word.
+// A decoder reads all flags of a SEQUENCE together, and keeps which components are BOOLEANs in one word.
 void AddIfTooManyFlags(const FlagCount& count, Faults& faults) {
   if (count.extensionBits + count.optionals > 32) faults.Add("there are more than 32 flags before the root");
   if (count.additions > 32) faults.Add("there are more than 32 known additions");
@@ -372,9 +372,9 @@ NameList FaultsOf(const NameList& alternatives) {
 
 using FaultsByRecord = std::map<std::string, NameList>;
 
-// What descriptions do not tell, or not in its place.
+// Members that descriptions omit or report out of place.
 FaultsByRecord KnownFaults() {
-  // The room of the private form, and which form is filled, which is always the other.
+  // The space of the private form, and the form in use, which is always the other one.
   const NameList privateForm = {"1 octets before nonStandardData are not told",
                                 "50 octets before the extension bit are not told"};
   const std::string misplaced = "the extension bit stands before what is told before it";
@@ -383,23 +383,23 @@ FaultsByRecord KnownFaults() {
       {"h225::AdmissionReject", privateForm},
       {"h225::AdmissionRequest", {privateForm[0], "50 octets before the flag of callServices are not told"}},
       {"h225::DisengageRequest", privateForm},
-      // Information elements, which follow no ASN.1.
+      // Information elements, which have no ASN.1.
       {"h225::Q931MessageRecord", {"there is no description"}},
-      // The extension bit stands first, but the marker is the last line.
+      // The extension bit comes first, but the marker is the last line.
       {"h225::RegistrationRejectReason::InvalidTerminalAliases", {misplaced}},
       // reserved
       {"h235::ClearToken", {"87 octets at the end are not told"}},
-      // messageClass, which is that of the message around; the private message is told where its data was.
+      // messageClass repeats that of the enclosing message; the private message is reported in place of its data.
       {"h245::H245NonStandardMessageRecord", {misplaced, "1 octets before privateMessage are not told"}},
-      // The octets stand before their length.
+      // The octets come before their length.
       {"h245::NonStandardParameter", {"data stands before what is told before it"}},
   };
-  // The room that its union keeps is more than the alternatives take where pointers are small.
+  // With small pointers, the space reserved in its union exceeds the alternatives.
   if (sizeof(void*) == 4) known["h225::CryptoH323Token"] = {"36 octets before the extension bit are not told"};
   return known;
 }
 
-// Every record, and the members of its union.
+// A record and the members of its union.
 struct ListedRecord {
   const char* name;
   NameList (*faultsOf)(const NameList& alternatives);

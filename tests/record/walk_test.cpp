@@ -15,7 +15,7 @@ struct Names {
   static constexpr const char* kAlternatives[] = {"first", "second", "third"};
 };
 
-// What a walk passes of a CHOICE of NULLs.
+// Receives the walk of a CHOICE of NULLs.
 struct Listener {
   std::string heard;
 

@@ -1,4 +1,4 @@
-// The six exports as a program sees them that knows the library by its header and its record layout.
+// The six exports as used by a program that knows the library only by its header and record layout.
 #include <gtest/gtest.h>
 
 #include <cstring>
@@ -12,14 +12,14 @@ namespace {
 
 using Octets = std::vector<uint8_t>;
 
-// The 32-bit library's records have fixed layouts, which programs in other languages rely on.
+// The 32-bit library has fixed record layouts, on which programs in other languages rely.
 constexpr bool kLayoutIsFixed = sizeof(void*) == 4;
 constexpr size_t kRasSize = 910;
 constexpr size_t kQ931Size = 1750;
 constexpr size_t kH245Size = 1861;
 constexpr uint8_t kDirt = 0xC7;
 
-// Memory of a fixed size for a record, dirty, and more behind it. Elsewhere records are longer.
+// Dirty memory of a fixed size for a record, with a guard after it. Records are longer on other targets.
 template <class Record>
 class Memory {
  public:

@@ -1,4 +1,4 @@
-// Text of values that no message leads to as well.
+// Text of values, including values that no message produces.
 #include "kelvra/text.h"
 
 #include <gtest/gtest.h>
@@ -125,8 +125,8 @@ TEST(TextTest, AddressesOfAnotherLengthAreEmpty) {
   }
 }
 
-// An extension alternative of `routing` replaces the tag of the address: as an ipAddress or ip6Address it would be read
-// from where it is not.
+// An extension alternative of `routing` replaces the tag of the address: the text must not read it as an ipAddress or
+// ip6Address.
 TEST(TextTest, SourceRouteOfUnknownRoutingKeepsItsAddress) {
   const auto v4 = Block<uint8_t>({192, 0, 2, 1});
   for (uint8_t tag = 0; tag < 8; ++tag) {

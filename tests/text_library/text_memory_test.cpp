@@ -1,5 +1,4 @@
-// kelvra_text where memory is short, and in several threads. The library takes its memory by the operator new of this
-// program.
+// kelvra_text when memory runs out, and in several threads. The library allocates with this program's operator new.
 #include <gtest/gtest.h>
 #include <kelvra/kelvra_text.h>
 
@@ -58,18 +57,18 @@ Reply Take(int status, char* text) {
   return reply;
 }
 
-// Runs with the n-th allocation failing, for each n, until none fails; returns how many failed. A run that fails
-// returns KELVRA_TEXT_OUT_OF_MEMORY and keeps no more blocks than are given.
+// Runs with the n-th allocation failing, for each n, until none fails; returns the number of failures. A failed run
+// returns KELVRA_TEXT_OUT_OF_MEMORY and leaves at most `kept` blocks.
 template <class Run>
 long FailEachAllocation(long kept, Run run) {
-  run();  // What the thread keeps is there now.
+  run();  // What the thread keeps now exists.
   long n = 0;
   for (int status = KELVRA_TEXT_OUT_OF_MEMORY; status != KELVRA_TEXT_OK; ++n) {
     const long before = held;
     until_failure = n;
     status = run();
     until_failure = -1;
-    run();  // which gets what the thread keeps again, where it was released
+    run();  // recreates what the thread keeps if it was released
     EXPECT_LE(held, before + kept) << n;
     EXPECT_TRUE(status == KELVRA_TEXT_OK || status == KELVRA_TEXT_OUT_OF_MEMORY) << status;
     if (testing::Test::HasFailure()) break;
@@ -92,7 +91,7 @@ std::vector<Sample> Samples() {
 
 TEST(TextMemory, DecodeReportsEachFailedAllocation) {
   for (const Sample& sample : Samples()) {
-    // The decoders are compiled without exceptions, so one that passes through them leaves blocks of a fault's path.
+    // The decoders are compiled without exceptions, so one that passes through them leaks the blocks of a fault's path.
     const long kept = sample.isWhole ? 0 : 3;
     const long failed = FailEachAllocation(kept, [&sample] {
       char* json = nullptr;
@@ -112,7 +111,8 @@ TEST(TextMemory, CaptureReportsEachFailedAllocation) {
     char* text = nullptr;
     int status = kelvra_text_open_capture(kSample.c_str(), &capture, &text);
     kelvra_text_free(text);
-    if (status == KELVRA_TEXT_UNREADABLE) return int{KELVRA_TEXT_OUT_OF_MEMORY};  // as the file's own library sees it
+    if (status == KELVRA_TEXT_UNREADABLE)
+      return int{KELVRA_TEXT_OUT_OF_MEMORY};  // a failure inside the C++ library looks like this
     int messages = 0;
     bool failed_once = status == KELVRA_TEXT_OUT_OF_MEMORY;
     while (status == KELVRA_TEXT_OK) {
@@ -120,7 +120,7 @@ TEST(TextMemory, CaptureReportsEachFailedAllocation) {
       kelvra_text_free(text);
       messages += status == KELVRA_TEXT_OK ? 1 : 0;
       if (status != KELVRA_TEXT_OUT_OF_MEMORY || failed_once) continue;
-      // A message for whose text there was no memory is not lost.
+      // If there is no memory for its text, the message is not lost.
       failed_once = true;
       until_failure = -1;
       status = KELVRA_TEXT_OK;

@@ -19,7 +19,7 @@ def run(program, *arguments, text=""):
 
 
 def messages(family):
-    """The carried messages, and each cut short and with an octet too many."""
+    """The carried messages; each also cut short and with an extra octet."""
     with open(TOP / "tests" / "data" / f"{family}.jsonl", encoding="utf-8") as lines:
         for line in lines:
             message = json.loads(line)["hex"]
@@ -68,7 +68,7 @@ class Captures(unittest.TestCase):
             status, lines, errors = run(PROGRAM, "capture", file, *ports)
             viewer_status, viewer_lines, viewer_errors = run(VIEWER, "--format", "json", *options, file)
         self.assertEqual(lines, viewer_lines)
-        # Status 1 of the viewer is about messages and losses.
+        # Status 1 of the viewer reports incomplete messages and losses.
         self.assertEqual(status, 2 if viewer_status == 2 else 0, errors)
         said = [line.removeprefix("kelvra-dump: ") for line in viewer_errors.splitlines() if "no message found" not in line]
         heard = [line.removeprefix("loss: ").removeprefix("-3 ") for line in errors.splitlines()]
@@ -94,12 +94,12 @@ class Captures(unittest.TestCase):
     def test_a_message_that_waits_for_its_end_is_a_loss_at_the_end(self):
         octets = SAMPLE.read_bytes()
         start = octets.rindex(b"\x03\x00\x00")
-        octets = octets[:start + 2] + b"\x7f" + octets[start + 3:]  # as many octets never come
+        octets = octets[:start + 2] + b"\x7f" + octets[start + 3:]  # these octets never arrive
         _, errors = self.assert_says_what_the_viewer_says(octets)
         self.assertIn("loss: ", errors)
 
     def test_further_ports(self):
-        # 1719 is called 1819, which nothing but the option tells.
+        # 1719 becomes 1819, which only the option reveals.
         octets = SAMPLE.read_bytes().replace((1719).to_bytes(2, "big"), (1819).to_bytes(2, "big"))
         without, _ = self.assert_says_what_the_viewer_says(octets)
         lines, _ = self.assert_says_what_the_viewer_says(octets, ["ras:1819"], ["--ras-port", "1819"])

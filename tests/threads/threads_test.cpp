@@ -1,5 +1,5 @@
-// Sixteen threads that decode and release different messages at the same time, each into records of its
-// own. Built with ThreadSanitizer too, which reports what they share.
+// Sixteen threads decode and release different messages at the same time, each into its own records. Also built with
+// ThreadSanitizer, which reports shared data.
 #include <gtest/gtest.h>
 
 #include <thread>
@@ -30,7 +30,7 @@ TEST(Threads, SixteenDecodeAsEachDoesAlone) {
   std::vector<std::thread> threads;
   for (size_t thread = 0; thread < kThreads; ++thread) {
     threads.emplace_back([&, thread] {
-      // Each goes through all of them from a place of its own, every second one backwards.
+      // Each starts at a different message, and every second one goes backwards.
       const size_t count = messages.size();
       for (size_t i = 0; i < count; ++i) {
         const size_t step = thread % 2 == 0 ? i : count - 1 - i;

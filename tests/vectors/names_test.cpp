@@ -1,4 +1,4 @@
-// The names and texts of names.h, alternative.h and text.h, compared with the carried messages.
+// Compares the names and texts of names.h, alternative.h and text.h with the carried messages.
 #include <gtest/gtest.h>
 
 #include <cstdint>
@@ -27,7 +27,7 @@ concept HasText = requires(const T& record) {
 
 using NameTable = std::map<std::pair<std::type_index, uint32_t>, std::string>;
 
-// What the ASN.1 calls each enumerator.
+// The ASN.1 name of each enumerator.
 const NameTable& Names() {
   using namespace kelvra;
   static const NameTable names = {
@@ -38,7 +38,7 @@ const NameTable& Names() {
   return names;
 }
 
-// Goes through a record and the JSON that is expected of it at once.
+// Follows a record and its expected JSON in parallel.
 class NameCheck : public kelvra::EmptyVisitor {
  public:
   explicit NameCheck(std::set<NameTable::key_type>& seen) : seen_(seen) {}
@@ -169,7 +169,7 @@ struct TextVisitor : kelvra::EmptyVisitor {
   void Add(const std::string& text) { octets += text.size(); }
 };
 
-// Every message, and all that is left of it when it is cut short, before and after the release.
+// Every message, and every remainder of it when cut short, before and after the release.
 template <class Family>
 size_t TextOfCutMessages(const std::string& file) {
   TextVisitor visitor;

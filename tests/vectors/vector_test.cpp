@@ -1,6 +1,5 @@
-// Messages with the values that they carry: each line of tests/data/*.jsonl holds the octets (`hex`)
-// and the JSON of the record they decode into (`expected`). The record that the export fills and what the viewer reads
-// of the message must both hold it.
+// Messages with their values: each line of tests/data/*.jsonl has the octets (`hex`) and the JSON of the decoded record
+// (`expected`). The record that the export fills and what the viewer reads must both match it.
 #include <gtest/gtest.h>
 
 #include <cstdint>
@@ -14,7 +13,7 @@
 
 namespace {
 
-// Names every place where the two differ; members may stand in any order.
+// Names each difference; members may be in any order.
 void Compare(const Json& expected, const Json& actual, const std::string& path, std::string& differences) {
   if (expected.is_object() && actual.is_object()) {
     for (const auto& [name, value] : expected.items()) {
@@ -94,8 +93,8 @@ TEST(Vectors, H245MessagesHoldTheirValues) { ExpectH245("h245.jsonl"); }
 
 TEST(Vectors, PrivateH245MessagesHoldTheirValues) { ExpectH245("private-h245.jsonl"); }
 
-// A number of 256 values is aligned, one of 255 is not: these stand inside an octet, and are not small.
-// Altered by hand, some of the messages end early, which their record does not show.
+// A number with 256 values is aligned, one with 255 is not: these messages place such numbers inside an octet, with
+// large values. Some were edited by hand and end early, which their record does not show.
 TEST(Vectors, NumbersThatFillAnOctetAreAligned) { ExpectH245("aligned-h245.jsonl", false); }
 
 }  // namespace

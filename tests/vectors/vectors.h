@@ -1,4 +1,4 @@
-// The messages of tests/data with the values that they carry.
+// The messages of tests/data with their values.
 #pragma once
 
 #include <algorithm>
@@ -32,8 +32,8 @@ inline std::vector<Vector> LoadVectors(const std::string& file) {
   return vectors;
 }
 
-// A heap block of exactly its size, so that a sanitizer sees a read past it: the first octets of a message and then
-// spare ones.
+// A heap block of exactly the right size, so that a sanitizer sees a read past it: the start of a message, then spare
+// octets.
 class ExactBuffer {
  public:
   ExactBuffer(const std::vector<uint8_t>& octets, size_t spare) : ExactBuffer(octets, octets.size(), spare) {}

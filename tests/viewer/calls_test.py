@@ -23,7 +23,7 @@ def frames(capture, *arguments):
 
 
 def calls(*arguments):
-    """The numbers of the calls that the table shows."""
+    """The numbers of the calls in the table."""
     lines = run("--calls", *arguments, FAILED).stdout.decode().split("\n\n")[0].splitlines()[1:]
     return [int(line.split()[0]) for line in lines]
 
@@ -69,7 +69,7 @@ class Filters(unittest.TestCase):
         self.assertEqual(frames(FAILED, "--call", "ca06"), kept)
         self.assertEqual(frames(CALL, "--call", "202122"), frames(CALL, "--call", "1"))
         self.assertEqual(frames(CALL, "--call", "20212"), [])
-        # All but discovery, registration and unregistration, with the answers that name no call.
+        # Everything except discovery, registration and unregistration, including the answers that name no call.
         self.assertEqual(frames(CALL, "--call", "1"), frames(CALL)[4:-2])
 
     def test_party(self):

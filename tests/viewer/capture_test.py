@@ -12,7 +12,7 @@ from viewer_test import (CHANNEL_ACK, DATA, GATEKEEPER_CONFIRM, RELEASE_COMPLETE
 
 RAS = bytes.fromhex(GATEKEEPER_CONFIRM)
 CALL = bytes.fromhex(RELEASE_COMPLETE)
-END = 2 ** 32  # where sequence numbers wrap
+END = 2 ** 32  # sequence numbers wrap here
 
 
 def answer(sequence, payload):
@@ -98,9 +98,9 @@ class Captures(unittest.TestCase):
         begin, end = fragment(7, datagram[:16], more), fragment(7, datagram[16:], 2)
         others = [fragment(1000 + n, datagram[:16], more) for n in range(most)]
         check([begin, *others[1:], end], ["gatekeeperConfirm"], most - 1)
-        check([begin, *others, end], [], most + 2)  # the oldest was given up, and its end then waits alone
+        check([begin, *others, end], [], most + 2)  # the oldest was dropped, so its end waits alone
         check([begin, end] * (most + 1), ["gatekeeperConfirm"] * (most + 1), 0)
-        # What holds no RAS is not missed: TCP, and datagrams of which the first fragment tells other ports.
+        # What is not RAS is not missed: TCP, and datagrams whose first fragment has other ports.
         other_port, tcp_begin = fragment(8, udp(RAS, 5004)[:16], more), fragment(8, CALL[:16], more, 6)
         check([begin, tcp_begin, other_port, end], ["gatekeeperConfirm"], 0)
         no_begin, tcp_at_ras_port = fragment(8, datagram[16:], 2), fragment(9, datagram[:8], more, 6)
@@ -316,13 +316,13 @@ class Captures(unittest.TestCase):
         ras = ethernet(ipv4(17, udp(RAS)))
 
         def order(count, size):
-            """Whether so many segments after a gap bring it to its end before a RAS message comes."""
+            """True if the gap is skipped after this many segments, before a RAS message arrives."""
             waiting = [ethernet(ipv4(6, tcp(200 + i * size, (CALL + bytes(size))[:size]))) for i in range(count)]
             frames = [ethernet(ipv4(6, tcp(0, b"", SYN))), *waiting, ras]
             return objects(run("--format", "json", data=capture(frames)))[0]["family"] == "q931"
         self.assertEqual([order(n, 60) for n in (256, 257)], [False, True])
         self.assertEqual([order(n, 32_000) for n in (4, 5)], [False, True])
-        # What waited before and was delivered does not count.
+        # Segments that waited and were delivered do not count.
         swapped = (ethernet(ipv4(6, tcp(at, CALL))) for i in range(2000) for at in (52 + i * 102, 1 + i * 102))
         opening = ethernet(ipv4(6, tcp(0, b"", SYN)))
         self.assertEqual(self.names(capture([opening, *swapped])), ["releaseComplete"] * 4000)
@@ -337,7 +337,7 @@ class Captures(unittest.TestCase):
         for first, second in ((1, 0x40000000), (0x40000000, 1)):
             data = segments((first, CALL[:20]), (second, CALL))
             self.assertEqual(self.names(data, status=1), ["releaseComplete"])
-        # A reset may have any number and brings nothing.
+        # A reset may have any sequence number and carries nothing.
         data = segments((1, CALL[:20]), (0x40000000, b"", 0x04), (21, CALL[20:]))
         self.assertEqual(self.names(data), ["releaseComplete"])
 
@@ -357,7 +357,7 @@ class Captures(unittest.TestCase):
     def test_fragments_of_two_senders_are_kept_apart(self):
         datagram = udp(RAS)
         begin, end = ethernet(ipv4(17, datagram[:16], 7, 0x2000)), ethernet(ipv4(17, datagram[16:], 7, 2))
-        for at in (29, 33):  # the last octets of the source's and of the destination's address
+        for at in (29, 33):  # the last octets of the source and destination addresses
             other = end[:at] + b"\x63" + end[at + 1:]
             self.assertEqual(self.names(capture([begin, other]), status=1), [])
 
@@ -388,7 +388,7 @@ class Captures(unittest.TestCase):
             (printed,) = objects(run("--format", "json", data=capture([frame])))
             self.assertEqual(printed["octets"], len(RAS))
         unknown = bytearray(datagram)
-        unknown[16:18] = b"\0\0"  # the sender's hardware fills the length in
+        unknown[16:18] = b"\0\0"  # the sender's hardware fills in the length
         self.assertEqual(self.names(capture([bytes(unknown)])), ["gatekeeperConfirm"])
 
     def test_tags_of_several_vlans(self):
@@ -485,10 +485,10 @@ class PcapngBlocks(unittest.TestCase):
 
 
 class Bounds(unittest.TestCase):
-    """What is given up first when there is too much: of a message that began before, its end is then missed."""
+    """What is dropped first at a limit: if the start of a message was dropped, its end is lost."""
 
     def is_kept(self, others):
-        """Whether the connection of half a message still stands after the other frames."""
+        """True if the connection with half a message survives the other frames."""
         begin, rest = ethernet(ipv4(6, tcp(0, CALL[:20], SYN))), ethernet(ipv4(6, tcp(21, CALL[20:])))
         result = run("--format", "json", "--call-port", "5003", data=capture([begin, *others, rest]))
         return any(o["name"] == "releaseComplete" for o in objects(result))
@@ -510,7 +510,7 @@ class Bounds(unittest.TestCase):
         much = b"\x03\0\xff\xff" + bytes(60_000)
         self.assertTrue(self.is_kept(self.other(n, much) for n in range(1100)))
         self.assertFalse(self.is_kept(self.other(n, much) for n in range(1130)))
-        # Of a connection that was opened again, what it held before does not count.
+        # After a connection is reopened, its earlier octets do not count.
         self.assertTrue(self.is_kept(self.other(1, much, SYN, n * 100_000) for n in range(1200)))
 
 

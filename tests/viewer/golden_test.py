@@ -16,7 +16,7 @@ from viewer_test import EMULATED, TOP, run  # noqa: E402
 
 GOLDEN = os.path.join(os.path.dirname(os.path.abspath(__file__)), "golden")
 SAMPLE = os.path.join(TOP, "samples", "call.pcap")
-# Three hours and a half east of Greenwich, and no summer time.
+# Three and a half hours east of Greenwich, without summer time.
 os.environ["TZ"] = "EAST-3:30"
 
 
@@ -44,7 +44,7 @@ class Golden(unittest.TestCase):
             self.check(f"{prefix}{family}.{kind}", "--as", family, *arguments, "-", data=messages, status=status)
 
     def test_messages(self):
-        # Some of the H.245 messages that are tunnelled are octets at random.
+        # Some of the tunnelled H.245 messages are random octets.
         for family, status in (("ras", 0), ("q931", 1), ("h245", 0)):
             self.check_family(family, "", {"summary": [], "tree": ["--format", "tree"]}, status)
 

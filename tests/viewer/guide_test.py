@@ -47,7 +47,7 @@ class Manual(unittest.TestCase):
             self.assertIn(part, result.stdout)
 
     def complete(self, *words):
-        """What bash offers for the last word."""
+        """The completions that bash offers for the last word."""
         script = self.completion.decode() + ('COMP_WORDS=("$@"); COMP_CWORD=$(($# - 1)); _kelvra_dump; '
                                              'printf "%s\\n" "${COMPREPLY[@]}"')
         result = printed_by("bash", "-c", script, "bash", *words)

@@ -17,7 +17,7 @@ from viewer_test import (COMMAND, DATA, GATEKEEPER_CONFIRM, RELEASE_COMPLETE, SA
 
 RAS = bytes.fromhex(GATEKEEPER_CONFIRM)
 CALL = bytes.fromhex(RELEASE_COMPLETE)
-ENDED = (0, 1, 2)  # all decoded, some not, input that cannot be read on: anything else is a crash
+ENDED = (0, 1, 2)  # all complete, some not, unreadable input; anything else is a crash
 MOST_SECONDS = 20  # of processor time
 MOST_KILOBYTES = 200_000
 PCAP_HEADER, RECORD_HEADER = 24, 16
@@ -86,7 +86,7 @@ class HostileCaptures(unittest.TestCase):
     def test_wrong_lengths(self):
         frame = ethernet(ipv4(17, udp(RAS)))
         segment = ethernet(ipv4(6, tcp(1, CALL)))
-        record = PCAP_HEADER + 8  # the captured and the original length of the first record
+        record = PCAP_HEADER + 8  # the captured and original lengths of the first record
         ip_length = PCAP_HEADER + RECORD_HEADER + 14 + 2
         for what, at, form, values in (("captured", record, "<I", (0, 1, 13, 14, 33, 0xFFFF, 0xFFFFFFFF)),
                                        ("original", record + 4, "<I", (0, 1, 0xFFFFFFFF)),
@@ -127,7 +127,7 @@ class HostileCaptures(unittest.TestCase):
         self.assert_bounded(frames)
 
     def test_endless_gap(self):
-        # Each segment lies behind the one before with an octet missing between.
+        # Each segment starts one octet after the end of the previous one.
         piece = b"\x03\0\xff\xff" + bytes(996)
         frames = [ethernet(ipv4(6, tcp(1 + i * 1001, piece))) for i in range(20_000)]
         self.assertIn(b"missing", self.assert_bounded([ethernet(ipv4(6, tcp(0, b"", SYN))), *frames]))

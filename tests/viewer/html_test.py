@@ -19,7 +19,7 @@ with open(sys.argv[1], "rb") as program:
 
 
 def hostile_capture():
-    """The failed calls, one alias of each replaced by octets of HTML, as long as the alias."""
+    """The failed calls, with one alias of each replaced by HTML of the same length."""
     with open(FAILED, "rb") as capture:
         data = capture.read()
     alias, markup = "Alice Weber".encode("utf-16-be"), "<b>x'\"&</b>".encode("utf-16-be")
@@ -81,7 +81,7 @@ class Page(unittest.TestCase):
         (tree,) = self.browser.texts(f"{call} details[open] pre")
         self.assertIn("frame 410", tree)
         self.assertIn("destCallSignalAddress", tree)
-        self.assertRegex(tree, r"03 00 0[0-9A-F] [0-9A-F]{2}")  # the octets begin with the TPKT header
+        self.assertRegex(tree, r"03 00 0[0-9A-F] [0-9A-F]{2}")  # the octets start at the TPKT header
         self.assertRegex(self.browser.texts(f"{call} details[open] summary")[0], "Setup .*! octet")
         self.browser.click(f"{call} .open")
         self.assertEqual(self.browser.texts(f"{call} svg"), [""])

@@ -1,4 +1,4 @@
-// What captures tell a sink besides messages.
+// What captures report to a sink in addition to messages.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -123,7 +123,7 @@ TEST_F(InputEvents, ResetThatAnswersAnOpeningIsARefusal) {
   const Events refused{"2 refused 192.0.2.1:40000 > 192.0.2.2:1720"};
   EXPECT_EQ(Read({syn, reset}), refused);
   EXPECT_EQ(Read({syn, Segment(kBack, 0, kRst)}), refused);
-  // The opening tried again is still the same one; with another number it is another.
+  // A repeated SYN counts as the same; one with another sequence number is new.
   EXPECT_EQ(Read({syn, reset, syn, reset}), refused);
   EXPECT_EQ(Read({syn, reset, Segment(kForth, 700, kSyn), reset}),
             (Events{refused[0], "4 refused 192.0.2.1:40000 > 192.0.2.2:1720"}));
@@ -134,8 +134,8 @@ TEST_F(InputEvents, ResetOfAConnectionThatStoodIsNoRefusal) {
   const Octets reset = Segment(kBack, 1, kRst);
   EXPECT_EQ(Read({syn, Segment(kBack, 0, kSyn | kAck), reset}), Events{});
   EXPECT_EQ(Read({Segment(kForth, 5, kAck), reset}), Events{});
-  EXPECT_EQ(Read({Segment(kBack, 0, kSyn | kAck), Segment(kForth, 1, kRst)}), Events{});  // the opening was not seen
-  EXPECT_EQ(Read({syn, Segment(kForth, 1, kRst)}), Events{});  // given up by the one who asked
+  EXPECT_EQ(Read({Segment(kBack, 0, kSyn | kAck), Segment(kForth, 1, kRst)}), Events{});  // the SYN was not seen
+  EXPECT_EQ(Read({syn, Segment(kForth, 1, kRst)}), Events{});  // abandoned by the side that opened it
   EXPECT_EQ(Read({Segment({1, 40000, 2, 80}, 0, kSyn), Segment({2, 80, 1, 40000}, 0, kRst)}), Events{});
 }
 
@@ -174,10 +174,10 @@ TEST_F(InputEvents, AnnouncedAddressWithoutMessagesIsReported) {
   const Octets other = Segment({1, 40001, 2, 5001}, 1, kAck, {'G', 'E', 'T', ' ', '/'});
   EXPECT_EQ(Read({announcing, other, other}).back(),
             "notice no message was recognised at 192.0.2.2:5001, which was announced for call signalling; segments: 2");
-  EXPECT_EQ(Read({announcing, Segment({1, 40001, 2, 5001}, 1, kAck)}).size(), 1U);  // opened, and nothing said
+  EXPECT_EQ(Read({announcing, Segment({1, 40001, 2, 5001}, 1, kAck)}).size(), 1U);  // opened, but no data
 }
 
-// Addresses from port 5001 on.
+// Addresses with ports from 5001 on.
 std::vector<Announced> Ports(uint16_t count) {
   std::vector<Announced> ports;
   for (uint16_t i = 0; i < count; ++i) {

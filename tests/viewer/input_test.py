@@ -18,11 +18,11 @@ from viewer_test import (COMMAND, EMULATED, GATEKEEPER_CONFIRM, RELEASE_COMPLETE
 
 RAS = bytes.fromhex(GATEKEEPER_CONFIRM)
 CALL = bytes.fromhex(RELEASE_COMPLETE)
-MOST_SECONDS = 30  # for an answer, on a busy machine
+MOST_SECONDS = 30  # for an answer on a busy machine
 
 
 class Conversation:
-    """A viewer to which a program writes and from which it reads line by line."""
+    """A viewer that a program writes to and reads from line by line."""
 
     def __init__(self, *arguments):
         self.viewer = subprocess.Popen([*COMMAND, "--format", "json", *arguments, "-"], stdin=subprocess.PIPE,
@@ -79,7 +79,7 @@ class Pipes(unittest.TestCase):
 
 class Files(unittest.TestCase):
     def run_on(self, *contents, options=("--format", "json")):
-        """The viewer on files of these contents, and their names."""
+        """Runs the viewer on files with these contents; returns the result and their names."""
         with tempfile.TemporaryDirectory() as folder:
             names = [os.path.join(folder, str(n)) for n in range(len(contents))]
             for name, content in zip(names, contents):
@@ -99,7 +99,7 @@ class Files(unittest.TestCase):
 
     def test_a_connection_goes_on_in_the_next_file(self):
         header, *packets = capture_pieces(ethernet(ipv4(6, tcp(*s))) for s in ((1, CALL[:20]), (21, CALL[20:])))
-        at_once = packets[0][:8] + packets[1][8:]  # in the same microsecond
+        at_once = packets[0][:8] + packets[1][8:]  # with the same timestamp
         result, names = self.run_on(header + packets[0], header + at_once)
         self.assertEqual([(o["name"], o["file"], o["frame"]) for o in objects(result)],
                          [("releaseComplete", names[1], 1)])
@@ -149,7 +149,7 @@ class Files(unittest.TestCase):
 
 
 def dump(data, width, line):
-    """Lines made by a function of (offset, octets)."""
+    """Formats octets line by line with a function of (offset, octets)."""
     return "".join(line(at, data[at:at + width]) + "\n" for at in range(0, len(data), width))
 
 
@@ -215,7 +215,7 @@ class HexadecimalText(unittest.TestCase):
         data = bytes.fromhex("0300003308021267") + b"a" * 16 + b"ab cd ef"
         expected = objects(self.read(data.hex()))
         for name, write in DUMPS.items():
-            if "-c 8" not in name:  # whose column of characters may begin as another octet does
+            if "-c 8" not in name:  # its character column may start like another octet
                 with self.subTest(program=name):
                     self.assertEqual(objects(self.read(write(data))), expected)
 

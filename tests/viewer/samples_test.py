@@ -23,7 +23,7 @@ def file_of(path):
 
 
 def checksum_is_right(packet, segment):
-    """Whether the checksums of the IP header, and of the segment with its pseudo header, come to zero."""
+    """True if the checksums of the IP header and of the segment with its pseudo header are zero."""
     pseudo = packet[12:20] + struct.pack(">HH", packet[9], len(segment))
     return failed_calls.checksum(packet[:20]) == 0 and failed_calls.checksum(pseudo + segment) == 0
 

@@ -16,7 +16,7 @@ from viewer_test import GATEKEEPER_CONFIRM, TOP, objects, run, vectors
 with open(os.path.join(TOP, "docs", "kelvra-dump.schema.json"), encoding="utf-8") as file:
     SCHEMA = json.load(file)
 VALIDATOR = jsonschema.Draft202012Validator(SCHEMA)
-# A message is cut at so many places, spread over its length.
+# Each message is cut at this many places, spread over its length.
 CUTS = 5
 
 

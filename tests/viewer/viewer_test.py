@@ -31,7 +31,7 @@ def run(*arguments, data=b"", stdout=subprocess.PIPE):
     at fault fails all the same."""
     def start():
         ended = subprocess.run([*COMMAND, *arguments], input=data, stdout=stdout, stderr=subprocess.PIPE, timeout=120)
-        ended.stderr = ended.stderr.replace(b"\r\n", b"\n")  # as Windows ends its lines
+        ended.stderr = ended.stderr.replace(b"\r\n", b"\n")  # Windows line endings
         return ended
 
     result = start()
@@ -42,7 +42,7 @@ def run(*arguments, data=b"", stdout=subprocess.PIPE):
 
 
 def ended_before_the_viewer(result):
-    """The viewer prints a message or complains before it ends with status 1."""
+    """True if the status is 1 but the viewer printed neither a message nor a complaint."""
     return result.returncode == 1 and not result.stdout and b"kelvra-dump: " not in result.stderr
 
 
@@ -55,7 +55,7 @@ def decode_hex(family, text):
 
 
 def vectors(family):
-    """The carried messages of a file of tests/data."""
+    """The carried messages in a file of tests/data."""
     with open(os.path.join(TOP, "tests", "data", family + ".jsonl"), encoding="utf-8") as lines:
         return [json.loads(line) for line in lines]
 
@@ -87,7 +87,7 @@ def ethernet(packet, vlan=False):
 
 
 def capture_pieces(frames, link_type=1, longest=65535):
-    """What a capture of the frames consists of, one by one: it may be large."""
+    """The pieces of a capture of the frames, one at a time because it may be large."""
     yield struct.pack("<IHHIIII", 0xA1B2C3D4, 2, 4, 0, 0, 65535, link_type)
     for n, f in enumerate(frames):
         yield struct.pack("<IIII", 1700000000, n, len(f[:longest]), len(f)) + f[:longest]
@@ -170,7 +170,7 @@ class SingleMessages(unittest.TestCase):
             result = run("--as", "ras", *arguments, data=data)
             self.assertEqual(result.returncode, 0)
             self.assertRegex(result.stdout, b'RAS +gatekeeperConfirm +seq 1  gk "GK-1"')
-        # A mistake in hexadecimal text is no raw message, and a short raw message of letters is no text.
+        # Faulty hexadecimal text is not a raw message, and a short raw message of letters is not text.
         for text in (GATEKEEPER_CONFIRM[:-1] + "G", "0x" + GATEKEEPER_CONFIRM):
             result = run("--as", "ras", data=text.encode())
             self.assertEqual(result.returncode, 2, text)
@@ -199,7 +199,7 @@ class SingleMessages(unittest.TestCase):
             self.assertTrue(any("versionThreeBoolean" in record for record in records))
 
     def test_longest_inputs(self):
-        # 65,535 octets, among which RAS needs its spare one.
+        # 65,535 octets, including the spare one that RAS needs.
         self.assertEqual([(o["ok"], o["result"]) for o in objects(decode_hex("ras", "00" * 65535))], [(False, None)])
         self.assertEqual([o["result"] for o in objects(decode_hex("h245", "00" * 65535))], [0])
         self.assertEqual(decode_hex("ras", " " * ((1 << 20) + 1)).returncode, 2)
@@ -230,7 +230,7 @@ class SingleMessages(unittest.TestCase):
 
     def test_no_prefix_is_complete_or_shows_what_was_not_read(self):
         def parts(part, whole):
-            """Whether a tree is the beginning of another."""
+            """True if a tree is the start of another."""
             if isinstance(part, dict) and isinstance(whole, dict):
                 return all(name in whole and parts(part[name], whole[name]) for name in part)
             if isinstance(part, list) and isinstance(whole, list):

@@ -7,7 +7,7 @@ import subprocess
 import tempfile
 import urllib.request
 
-ELEMENT = "element-6066-11e4-a52e-4f735466cecf"  # the key under which WebDriver hands out elements
+ELEMENT = "element-6066-11e4-a52e-4f735466cecf"  # WebDriver's key for element references
 FLAGS = ("--headless --no-sandbox --disable-gpu --disable-quic --no-first-run --disable-background-networking "
          "--disable-component-update --disable-sync --window-size=1300,1400").split()
 
@@ -57,7 +57,7 @@ class Browser:
         self.ask("POST", f"/element/{self.find(selector)[0]}/value", {"text": text})
 
     def texts(self, selector):
-        """What a person sees of each."""
+        """The visible text of each element."""
         return [self.ask("GET", f"/element/{element}/text") for element in self.find(selector)]
 
     def run(self, script):
