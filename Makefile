@@ -1,6 +1,6 @@
-# What a person types; CMakePresets.json holds the builds themselves.
+# Shortcuts for people; CMakePresets.json defines the builds.
 
-# A failing program must not hide behind the one it is piped into.
+# A pipe must not hide the failure of its first program.
 SHELL := bash
 .SHELLFLAGS := -euo pipefail -c
 
@@ -16,7 +16,7 @@ all:
 	cmake --preset linux-x64 -DKELVRA_BUILD_TESTS=OFF -DKELVRA_BUILD_BENCH=OFF
 	cmake --build --preset linux-x64 --parallel
 
-# Decodes a recorded call: first one line for each message, then their contents.
+# Decodes a recorded call: one line per message, then all contents.
 demo:
 	scripts/setup.sh demo
 	cmake --preset linux-x64 -DKELVRA_BUILD_TESTS=OFF -DKELVRA_BUILD_BENCH=OFF
@@ -34,18 +34,18 @@ dist:
 	scripts/setup.sh test
 	scripts/dist.sh
 
-# Four hours a family by libFuzzer; scripts/fuzz.sh has other engines and times.
+# Four hours per family with libFuzzer; scripts/fuzz.sh has other engines and times.
 fuzz:
 	scripts/setup.sh test
 	scripts/fuzz.sh
 
-# The table of every record's members, which the tests compare with the headers.
+# The table of all record members, which the tests compare with the headers.
 records:
 	scripts/setup.sh test
 	scripts/records.py write
 
-# Renews the digests of the records that messages with faults decode into, after a change that is meant to show in
-# them, and prints which messages changed.
+# Renews the digests of the records that faulty messages decode into, after an intended change, and prints which
+# messages changed.
 digests:
 	scripts/setup.sh test
 	for target in linux-x86 linux-x64; do \
@@ -62,14 +62,14 @@ lint:
 	scripts/setup.sh lint
 	scripts/lint.sh
 
-# Times the library against its floor; ARGUMENTS go to the program, as --benchmark_filter=setup.
+# Times the library against its floor; ARGUMENTS go to the program, such as --benchmark_filter=setup.
 bench:
 	scripts/setup.sh bench
 	cmake --preset bench
 	cmake --build --preset bench --parallel --target kelvra-bench bench_growth
 	build/bench/bin/kelvra-bench $(ARGUMENTS)
 
-# Counts instructions, and compares them with bench/baseline.json; or renews that file.
+# Counts instructions and compares them with bench/baseline.json, or renews that file.
 bench-check bench-baseline:
 	scripts/setup.sh bench
 	cmake --preset bench

@@ -1,4 +1,4 @@
-// What is measured: a decode and its release, and the floor below which neither can go.
+// The measured code: a decode with its release, and the floor, the least work that both need.
 #pragma once
 
 #include "kelvra/kelvra.h"
@@ -6,7 +6,7 @@
 
 namespace kelvra::bench {
 
-// A record of whichever family.
+// A record of any family.
 union AnyRecord {
   h225::RasMessageRecord ras;
   h225::Q931MessageRecord q931;
@@ -16,11 +16,11 @@ union AnyRecord {
 void Decode(AnyRecord& record, const Message& message);
 void Release(AnyRecord& record, const Message& message);
 
-// Clears the record, reads each octet once, and obtains and gives back the blocks that the message
-// takes, by calloc and free. `blocks` has room for all of them.
+// Clears the record, reads each octet once, and allocates and frees the message's blocks with calloc and free. `blocks`
+// has room for all of them.
 void RunFloor(AnyRecord& record, const Message& message, std::vector<void*>& blocks);
 
-// The most blocks that a message of the workload obtains.
+// The most blocks that a message of the workload allocates.
 size_t MostBlocks(const Workload& workload);
 
 }  // namespace kelvra::bench

@@ -1,5 +1,5 @@
-// Times a decode with its release over messages of 1 KiB to 64 KiB in the shapes that could make time
-// grow faster than the octets. Prints family, shape, octets and nanoseconds.
+// Times a decode with its release for messages of 1 KiB to 64 KiB, in shapes that could make time grow faster than
+// size. Prints family, shape, octets and nanoseconds.
 #include <malloc.h>
 
 #include <algorithm>
@@ -22,10 +22,10 @@ enum class Shape : uint8_t { kLists, kStrings, kAdditions, kNesting };
 constexpr const char* kShapeNames[] = {"lists", "strings", "additions", "nesting"};
 
 constexpr uint32_t kLevels = 24;          // of nesting
-constexpr size_t kLargest = 65536 - 256;  // leaves room for what stands around the grown part
+constexpr size_t kLargest = 65536 - 256;  // leaves room around the grown part
 constexpr size_t kMostElements = 250;     // of a list whose count the record keeps in 8 bits
 
-// As many elements as make `octets` of those that `write` writes, `kMostElements` at most.
+// As many elements from `write` as fit in `octets`, `kMostElements` at most.
 template <class Write>
 BitWriter ListOf(size_t octets, Write write) {
   BitWriter element;
@@ -41,7 +41,7 @@ BitWriter ListOf(size_t octets, Write write) {
 
 void WriteStandardIdentifier(BitWriter& writer) { writer.Bits(0, 4).Align().Bits(0x4D, 16); }
 
-// Its identifier, and how many parameters follow.
+// The identifier, then the number of parameters.
 void BeginGenericData(BitWriter& writer, uint32_t parameters) {
   writer.Bits(0b01, 2);
   WriteStandardIdentifier(writer);
@@ -63,7 +63,7 @@ void WriteNestedGenericData(BitWriter& writer, uint32_t levels) {
   WriteNestedGenericData(writer, levels - 1);
 }
 
-// A list of GenericData, grown in its elements.
+// A list of GenericData that grows in its elements.
 BitWriter GenericDataOf(Shape shape, size_t octets) {
   const size_t each = octets / 64;
   return ListOf(octets, [&](BitWriter& writer) {
@@ -80,7 +80,7 @@ BitWriter GenericDataOf(Shape shape, size_t octets) {
   });
 }
 
-// Additions of which the first `known` are absent and all others unknown, each of two octets.
+// Additions: the first `known` are absent, the others unknown with two octets each.
 void WriteUnknownAdditions(BitWriter& writer, uint32_t known, size_t octets) {
   const auto unknown = static_cast<uint32_t>(octets * 8 / 25);
   writer.NormallySmall(known + unknown - 1).Bits(0, known);
@@ -98,8 +98,8 @@ Octets RasMessage(Shape shape, size_t octets) {
     WriteUnknownAdditions(message, 12, octets);
   } else {
     message.NormallySmall(9).Bits(1, 10);  // genericData alone
-    // One open type holds no more, and its octets need not be within it: where a decoder comes to stand
-    // behind them does not matter to the last addition.
+    // An open type holds no more, and its octets need not be inside it: for the last addition, the decoder's position
+    // afterwards does not matter.
     const Octets genericData = GenericDataOf(shape, octets);
     message.Length(static_cast<uint32_t>(std::min<size_t>(genericData.size(), 16383))).Octets(genericData);
   }
@@ -126,7 +126,7 @@ Octets Q931Message(Shape shape, size_t octets) {
 // A GenericParameter up to its value.
 void BeginParameter(BitWriter& writer, uint32_t value) { writer.Bits(0, 5).Bits(1, 7).Bits(value, 4); }
 
-// A list of GenericParameters, grown in its elements.
+// A list of GenericParameters that grows in its elements.
 BitWriter ParametersOf(Shape shape, size_t octets) {
   const size_t each = octets / 64;
   return ListOf(octets, [&](BitWriter& writer) {
@@ -170,7 +170,7 @@ Octets H245Message(Shape shape, size_t octets) {
     message.Bits(0b0011, 4).Bit(true).NormallySmall(6);  // genericAudioCapability
     message.Length(static_cast<uint32_t>(std::min<size_t>(value.size(), 16383))).Octets(value);
   }
-  // An open type that holds more than its length tells ends here: nothing of the message is left to read.
+  // An open type longer than its length comes last, so nothing follows it in the message.
   if (!additions) return message;
   BitWriter forward;
   forward.Bits(0, 11).Align().Bits(1, 8);
@@ -210,8 +210,8 @@ double Nanoseconds(const Message& message) {
 
 int main() {
   using namespace kelvra::bench;
-  // Without these the C library gives each large message's memory back to the system and asks for it
-  // anew, and that is what would be timed.
+  // Otherwise the C library returns the memory of each large message to the system and requests it again, and the
+  // benchmark would time that.
   mallopt(M_TRIM_THRESHOLD, 1 << 30);
   mallopt(M_MMAP_THRESHOLD, 1 << 30);
   for (const Family family : {Family::kRas, Family::kQ931, Family::kH245}) {

@@ -27,7 +27,7 @@ def series_of(stream):
 
 
 def growth(before, after):
-    """The factor for twice the octets, where these grew by about that."""
+    """The growth factor for doubled octets, from a step of about that size."""
     return (after[1] / before[1]) ** (math.log(2) / math.log(after[0] / before[0]))
 
 

@@ -1,5 +1,5 @@
-// Runs each workload once under callgrind, the library and the floor apart; instructions.py reads the
-// counts. The rounds before bring the heap into the state in which it stays.
+// Runs each workload once under callgrind, the library and the floor separately; instructions.py reads the counts.
+// Earlier rounds bring the heap into its steady state.
 #include <valgrind/callgrind.h>
 
 #include <exception>

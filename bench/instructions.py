@@ -14,12 +14,12 @@ import sys
 import tempfile
 
 TOLERANCE = 0.02
-# Functions with less than this share of a workload are not kept by name.
+# Functions with a smaller share of a workload are not listed by name.
 SMALLEST_SHARE = 0.002
 
 
 def read_dump(path):
-    """Returns what was dumped, and the instructions of each function without those it calls."""
+    """Returns the dump's name and the instructions of each function, without its callees."""
     trigger, function, callee_follows = None, None, False
     costs = collections.Counter()
     for line in path.read_text().splitlines():
@@ -37,7 +37,7 @@ def read_dump(path):
 
 
 def count(program, workload_file):
-    """Returns for each workload its messages, octets, floor, total and functions."""
+    """Returns messages, octets, floor, total and functions of each workload."""
     with tempfile.TemporaryDirectory() as directory:
         out = pathlib.Path(directory)
         run = subprocess.run(

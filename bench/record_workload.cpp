@@ -1,9 +1,9 @@
-// Records what messages ask of the heap, by a heap of its own in the place of the library's:
+// Records the heap calls of messages, with a heap that replaces the library's:
 //
 //   record_workload MESSAGES.txt FAMILY.jsonl... >WORKLOAD
 //
-// Each FAMILY.jsonl becomes a workload of all its messages. Each line of MESSAGES.txt becomes one of
-// that message, or of many variants of it where it leaves octets open.
+// Each FAMILY.jsonl becomes one workload of all its messages. Each line of MESSAGES.txt becomes a workload of that
+// message, or of many variants of it if it leaves octets open.
 #include <cstdlib>
 #include <cstring>
 #include <exception>
@@ -22,7 +22,7 @@
 namespace {
 
 std::vector<int32_t>* steps = nullptr;
-std::unordered_map<void*, int32_t> blocks;  // live ones, and the number of each
+std::unordered_map<void*, int32_t> blocks;  // the live blocks and their numbers
 int32_t obtained = 0;
 
 }  // namespace
@@ -64,7 +64,7 @@ Message Recorded(Family family, std::vector<uint8_t> octets) {
   return message;
 }
 
-// The octets of one line, those that it leaves open taken from `random`.
+// The octets of one line; `random` fills the open ones.
 std::vector<uint8_t> Filled(std::string hex, std::mt19937& random) {
   for (char& digit : hex) {
     if (digit == 'x') digit = "0123456789abcdef"[random() % 16];
@@ -72,7 +72,7 @@ std::vector<uint8_t> Filled(std::string hex, std::mt19937& random) {
   return test::Hex(hex);
 }
 
-// A decode of RAS is successful only before the end of the buffer.
+// A RAS decode succeeds only if it ends before the end of the buffer.
 std::vector<uint8_t> AsHanded(Family family, std::vector<uint8_t> octets) {
   if (family == Family::kRas) octets.push_back(0);
   return octets;

@@ -1,5 +1,5 @@
-// Times decoding and releasing each workload. The floor is timed in turn with the library, so that both
-// meet the same machine, and of each the fastest round counts.
+// Times decoding and releasing each workload. Library and floor alternate, so that both run under the same conditions,
+// and the fastest round of each counts.
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
@@ -13,12 +13,12 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-// Octets of a round at least, so that reading the clock does not count.
+// The least octets per round, so that reading the clock is negligible.
 constexpr uint64_t kRoundOctets = 20000;
 
 class FastestRound {
  public:
-  // Returns the seconds that `run` took.
+  // Returns the duration of `run` in seconds.
   template <class Run>
   double Time(Run run) {
     const Clock::time_point start = Clock::now();
@@ -69,7 +69,7 @@ void DecodeAndRelease(benchmark::State& state, const Workload& workload) {
   state.counters["ratio"] = library.Seconds() / floor.Seconds();
 }
 
-// Decoding or releasing alone, each message with a record of its own.
+// Decoding or releasing alone, with one record per message.
 void Alone(benchmark::State& state, const Workload& workload, bool decoding) {
   std::vector<AnyRecord> records(workload.messages.size() * Repeats(workload));
   FastestRound decode, release;

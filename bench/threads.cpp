@@ -1,7 +1,7 @@
-// How many messages per second several threads decode and release: bench_threads WORKLOAD [MESSAGES [THREADS...]]
+// Messages per second that several threads decode and release: bench_threads WORKLOAD [MESSAGES [THREADS...]]
 //
-// Each thread goes through all messages of the workload until it has decoded so many. Prints threads, messages per
-// second, and the processor time of one message, which grows where threads wait for each other in it.
+// Each thread decodes the messages of the workload in turn until it has decoded MESSAGES. Prints threads, messages per
+// second, and CPU time per message, which grows if threads wait for each other.
 #include <sys/resource.h>
 
 #include <chrono>

@@ -1,4 +1,4 @@
-// What the benchmarks run: messages, and what each asks of the heap.
+// The input of the benchmarks: messages, and the heap calls of each.
 #pragma once
 
 #include <cstdint>
@@ -13,9 +13,8 @@ inline constexpr const char* kFamilyNames[] = {"ras", "q931", "h245"};
 
 struct Message {
   Family family;
-  std::vector<uint8_t> octets;  // as handed to the library, so with the spare octet of RAS
-  // A decode and the release after it, in their order: n obtains a block of n octets, -n gives back the
-  // n-th block obtained, counted from 1.
+  std::vector<uint8_t> octets;  // as passed to the library, with the spare octet of RAS
+  // A decode and its release in order: n allocates a block of n octets, -n frees the n-th block, counting from 1.
   std::vector<int32_t> heapSteps;
 };
 
@@ -26,7 +25,7 @@ struct Workload {
   uint64_t Octets() const;
 };
 
-// The form in which record_workload passes them on: a line a message.
+// The format in which record_workload passes messages on: one per line.
 void SaveMessage(std::ostream& stream, const std::string& workload, const Message& message);
 std::vector<Workload> LoadWorkloads(const std::string& file);
 

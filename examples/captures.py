@@ -23,7 +23,7 @@ class Result(NamedTuple):
 
 
 def count(path: pathlib.Path) -> Result:
-    """What is in one capture; runs in a process of its own."""
+    """Counts the messages of one capture; runs in its own process."""
     counts: Counter[str] = collections.Counter()
     error = None
     with warnings.catch_warnings(record=True) as losses:

@@ -1,7 +1,7 @@
-// Loads the library while it runs, and decodes a RAS message with it: load_at_run_time LIBRARY HEX
+// Loads the library at run time and decodes a RAS message: load_at_run_time LIBRARY HEX
 //
-// Shows that a program need not be linked with the library: it takes the functions by their names, which are not
-// decorated. Only the headers are used at compile time.
+// Shows that a program need not link to the library: it looks up the functions by their undecorated names. Only the
+// headers are needed at compile time.
 #include <kelvra/kelvra.h>
 #include <kelvra/text.h>
 

@@ -1,7 +1,7 @@
 // Prints the media addresses that a Setup offers in its fast start: media_addresses HEX
 //
-// Shows how to get from a Q.931 message to its fast start, how a list is gone through and how a CHOICE is asked which
-// alternative it holds. HEX is the message with its TPKT header.
+// Shows how to get from a Q.931 message to its fast start, how to iterate over a list, and how to find out which
+// alternative a CHOICE holds. HEX is the message with its TPKT header.
 #include <kelvra/kelvra.h>
 #include <kelvra/text.h>
 
@@ -14,7 +14,7 @@ using namespace kelvra;
 
 namespace {
 
-// Releases the blocks of the record together with it.
+// Releases the record's blocks with it.
 struct Release {
   void operator()(h225::Q931MessageRecord* message) const {
     KelvraFreeQ931Message(message);
@@ -32,7 +32,7 @@ void Print(const char* direction, const h245::H2250LogicalChannelParameters& cha
   }
 }
 
-// Forward is from the caller; a proposal for the other direction has reverse parameters.
+// A forward channel comes from the caller; a proposal for the other direction has reverse parameters.
 void Print(const h245::OpenLogicalChannel& proposal) {
   using Forward = h245::OpenLogicalChannel::ForwardLogicalChannelParameters::MultiplexParameters;
   using Reverse = h245::OpenLogicalChannel::ReverseLogicalChannelParameters::MultiplexParameters;

@@ -1,4 +1,4 @@
-// The octets of a message that is written as hexadecimal digits, as a log holds it.
+// Converts a message from hexadecimal digits, as found in a log.
 #pragma once
 
 #include <cstdint>

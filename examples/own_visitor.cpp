@@ -1,6 +1,7 @@
-// Prints every alias and address of a RAS message with the path to it: own_visitor HEX
+// Prints every alias and address of a RAS message with its path: own_visitor HEX
 //
-// Shows a visitor. It meets each member that is present, in any record, so nothing here knows the messages.
+// Shows a visitor. It visits each member that is present in any record, so this code needs no knowledge of the
+// messages.
 #include <kelvra/kelvra.h>
 #include <kelvra/text.h>
 

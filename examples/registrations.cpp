@@ -1,7 +1,7 @@
 // Logs the registrations that reach a UDP socket on the loopback address: registrations [PORT [DATAGRAMS]]
 //
-// Shows a receive loop: the spare octet after the datagram, what a refused message looks like, and a record that is
-// used again. PORT 0 lets the system choose. Ends after so many datagrams; without a number it does not end.
+// Shows a receive loop: the spare octet after the datagram, how to handle a refused message, and a reused record. With
+// PORT 0 the system chooses. Ends after DATAGRAMS datagrams, or never if none is given.
 #include <kelvra/kelvra.h>
 #include <kelvra/text.h>
 
@@ -34,7 +34,7 @@ void Log(const h225::RegistrationRequest& request) {
   std::puts(line.c_str());
 }
 
-// `datagram` has a zero octet past its end, which `size` does not count.
+// `datagram` has a zero octet after it, which `size` does not count.
 void Log(const uint8_t* datagram, uint32_t size) {
   static h225::RasMessageRecord message;
   if (KelvraDecodeRASMessage(&message, datagram, size + 1) == 0) {

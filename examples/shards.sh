@@ -4,19 +4,20 @@
 #   examples/shards.sh CAPTURES OUTPUT [KELVRA_DUMP]
 #
 # OUTPUT/day=YYYY-MM-DD/NAME.jsonl holds the messages of the capture NAME on that day (UTC), OUTPUT/messages.db the
-# table `messages`, and OUTPUT/log what was wrong with the input. NAME is the path of the capture, with % for /. Each capture is decoded by a process of its own, as
-# many at a time as there are cores. The exit status is 1 where a capture could not be read to its end.
+# table `messages`, and OUTPUT/log the faults of the input. NAME is the path of the capture, with % for /. Each capture
+# has its own process, as many at a time as there are cores. The exit status is 1 if a capture could not be read to its
+# end.
 set -euo pipefail
 
 export CAPTURES=${1%/} OUTPUT=$2 KELVRA_DUMP=${3:-kelvra-dump}
 mkdir -p "$OUTPUT/log"
 
-# Decodes one capture: shard FILE. Status 1 of the viewer only says that some messages are not complete.
+# Decodes one capture: shard FILE. Status 1 of the viewer only means that some messages are incomplete.
 shard() {
   local name status=0
   name=${1#"$CAPTURES"/}
   name=${name//\//%}
-  # A line with the day before each object, by which awk chooses the file.
+  # A line with the day precedes each object; awk uses it to choose the file.
   { "$KELVRA_DUMP" --format json "$1" 2>"$OUTPUT/log/$name" || echo $? >"$OUTPUT/log/$name.status"; } |
     jq -rc '.time[:10], .' |
     awk -v output="$OUTPUT" -v name="$name" '

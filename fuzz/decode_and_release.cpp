@@ -19,7 +19,7 @@ void Require(bool kept, const char* promise) {
   abort();
 }
 
-// The message in a block of its size, and a record of other contents in another.
+// The message in a block of exactly its size, and a dirty record in another.
 template <class Record>
 class Decode {
  public:
@@ -36,8 +36,7 @@ class Decode {
   const uint8_t* Octets() const { return octets_.get(); }
   Record* Get() { return record_; }
 
-  // `walked` is the part of the record that owns blocks. `released` tells that a refusal has given them
-  // back already.
+  // `walked` is the part of the record that owns blocks. `released` means that a refusal has already released them.
   template <class Walked, class Release>
   void ReadAndRelease(Walked& walked, bool released, Release release) {
     Require(!released || Blocks(walked) == 0, "a refused message leaves no block");
@@ -65,7 +64,7 @@ class Decode {
 void DecodeAndReleaseRas(const uint8_t* octets, size_t size) {
   Decode<h225::RasMessageRecord> decode(octets, size);
   const intptr_t end = KelvraDecodeRASMessage(decode.Get(), decode.Octets(), static_cast<uint32_t>(size));
-  // An address beyond the buffer is possible where a message ends with open types that are passed over.
+  // The address can be past the buffer if a message ends with skipped open types.
   Require(end == 0 || end > reinterpret_cast<intptr_t>(decode.Octets()), "the end of a message lies behind its start");
   decode.ReadAndRelease(*decode.Get(), end == 0, KelvraFreeRASMessage);
 }

@@ -1,5 +1,5 @@
-// What every fuzzer and every regression case does with a message: decode it from a heap block of its
-// very size into a record that lies in one, read the whole record as a program would, and release it.
+// The body of every fuzzer and regression case: decodes a message from a heap block of exactly its size into a heap
+// record, reads the whole record as a program would, and releases it.
 #pragma once
 
 #include <stddef.h>
@@ -7,8 +7,8 @@
 
 namespace kelvra::fuzz {
 
-// Each aborts when a promise of the library is broken that a sanitizer cannot see: a result outside the
-// stated ones, a pointer left behind by the release.
+// Each aborts on a broken promise of the library that a sanitizer cannot see: an undocumented result, or a pointer left
+// after the release.
 void DecodeAndReleaseRas(const uint8_t* octets, size_t size);
 void DecodeAndReleaseQ931(const uint8_t* octets, size_t size);
 void DecodeAndReleaseH245(const uint8_t* octets, size_t size);

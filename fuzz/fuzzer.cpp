@@ -1,4 +1,4 @@
-// The entry of libFuzzer: one family's body, and the observed decode held against the plain one.
+// The libFuzzer entry point: decodes one family, and compares the observed decode with the plain one.
 #include <stdlib.h>
 
 #include "decode_and_release.h"

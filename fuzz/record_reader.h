@@ -1,5 +1,4 @@
-// Reads a record as far as its counts and pointers say, so that a sanitizer sees a block that is smaller
-// than its count, or is gone.
+// Reads a record as far as its counts and pointers reach, so that a sanitizer sees a block that is too small or freed.
 #pragma once
 
 #include <stdint.h>
@@ -10,9 +9,9 @@ namespace kelvra::fuzz {
 
 class RecordReader : public test::BlockVisitor<RecordReader> {
  public:
-  // How many blocks the record reaches.
+  // The number of blocks that the record reaches.
   uint32_t Blocks() const { return blocks_; }
-  // Depends on every octet that was read, so that no read can be left out.
+  // Depends on every octet read, so that no read is optimised away.
   uint32_t Sum() const { return sum_; }
 
   template <class T>

@@ -1,4 +1,4 @@
-// The cases that fuzzing found or that were thought of, one message in a file: regressions/FAMILY/NAME.
+// Finds of fuzzing and constructed cases, one message per file: regressions/FAMILY/NAME.
 #include <gtest/gtest.h>
 
 #include <filesystem>

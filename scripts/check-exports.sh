@@ -28,7 +28,7 @@ case $library in
     exported=$(awk '/^\[Ordinal\/Name Pointer\] Table/ { table = 1; next }
       table && !/^[[:space:]]*\[/ { exit }
       table { print $NF }' <<<"$headers" | sort)
-    # An export without a name would be in the table of addresses only.
+    # An export without a name appears only in the address table.
     addresses=$(awk '/^Export Address Table/ { table = 1; next }
       table && !/^[[:space:]]*\[/ { exit }
       table { count++ }

@@ -1,11 +1,10 @@
 #!/usr/bin/env bash
-# Checks that a built library has no writable variable but those allowed.
+# Checks that a built library has no writable variables except those allowed.
 #
 #   scripts/check-globals.sh NM LIBRARY NAME...
 #
-# A NAME is part of the mangled name of a variable of the library. Of the others,
-# those of the namespace kelvra and of anonymous ones are looked at, not those of
-# the compiler's and the system's own libraries.
+# NAME is part of the mangled name of an allowed variable. Only namespace kelvra and anonymous namespaces are checked,
+# not the libraries of the compiler and the system.
 set -euo pipefail
 
 nm=$1
@@ -17,15 +16,14 @@ fail() {
   exit 1
 }
 
-# The section and the name of each symbol of the library's own.
+# Section and name of each of the library's own symbols.
 symbols=$("$nm" --format=sysv "$library" |
   awk -F'|' '{ gsub(/ /, "", $1); gsub(/ /, "", $7) }
     tolower($1) ~ /kelvra|_global__n_/ { print $7, $1 }')
 functions=$(grep -c '^\.text' <<<"$symbols" || true)
 [[ $functions -gt 0 ]] || fail "$library has no function of the library; is it the right one?"
 
-# Constants that hold addresses lie in .data.rel.ro, which is made read-only
-# before the library runs.
+# Constants that hold addresses are in .data.rel.ro, which becomes read-only before the library runs.
 writable=$(awk '$1 ~ /^\.(data|bss|tdata|tbss|tls)(\$.*)?$/ { print $2 }' <<<"$symbols")
 for name in "$@"; do
   grep -q -- "$name" <<<"$writable" || fail "$library has no $name; is it the right library?"

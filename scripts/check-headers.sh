@@ -32,7 +32,7 @@ mapfile -t headers < <(cd "$root" && find . -name '*.h' -printf '%P\n' | sort)
   exit 1
 }
 
-# clang_for TARGET ARGUMENT... : Clang as it is, as the Windows compiler, or as a compiler that nothing is known of.
+# clang_for TARGET ARGUMENT... : Clang itself, as the Windows compiler, or as an unknown compiler.
 clang_for() {
   local target=$1 options=()
   shift
@@ -47,7 +47,7 @@ windows=(i686-pc-windows-msvc x86_64-pc-windows-msvc)
 
 include() { printf '#include "%s"\n' "$@"; }
 
-# --- Each header alone, and twice, for a missing include guard to show ---
+# --- Each header alone, and twice to detect a missing include guard ---
 
 warnings=(-Wall -Wextra -Wconversion -Wshadow -Wpedantic -Werror)
 compilations=0
@@ -59,7 +59,7 @@ for header in "${headers[@]}"; do
   done
 done
 
-# --- The header of C ---
+# --- The C header ---
 
 c_header=kelvra/kelvra_c.h
 for target in native "${windows[@]}"; do
@@ -80,9 +80,9 @@ include kelvra/kelvra.h "$c_header" | clang_for native "${warnings[@]}" -fsyntax
 refusal=$(include "$c_header" kelvra/kelvra.h | clang_for native -fsyntax-only 2>&1) || true
 [[ $refusal == *"include kelvra/kelvra.h before it"* ]] || fail "$c_header is not refused before kelvra/kelvra.h"
 
-# --- Words of one compiler ---
+# --- Compiler extensions ---
 
-# Prints FILE:LINE:TEXT of all lines of the public headers that a compiler of this target sees, without comments.
+# Prints FILE:LINE:TEXT of the public headers' lines that a compiler of this target sees, without comments.
 lines_seen_by() {
   include "${headers[@]}" | clang_for "$1" -E -dD | awk -v root="$root/" '
     /^# [0-9]+ "/ {
@@ -97,7 +97,7 @@ lines_seen_by() {
     { line++ }'
 }
 
-# Names that begin with two underscores, or with one and a capital, are a compiler's own, but for a few of the standard.
+# Names that begin with two underscores, or one and a capital, belong to a compiler, except for a few in the standard.
 word='(^|[^[:alnum:]_])'
 standard="__VA_ARGS__|__cplusplus"
 of_windows="__forceinline|__cdecl"
@@ -114,7 +114,7 @@ for target in unknown "${windows[@]}"; do
   [[ -z $found ]] || fail "not standard C++, as seen by $target:"$'\n'"$found"
 done
 
-# --- Macros that are left ---
+# --- Leftover macros ---
 
 macros_after() { include "$@" | clang_for "$target" -E -dM | awk '{ sub(/\(.*/, "", $2); print $2 }' | sort; }
 for target in native "${windows[@]}"; do

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Measures which lines and branches of src/ the tests reach, or the corpora of fuzzing.
+# Measures the lines and branches of src/ that the tests or the fuzzing corpora reach.
 #
 #   scripts/coverage.sh [-c] [FOLDER...]
 #
@@ -18,7 +18,7 @@ folders=("$@")
 [[ $# -gt 0 ]] || folders=(src/per)
 build=build/coverage
 
-# Configures with what follows, and builds the programs named in `programs`.
+# Configures with its arguments, and builds the programs in `programs`.
 build_programs() {
   cmake -G Ninja -S . -B "$build" -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_BUILD_TYPE=Debug \
     -DCMAKE_CXX_FLAGS="-O1 -fprofile-instr-generate -fcoverage-mapping" \
@@ -26,7 +26,7 @@ build_programs() {
   cmake --build "$build" --parallel --target "${programs[@]}"
 }
 
-# Runs a program with its arguments, and keeps what it reached.
+# Runs a program with its arguments, and keeps its coverage data.
 run_program() {
   LLVM_PROFILE_FILE=$build/$1.profraw "$build/bin/$1" "${@:2}"
 }
@@ -42,7 +42,7 @@ else
   programs=(kelvra_tests kelvra_per_tests kelvra_fault_tests kelvra_regression_tests)
   build_programs -DKELVRA_BUILD_TESTS=ON
   for program in "${programs[@]}"; do
-    # The faults at every bit add time and no branch.
+    # Faults at every bit take time and reach no further branch.
     run_program "$program" --gtest_brief=1 --gtest_filter='-*EveryBitFlipped:*EveryOctet*:*AnOctetAdded*'
   done
 fi

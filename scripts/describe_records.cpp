@@ -1,6 +1,5 @@
-// Prints what the descriptions say of each record: one line of JSON per record. scripts/records.py compiles it natively
-// with the list of the records, RECORD_LIST, and runs it. Places are offsets in the record as this compiler lays it
-// out.
+// Prints each record's description: one line of JSON per record. scripts/records.py compiles it natively with the
+// record list, RECORD_LIST, and runs it. Offsets are those of this compiler's layout.
 #include <stdint.h>
 #include <stdio.h>
 
@@ -33,7 +32,7 @@ inline const char* NotationOf(asn1::FixedSplitOctetStringKind) { return "octets"
 inline const char* NotationOf(asn1::CheckedIA5StringKind) { return "characters"; }
 inline const char* NotationOf(asn1::SignalTypeKind) { return "characters"; }
 
-// The octets of a string whose length word stays zero; 0 of any other.
+// The octets of a string whose length word stays zero; 0 for any other.
 template <class Kind>
 uint32_t UncountedOctetsOf(Kind) {
   return 0;

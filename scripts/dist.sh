@@ -6,7 +6,7 @@
 #
 # The latter packs what scripts/test.sh has built, which has the same code and less debug information.
 #
-# The octets depend on the sources and the compilers only; their dates are that of the last commit.
+# The octets depend only on the sources and the compilers; their dates are that of the last commit.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
@@ -27,11 +27,11 @@ build() {
   [[ -n $presets ]] || return 0
   cmake --preset "dist-$1" >/dev/null
   cmake --build --preset "dist-$1" --parallel "$(nproc)"
-  # An archive has no place for debug information apart from it.
+  # An archive cannot keep its debug information in a separate file.
   strip --strip-debug "build/dist-$1/lib/libkelvra.a"
 }
 
-# Installs the build into a folder; its debug information goes into a folder beside it: stage TARGET FOLDER TOOLS
+# Installs the build into a folder, its debug information into a second folder next to it: stage TARGET FOLDER TOOLS
 stage() {
   local folder=$2 objcopy=$3objcopy file
   rm -rf "$folder" "$folder-debug"
@@ -61,7 +61,7 @@ windows_package() {
   [[ $1 == windows-x86 ]] || { triple=x86_64-w64-mingw32 machine=i386:x86-64; }
   stage "$1" "$dist/$name" "$triple-"
   cp README.md CHANGELOG.md "$dist/$name/"
-  # The import libraries for the linkers that take Windows' own form.
+  # The import libraries for linkers that use the Windows format.
   local def library
   for def in src/api/kelvra.def tools/library/kelvra_text.def; do
     library=$(basename "$def" .def)

@@ -33,13 +33,12 @@ case $engine in
     ;;
 esac
 
-# The largest message, and what one may take: the sanitizers make a decode some
-# twenty times slower.
+# The largest message, and the limits for one: the sanitizers make a decode about twenty times slower.
 longest=65535
 slowest_seconds=1
 
-# Freed blocks wait in 32 MB, more than any message claims, and keep their pages:
-# faulting in fresh ones would take a quarter of the processor's time.
+# Freed blocks wait in 32 MB, more than any message claims, and keep their pages: page faults would take a quarter of
+# the CPU time.
 with_libfuzzer() {  # FAMILY CORPUS FINDS
   ASAN_OPTIONS=quarantine_size_mb=32:allocator_release_to_os_interval_ms=-1 \
     "build/$preset/bin/kelvra_fuzz_$1" \

@@ -19,7 +19,7 @@ BLOCK = re.compile(r"```sh\n(?P<command>.*?)```\n(?:\n```text\n(?P<output>.*?)``
 
 
 def output_of(command, viewer):
-    """What the command prints where kelvra-dump is the viewer; standard error stands where it is printed."""
+    """The output of the command with kelvra-dump as the viewer; standard error appears in its place."""
     path = os.path.dirname(os.path.abspath(viewer)) + os.pathsep + os.environ["PATH"]
     environment = {**os.environ, "PATH": path, "NO_COLOR": "1", "LC_ALL": "C.UTF-8"}
     result = subprocess.run(["bash", "-c", command], cwd=TOP, env=environment, stdout=subprocess.PIPE,
@@ -28,7 +28,7 @@ def output_of(command, viewer):
 
 
 def renewed(page, text, viewer):
-    """The page as it should be, and the commands that printed nothing."""
+    """The corrected page, and the commands that printed nothing."""
     silent = []
 
     def renew(block):

@@ -48,7 +48,7 @@ NAMES_FOOT = """
 
 
 def enumeration(entry):
-    """The qualified name of the enumeration of a record, and its enumerators."""
+    """The qualified name of a record's enumeration, and its enumerators."""
     if "alternatives" in entry:
         owner = entry.get("names", entry["name"])
         values = [(alternative["name"], alternative["tag"] + (FIRST_EXTENSION if alternative["extension"] else 0))
@@ -63,7 +63,7 @@ def number(value):
 
 def names_header(content):
     enumerations = [enumeration(entry) for entry in content["records"] if "alternatives" in entry or "values" in entry]
-    # What stands inside another record first, as the enumerators of the outer would shadow its own.
+    # Nested records first, because the enumerators of the outer would shadow theirs.
     enumerations.sort(key=lambda item: (item[0].split("::")[0], -item[0].count("::"), item[0].lower()))
     lines, namespace = [NAMES_HEAD], None
     for name, values in enumerations:
@@ -197,7 +197,7 @@ def c_struct(entry):
 
 
 def in_order(records):
-    """What stands inside another record before it."""
+    """Orders records so that a nested record precedes its container."""
     by_name = {entry["name"]: entry for entry in records}
     done = {}
 
@@ -223,7 +223,7 @@ def c_header(content):
 
 
 def c_asserts(content):
-    """C++ that compares the records of kelvra_c.h with those of C++."""
+    """C++ that compares the records of kelvra_c.h with the C++ records."""
     lines = ["#include <stddef.h>", '#include "kelvra/kelvra.h"', '#include "kelvra/kelvra_c.h"']
     for entry in content["records"]:
         own, other = c_name(entry["name"]), f"kelvra::{entry['name']}"

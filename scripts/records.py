@@ -30,7 +30,7 @@ TABLE = TOP / "docs" / "records.md"
 MODEL = TOP / "docs" / "records.json"
 NAMES = TOP / "include" / "kelvra" / "names.h"
 C_HEADER = TOP / "include" / "kelvra" / "kelvra_c.h"
-# The headers with the records, which do not include what is made here.
+# The headers with the records, which do not include generated ones.
 HEADERS = ["h225/call/q931_message.h", "h225/ras/ras_message.h", "h245/messages/h245_message.h"]
 INCLUDES = "".join(f'#include "kelvra/{header}"\n' for header in HEADERS)
 CLANG = ["clang++", "-std=c++20", "-I", TOP / "include", "-x", "c++"]
@@ -38,10 +38,10 @@ WINDOWS = ["-fms-extensions", "-fms-compatibility", "-ffreestanding", "-isystem"
 TARGETS = {32: "i686-pc-windows-msvc", 64: "x86_64-pc-windows-msvc"}
 FAMILIES = {"": "Strings, object identifiers and CHOICEs of NULLs", "h225": "H.225.0 and Q.931", "h235": "H.235",
             "h245": "H.245"}
-# Instances of a template, by the names that they have elsewhere.
+# Template instances, by the names used elsewhere.
 INSTANCES = "Of this layout:"
 UNION = "union"
-# Which member an information element of Q.931 fills, where it is not the one of its name.
+# The member that a Q.931 information element fills, if its name differs.
 ELEMENT_MEMBERS = {"cause": "causeValue", "signal": "signalValue"}
 
 INTRODUCTION = """# Records
@@ -68,7 +68,7 @@ Made by `make records` from the public headers.
 @dataclass
 class Member:
     name: str
-    type: str  # as the section of its family knows it
+    type: str  # as the section of its family names it
     full_type: str = ""  # within the outermost namespace
     alternatives: list = field(default_factory=list)  # of an anonymous union
     places: dict = field(default_factory=dict)  # offset and width, by the bits of a pointer
@@ -76,7 +76,7 @@ class Member:
 
 @dataclass
 class Record:
-    name: str  # within the outermost namespace, as all names here
+    name: str  # in the outermost namespace, like all names here
     members: list
     template: str = ""
     widths: dict = field(default_factory=dict)  # by the bits of a pointer
@@ -92,7 +92,7 @@ def without_namespace(name):
 
 
 def type_text(text, family):
-    """A type as a reader of the family's section knows it."""
+    """A type as named in the section of the family."""
     def shorten(match):
         parts = match.group(0).split("::")
         if parts[0] == "kelvra":
@@ -103,17 +103,17 @@ def type_text(text, family):
 
 
 class Headers:
-    """The packed records and the enumerations that Clang finds in the public headers."""
+    """The packed records and enumerations that Clang finds in the public headers."""
 
     def __init__(self):
         self.scan_all("")
-        # What is only pointed to has no members until something asks for its size.
+        # A type that is only pointed to has no members until its size is needed.
         self.scan_all("".join(f"static_assert(sizeof(kelvra::{names[0]}) > 0);\n" for names in self.names.values()))
 
     def scan_all(self, source):
         self.records = []
         self.enumerations = {}  # values by name
-        self.names = {}  # of instances of templates
+        self.names = {}  # of template instances
         self.scan(json.loads(clang([*target(32), "-Xclang", "-ast-dump=json", "-fsyntax-only"], source)), [])
 
     def scan(self, node, scope):
@@ -199,7 +199,7 @@ def leaves(members):
 
 
 def lay_out(records, bits):
-    """Fills in offsets and widths, which Clang leaves as constants of an array."""
+    """Fills in offsets and widths, which Clang emits as constants of an array."""
     values = []
     for record in records:
         values.append(f"sizeof({record.name})")
@@ -224,7 +224,7 @@ def lay_out_unions(members, bits):
 
 
 def descriptions(records):
-    """What the description of each record says, by its name. Places are offsets at 64 bits."""
+    """The description of each record, by name. Positions are offsets at 64 bits."""
     listing = "".join(f"LIST_RECORD({name})\n" for name in records)
     with tempfile.TemporaryDirectory() as folder:
         listed, program = pathlib.Path(folder, "list.inc"), pathlib.Path(folder, "describe")
@@ -302,7 +302,7 @@ def alternative_of(component):
 
 
 def add_alternatives(entry, description, by_offset):
-    """The members of the union stand at one place, in the order of the alternatives that have one."""
+    """Union members share one position, in the order of the alternatives that have a member."""
     places = collections.deque(fields for fields in entry["members"] if fields.get("union"))
     for component in description["components"]:
         alternative = alternative_of(component)
@@ -311,7 +311,7 @@ def add_alternatives(entry, description, by_offset):
             continue
         while places and places[0]["name"] in ("empty", "reserved"):
             places.popleft()
-        # A union of one member may be written without the union.
+        # A union of one member may be written without `union`.
         fields = places.popleft() if places else by_offset[component["at"]][0]
         alternative["member"] = fields["name"]
         fields["asn1"] = component["name"]
@@ -338,7 +338,7 @@ def add_details(fields, component, by_offset):
 
 
 def add_count(entry):
-    """Of a string or a list, which is a count and a pointer."""
+    """Adds the form of a string or a list, which is a count and a pointer."""
     if len(entry["members"]) == 2 and entry["members"][1]["type"].endswith("*"):
         entry["form"] = "list" if entry["members"][1]["name"] == "elements" else "string"
         entry["members"][1]["count"] = entry["members"][0]["name"]
@@ -409,7 +409,7 @@ def tags_text(entry):
 
 
 def sections(headers, entries, family):
-    """Heading and names of each layout of the family. Instances of a template that agree share one."""
+    """Heading and names of each layout of the family. Matching template instances share one."""
     layouts = {}
     for record in headers.records:
         if family_of(record.name) == family:
@@ -447,10 +447,10 @@ def table(headers, content):
     return "\n\n".join(blocks).replace("\u00a0", " ") + "\n"
 
 
-# --- What is made from docs/records.json ---
+# --- Output made from docs/records.json ---
 
 def asserts(content):
-    """C++ from the model alone, so that it holds for compilers which cannot report layouts."""
+    """C++ from the model alone, so that it also works for compilers that cannot report layouts."""
     def either(fields, what):
         return f"(kIsSmall ? {fields[what + '32']} : {fields[what + '64']})"
     lines = ["#include <stddef.h>", '#include "kelvra/kelvra.h"', "namespace kelvra {",
@@ -466,7 +466,7 @@ def asserts(content):
 
 
 def listing(content):
-    """C++ that calls LIST_RECORD(record, alternatives...) for each record, with the names of what is in its union."""
+    """C++ that calls LIST_RECORD(record, alternatives...) for each record, with the names of its union members."""
     lines = ["// Made by scripts/records.py from docs/records.json."]
     for entry in content["records"]:
         alternatives = ", ".join(f'"{fields["name"]}"' for fields in entry["members"] if fields.get("union"))

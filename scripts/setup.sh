@@ -1,14 +1,13 @@
 #!/usr/bin/env bash
-# Installs what a fresh Debian 12 lacks for `make demo` or `make test`.
+# Installs the packages that a fresh Debian 12 lacks for `make demo` or `make test`.
 #
 #   scripts/setup.sh demo   build tools and the viewer's libraries (native x64)
 #   scripts/setup.sh lint   the above, clang-format and clang-tidy
 #   scripts/setup.sh test   the above, the cross compilers, GoogleTest and Wine
 #   scripts/setup.sh bench  build tools, Google Benchmark and valgrind
 #
-# It does nothing when nothing is missing. A Wine that cannot be installed is
-# reported here but is no failure: scripts/test.sh then names the Windows
-# targets as skipped, and fails for that in CI.
+# It does nothing if nothing is missing. If Wine cannot be installed, it reports that but does not fail: scripts/test.sh
+# then lists the Windows targets as skipped, and fails in CI.
 set -euo pipefail
 
 demo_packages=(
@@ -29,7 +28,7 @@ lint_packages=(clang-format clang-tidy)
 
 say() { printf 'setup: %s\n' "$*"; }
 
-# The packages of the arguments that are not installed, one a line.
+# Prints the given packages that are not installed, one per line.
 missing() {
   local package
   for package in "$@"; do
@@ -57,8 +56,8 @@ install_packages() { apt install --no-install-recommends "$@"; }
 updated=no
 update_once() {
   if [[ $updated == no ]]; then
-    # One list that cannot be had must not stop packages that the others hold;
-    # when it matters, the installation fails and says so.
+    # A package list that cannot be fetched must not block packages in the others; if it matters, the installation fails
+    # and says so.
     apt update || say "not every package list could be updated"
     updated=yes
   fi
@@ -73,15 +72,14 @@ install_wine() {
   update_once
   install_packages "$@" && return 0
 
-  # The i386 list of security updates can lag behind that of amd64. Packages
-  # that must have one version on both architectures then resolve only without
-  # the security updates, hence the pin, which lasts for this one call.
+  # The i386 list of security updates can lag behind that of amd64. Packages that need the same version on both
+  # architectures then resolve only without the security updates, hence the pin for this one call.
   say "retrying Wine at the versions of the release itself"
   local pins status=0
   pins=$(mktemp)
   chmod 644 "$pins"
   printf 'Package: *\nPin: release l=Debian-Security\nPin-Priority: -1\n' >"$pins"
-  # Without the priority above 1000 apt never downgrades a dependency by itself.
+  # With a priority up to 1000, apt never downgrades a dependency by itself.
   printf '\nPackage: *\nPin: release l=Debian\nPin-Priority: 1001\n' >>"$pins"
   apt install --no-install-recommends --allow-downgrades \
     -o "Dir::Etc::preferences=$pins" "$@" || status=$?

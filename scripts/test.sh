@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
-# Builds and tests the targets given, or all; goes on after a failure. `lint` and `dist`, the packages, are two of them.
+# Builds and tests the given targets, or all; continues after a failure. `lint` and `dist` (the packages) are targets
+# too.
 #
 #   scripts/test.sh [TARGET...]
 #
-# One line for each target and a count close it. Fails when a target failed, and
-# in CI also when one had to be skipped.
+# Ends with one line per target and a count. Fails if a target failed, and in CI also if one was skipped.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
@@ -13,7 +13,7 @@ all_targets=(lint windows-x86 linux-x86 linux-x64 windows-x64 linux-x64-asan lin
 targets=("$@")
 [[ $# -gt 0 ]] || targets=("${all_targets[@]}")
 
-# Why a target cannot be run on this machine; nothing when it can.
+# Why a target cannot run on this machine; empty if it can.
 obstacle() {
   case $1 in
     windows-*)
@@ -25,7 +25,7 @@ obstacle() {
 }
 
 have() {
-  # Elsewhere than on Debian, trust that Wine is whole.
+  # Outside Debian, assume that Wine is complete.
   command -v dpkg-query >/dev/null || return 0
   [[ "$(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null)" == installed ]]
 }
@@ -83,5 +83,5 @@ summary="$passed passed, $failed failed"
 printf '%s\n' "$summary"
 
 [[ $failed -eq 0 ]] || exit 1
-# A skipped target is no passed one: CI must see it.
+# A skipped target has not passed: CI must notice.
 [[ $skipped -eq 0 || -z ${CI:-} ]] || exit 1

@@ -1,19 +1,19 @@
 #!/usr/bin/env bash
-# Runs a Windows program under Wine, in a prefix of the build's own.
+# Runs a Windows program under Wine, in a prefix of the build.
 set -euo pipefail
 
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 export WINEPREFIX=${WINEPREFIX:-$top/build/wine-prefix}
-# Its errors are shown, what it has not implemented is not.
+# Shows errors, but not unimplemented functions.
 export WINEDEBUG=${WINEDEBUG:-fixme-all}
 # Neither .NET nor a browser engine: Wine would ask to download them.
 export WINEDLLOVERRIDES=${WINEDLLOVERRIDES:-mscoree,mshtml=}
 # No test opens a window.
 unset DISPLAY WAYLAND_DISPLAY
 
-# The server and its services are started by themselves and stay for a minute after the last program. They would
-# share the output of a program that started them, and who reads it would wait for their end; a program that starts
-# while they end may fail.
+# The server and its services start on demand and stay for a minute after the last program. They would inherit the
+# output of the program that started them, and its reader would wait for their end; a program that starts while they
+# shut down may fail.
 start_server() {
   local ready=$WINEPREFIX/.ready log=$WINEPREFIX.log
   if wineserver -p60 2>/dev/null || [[ ! -e $ready ]]; then  # else one runs
@@ -23,7 +23,7 @@ start_server() {
 }
 
 mkdir -p "$WINEPREFIX"
-# Programs that start together must not all start it.
+# Only one of several parallel programs may start it.
 exec 9>"$WINEPREFIX.lock"
 flock 9
 start_server 9>&-

@@ -1,25 +1,25 @@
-"""What this package raises, and what it warns of."""
+"""The exceptions and warnings of this package."""
 from typing import Any, Dict
 
 
 class KelvraError(Exception):
-    """The base of all errors of this package."""
+    """The base class of this package's errors."""
 
 
 class LibraryNotFound(KelvraError):
-    """The shared library kelvra_text was found nowhere, or could not be loaded."""
+    """The shared library kelvra_text was not found or could not be loaded."""
 
 
 class LibraryError(KelvraError):
-    """The library reports a fault of its own, or is of a version that does not suit this package."""
+    """The library reports an internal error, or its version does not match this package."""
 
 
 class UnreadableCapture(KelvraError):
-    """A capture cannot be opened, or read on; the messages before that have been delivered."""
+    """A capture cannot be opened or read on; earlier messages have been delivered."""
 
 
 class MalformedMessage(KelvraError):
-    """A message is not complete; raised on request only. `message` is its dictionary, with all that was read."""
+    """A message is incomplete; raised only on request. `message` is its dictionary, with everything that was read."""
 
     def __init__(self, message: Dict[str, Any]) -> None:
         super().__init__(message)
@@ -33,12 +33,12 @@ class MalformedMessage(KelvraError):
 
 
 class CaptureWarning(UserWarning):
-    """The base of what is warned of while a capture is read."""
+    """The base class of warnings about a capture."""
 
 
 class CaptureLoss(CaptureWarning):
-    """Octets of a capture that should have held messages do not."""
+    """Octets of a capture should hold messages but do not."""
 
 
 class CaptureNotice(CaptureWarning):
-    """A remark on a capture that is no loss."""
+    """A remark about a capture; nothing was lost."""

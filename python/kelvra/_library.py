@@ -50,7 +50,7 @@ def library_version() -> str:
 
 
 def take_text(library: ctypes.CDLL, text: ctypes.c_void_p) -> bytes:
-    """The octets of a text that the library handed out, which is released."""
+    """Returns the octets of a text from the library, and frees the text."""
     if not text.value:
         return b""
     try:

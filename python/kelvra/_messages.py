@@ -59,7 +59,7 @@ def read_capture(path: Union[str, "os.PathLike[str]"], *, ports: Optional[Mappin
 
 
 class _Capture:
-    """An open capture, which is closed with the last reference to it."""
+    """An open capture, closed with the last reference to it."""
 
     def __init__(self, library: ctypes.CDLL, handle: ctypes.c_void_p) -> None:
         self.library = library
@@ -81,7 +81,7 @@ def _messages(capture: _Capture, strict: bool) -> Iterator[Dict[str, Any]]:
             return
         elif status == _library.LOSS:
             warnings.warn(_words(said), CaptureLoss, stacklevel=2)
-        elif status > _library.OK:  # a notice, or what a later library adds
+        elif status > _library.OK:  # a notice, or a status of a later library
             warnings.warn(_words(said), CaptureNotice, stacklevel=2)
         else:
             _raise(status, said)

@@ -1,4 +1,4 @@
-"""Tests of the package with a built library, which KELVRA_TEXT_LIBRARY names."""
+"""Tests the package with the library that KELVRA_TEXT_LIBRARY names."""
 import gc
 import os
 import pathlib
@@ -21,7 +21,7 @@ REJECT = bytes.fromhex("08000004060008914a000520")
 
 
 def python(program, *, folder=PACKAGE.parent, library=None, cwd=TOP):
-    """Runs a program in an interpreter of its own, without the library that this one has."""
+    """Runs a program in its own interpreter, without the library that this one has loaded."""
     environment = {name: value for name, value in os.environ.items() if name != kelvra.LIBRARY_VARIABLE}
     environment["PYTHONPATH"] = str(folder)
     if library is not None:
@@ -151,7 +151,7 @@ class ReadCapture(FolderCase):
         header, length = octets[:24], struct.unpack("<I", octets[32:36])[0]
         packet = bytearray(octets[40:40 + length])
         udp = 14 + 20
-        packet[udp + 8:] = packet[udp + 8:-3]  # a datagram that holds three octets less
+        packet[udp + 8:] = packet[udp + 8:-3]  # the datagram is three octets shorter
         packet[16:18] = struct.pack(">H", len(packet) - 14)
         packet[udp + 4:udp + 6] = struct.pack(">H", len(packet) - udp)
         cut = self.file(header + octets[24:32] + struct.pack("<II", len(packet), len(packet)) + packet)

@@ -1,5 +1,5 @@
-// Stands in for the C library's <string.h> where Clang compiles the public headers for Windows, whose C library is not
-// on this machine. It declares what those headers use, and nothing else, so that more does not slip in.
+// Replaces the C library's <string.h> when Clang compiles the public headers for Windows, whose C library this machine
+// lacks. It declares only what those headers use, so that nothing else slips in.
 #pragma once
 
 #include <stddef.h>
