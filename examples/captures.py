@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
-"""Counts the messages of all captures of a folder, on all cores: captures.py FOLDER [PROCESSES]
+"""Counts the messages of all captures in a folder, on all cores: captures.py FOLDER [PROCESSES]
 
 Prints one line for each capture and one for all: messages, how many are complete, and how many there are of each
-family. Each capture is read by one process. The exit status is 1 where a capture could not be read to its end.
+family. Each capture is read by one process. The exit status is 1 if a capture could not be read to its end.
 """
 import collections
 import concurrent.futures

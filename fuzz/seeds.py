@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """Seeds for the fuzzers: seeds.py DATA CAPTURE OUT
 
-DATA holds ras.jsonl, q931.jsonl and h245.jsonl, one message a line with its octets under `hex`; CAPTURE is a
-pcap file of Ethernet frames with IPv4. Writes one file a message into OUT/ras, OUT/q931 and OUT/h245.
+DATA holds ras.jsonl, q931.jsonl and h245.jsonl, one message per line with its octets under `hex`; CAPTURE is a
+pcap file of Ethernet frames with IPv4. Writes one file per message into OUT/ras, OUT/q931 and OUT/h245.
 """
 import hashlib
 import json

@@ -8,8 +8,8 @@
     for message in kelvra.read_capture("call.pcap"):
         print(message["time"], message["name"])
 
-A dictionary is a line of ``kelvra-dump --format json``. The work is done by the shared library kelvra_text, which is
-looked for when it is first needed; see `load_library`.
+Each dictionary is one line of ``kelvra-dump --format json``. The shared library kelvra_text does the work; it is
+located on first use; see `load_library`.
 """
 from ._errors import (CaptureLoss, CaptureNotice, CaptureWarning, KelvraError, LibraryError, LibraryNotFound,
                       MalformedMessage, UnreadableCapture)

@@ -24,11 +24,11 @@ _loaded: Optional[ctypes.CDLL] = None
 
 
 def load_library(path: Optional[Path] = None) -> None:
-    """Loads kelvra_text, in place of the one that is loaded.
+    """Loads kelvra_text, replacing the one already loaded.
 
     Without a path it is looked for in this order: the file that the environment variable KELVRA_TEXT_LIBRARY names,
-    the folder of this package, the places of the system. Where one is named, no other is tried. Nobody need call this:
-    the first decode does. Raises LibraryNotFound, or LibraryError for a library that does not suit this package.
+    the folder of this package, the places of the system. If one is named, no other is tried. Calling this is
+    optional: the first decode does it. Raises LibraryNotFound, or LibraryError for a library that does not match this package.
     """
     global _loaded
     with _lock:

@@ -17,10 +17,10 @@ def decode(family: Family, octets: Octets, *, strict: bool = False) -> Dict[str,
     """Decodes one message.
 
     `family` is "ras" (one UDP datagram; no spare octet is needed), "q931" (with its TPKT header) or "h245" (without
-    it). The dictionary has ``name``, ``complete`` and ``message``, and ``fault`` where the message is not complete.
+    it). The dictionary has ``name``, ``complete`` and ``message``, and ``fault`` if the message is incomplete.
     Malformed messages and those cut short have one too, with what was read; `strict` raises MalformedMessage for them.
 
-    Raises ValueError for another family, TypeError where `octets` are none.
+    Raises ValueError for another family, TypeError if `octets` is not bytes-like.
     """
     number = _number_of(family)
     data = bytes(memoryview(octets))
@@ -39,9 +39,9 @@ def read_capture(path: Union[str, "os.PathLike[str]"], *, ports: Optional[Mappin
 
     A dictionary has what `decode` returns, and ``frame``, ``time``, ``source`` and ``destination``. Messages are found
     by UDP ports 1718 and 1719, TCP port 1720 and the addresses that messages announce; `ports` adds to them:
-    ``{"ras": [1819]}``. What of the capture cannot be read as messages is warned of as CaptureLoss.
+    ``{"ras": [1819]}``. Octets that cannot be read as messages cause a CaptureLoss warning.
 
-    The file is opened at once and read as the iteration goes on. Raises UnreadableCapture for a file that is no
+    The file is opened at once and read during the iteration. Raises UnreadableCapture for a file that is no
     capture, and after the messages before it where one cannot be read on; with `strict` MalformedMessage for the first
     message that is not complete.
     """

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""That the checks of the library refuse what they are for: checks_test.py SCRIPTS LIBRARY DEF
+"""Tests that the checks of the library reject what they should: checks_test.py SCRIPTS LIBRARY DEF
 
 LIBRARY is the shared library as shipped, DEF lists its exports.
 """
@@ -86,7 +86,7 @@ class HeadersTest(ChecksTest):
         self.write("kelvra/kelvra_c.h", self.C_HEADER)
 
     def assert_header(self, reason, text, guard="#pragma once\n"):
-        """That `text` as a header is refused for `reason`, or passes where that is None."""
+        """Asserts that `text` as a header is rejected for `reason`, or passes if that is None."""
         self.write("kelvra/some.h", guard + text + "\n")
         with self.subTest(text):
             if reason is None:

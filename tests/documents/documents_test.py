@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""What the documents show holds: links lead somewhere, code compiles, and programs print what stands after them.
+"""Tests the documents: links resolve, code compiles, and programs print the output shown after them.
 
 Usage: documents_test.py COMPILER ARCHIVE TEXT_LIBRARY
 """

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""That the programs of examples/ show what they say: examples_test.py FOLDER LIBRARY [EMULATOR]
+"""Tests the output of the programs in examples/: examples_test.py FOLDER LIBRARY [EMULATOR]
 
-FOLDER holds the programs, LIBRARY is the shared library, EMULATOR what starts a program.
+FOLDER holds the programs, LIBRARY is the shared library, EMULATOR starts a program.
 """
 import pathlib
 import re

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""That kelvra_text, through its functions in C, says the same as the viewer: text_test.py TEXT_LINES KELVRA_DUMP [EMULATOR...]"""
+"""Tests that the C functions of kelvra_text agree with the viewer: text_test.py TEXT_LINES KELVRA_DUMP [EMULATOR...]"""
 import json
 import pathlib
 import subprocess

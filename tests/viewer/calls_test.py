@@ -3,8 +3,8 @@
 
 Usage: calls_test.py KELVRA_DUMP [EMULATOR...]
 
-Whole outputs are compared with the files of golden/calls/. Where KELVRA_UPDATE is set, these are written instead; read them
-against samples/README.md before you carry them.
+Whole outputs are compared with the files of golden/calls/. If KELVRA_UPDATE is set, the test writes them
+instead; compare them with samples/README.md before you commit them.
 """
 import os
 import sys

@@ -2,7 +2,7 @@
 """Compares whole outputs of kelvra-dump with the files of golden/, which a person has read.
 
 Usage: golden_test.py KELVRA_DUMP [EMULATOR...]
-       golden_test.py --renew KELVRA_DUMP     writes the files anew; look at the difference
+       golden_test.py --renew KELVRA_DUMP     rewrites the files; review the difference
 """
 import difflib
 import os

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Tests what the viewer says of itself: its guide, its manual page and its completion.
+"""Tests the viewer's documentation: its guide, its manual page and its completion.
 
 Usage: guide_test.py KELVRA_DUMP [EMULATOR...]
 """
