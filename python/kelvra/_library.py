@@ -26,9 +26,9 @@ _loaded: Optional[ctypes.CDLL] = None
 def load_library(path: Optional[Path] = None) -> None:
     """Loads kelvra_text, replacing the one already loaded.
 
-    Without a path it is looked for in this order: the file that the environment variable KELVRA_TEXT_LIBRARY names,
-    the folder of this package, the places of the system. If one is named, no other is tried. Calling this is
-    optional: the first decode does it. Raises LibraryNotFound, or LibraryError for a library that does not match this package.
+    Without a path it is looked for in this order: the file that the environment variable KELVRA_TEXT_LIBRARY names, the
+    folder of this package, the places of the system. If one is named, no other is tried. Calling this is optional: the
+    first decode does it. Raises LibraryNotFound, or LibraryError for a library that does not match this package.
     """
     global _loaded
     with _lock:
