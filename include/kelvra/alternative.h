@@ -1,4 +1,4 @@
-// Which alternative a CHOICE holds, as one value: its tag and its extension bit together.
+// The chosen alternative of a CHOICE as one value that combines its tag and its extension bit.
 //
 //   switch (AlternativeOf(alias)) {
 //     case h225::AliasAddress::kDialedDigits: ...
@@ -6,7 +6,7 @@
 //     default: ...
 //   }
 //
-// A value without an enumerator is an alternative that this library does not know, or that of a refused message.
+// A value without an enumerator is an alternative that this library does not know, or comes from a refused message.
 #pragma once
 
 #include <stdint.h>

@@ -1,8 +1,7 @@
-// What every header with descriptions begins with: the macros that they are written with, which
-// kelvra/end_descriptions.h takes back, and the headers that these need. Packed members cannot be bound to references,
-// so a macro takes the address and the type of each, and its name.
+// Defines the macros for descriptions and includes the headers that they need; kelvra/end_descriptions.h undefines
+// them. References cannot bind to packed members, so a macro takes each member's address, type and name.
 //
-// This header is included again for each header with descriptions, so it has no guard.
+// Every header with descriptions includes this one, so it has no guard.
 
 #include <stdint.h>
 
@@ -17,7 +16,7 @@
 #define KELVRA_INLINE inline
 #endif
 
-// Opens the description of a SEQUENCE, and of a CHOICE whose index is kept in `tag`. KELVRA_END closes either. The
+// Open the description of a SEQUENCE, or of a CHOICE whose index is kept in `tag`. KELVRA_END closes it. The
 // enumerators of a CHOICE are in names.h.
 #define KELVRA_SEQUENCE KELVRA_DESCRIPTION(kSequence)
 #define KELVRA_CHOICE(tag)     \
@@ -39,7 +38,7 @@
   KELVRA_INLINE static bool Describe([[maybe_unused]] Record_& m, [[maybe_unused]] Follower_& v) { \
     using namespace ::kelvra::asn1;
 
-// Describes an ENUMERATED by its member and its identifiers, in order of their values.
+// Describes an ENUMERATED by its member and its identifiers, in value order.
 #define KELVRA_ENUMERATED(member, ...)                                                       \
   enum Value : uint32_t;                                                                     \
   static constexpr ::kelvra::asn1::TypeForm kForm = ::kelvra::asn1::TypeForm::kEnumerated;   \
@@ -50,8 +49,8 @@
     visitor.EnumeratedValue(m.member, m.member < kCount ? kIdentifiers[m.member] : nullptr); \
   }
 
-// Declares the record of a CHOICE of NULLs: `record` (null_choice.h) under the name `name`, its number of root
-// alternatives, and the identifiers of all.
+// Declares the record of a CHOICE of NULLs: the template `record` (null_choice.h), its name, its number of root
+// alternatives, and all identifiers.
 #define KELVRA_NULL_CHOICE(record, name, roots, ...)              \
   struct name##Names {                                            \
     enum Alternative : uint32_t;                                  \
@@ -64,17 +63,17 @@
 #define KELVRA_LIST_PLACE(member) \
   ::kelvra::ListAt<decltype(m.member##Count), decltype(m.member)>(&(m.member##Count), &(m.member))
 
-// A component, and one that is OPTIONAL (or has a DEFAULT): its flag, its member and its kind.
+// A mandatory component, and an OPTIONAL or DEFAULT one: its flag, its member and its kind.
 #define KELVRA_MEMBER(member, ...) \
   if (!v.Member(#member, KELVRA_PLACE(member), __VA_ARGS__)) return false
 #define KELVRA_OPTIONAL(flag, member, ...) \
   if (!v.Optional(KELVRA_PLACE(flag), #member, KELVRA_PLACE(member), __VA_ARGS__)) return false
-// The extension marker: what follows are extension additions, or extension alternatives of a CHOICE.
+// The extension marker. Extension additions, or extension alternatives of a CHOICE, follow.
 #define KELVRA_EXTENSION(flag) v.Extension(KELVRA_PLACE(flag))
 #define KELVRA_ADDITION(flag, member, ...) \
   if (!v.Addition(KELVRA_PLACE(flag), #member, KELVRA_PLACE(member), __VA_ARGS__)) return false
 
-// The same for a list: the pointer `member`, with the count before it in `memberCount`.
+// The same for a list: the pointer `member`, and its count `memberCount`.
 #define KELVRA_MEMBER_LIST(member, ...) \
   if (!v.Member(#member, KELVRA_LIST_PLACE(member), __VA_ARGS__)) return false
 #define KELVRA_OPTIONAL_LIST(flag, member, ...) \
@@ -82,15 +81,15 @@
 #define KELVRA_ADDITION_LIST(flag, member, ...) \
   if (!v.Addition(KELVRA_PLACE(flag), #member, KELVRA_LIST_PLACE(member), __VA_ARGS__)) return false
 
-// The additions that follow belong to the senders of H.225.0 versions `first` to `last` only.
+// Only senders of H.225.0 versions `first` to `last` use the additions that follow.
 #define KELVRA_VERSIONS(first, last) v.Versions(first, last)
 
-// The alternatives of a CHOICE, in order of their tags: a member of the union, or a NULL by its name.
+// The alternatives of a CHOICE in tag order: a member of the union, or a NULL by its name.
 #define KELVRA_ALTERNATIVE(member, ...) \
   if (!v.Alternative(#member, KELVRA_PLACE(member), __VA_ARGS__)) return false
 #define KELVRA_NULL(name) \
   if (!v.NullAlternative(#name)) return false
-// A known extension alternative whose value is passed over, like that of an unknown one.
+// A known extension alternative whose value is skipped like that of an unknown one.
 #define KELVRA_PASSED_OVER(name) \
   if (!v.PassedOver(#name)) return false
 // The only component of a list type, whose record is a count and a pointer.

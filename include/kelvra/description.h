@@ -1,6 +1,6 @@
-// The vocabulary in which a record is described: one word for each ASN.1 type and constraint that occurs.
+// The vocabulary of record descriptions: one function for each ASN.1 type and constraint that occurs.
 //
-// A record type describes itself in the order of its ASN.1, in a function that the macros of
+// A record type describes its components in ASN.1 order, in a function that the macros of
 // kelvra/begin_descriptions.h open and close:
 //
 //   struct AlternateGK {
@@ -15,9 +15,8 @@
 //     KELVRA_END
 //   };
 //
-// A description says nothing about reading or writing. What follows it (a decoder, a walk, a check) is an object
-// that is shown each component in turn: its name, its place in the record and its kind, which is one of the
-// classes below.
+// A description does not say how to read or write. A follower (a decoder, a walk, a check) is an object that receives
+// each component in turn: its name, its place in the record and its kind, one of the classes below.
 #pragma once
 
 #include <stdint.h>
@@ -28,7 +27,7 @@
 
 namespace kelvra {
 
-// How the octets of a string are to be read by a person.
+// How to present the octets of a string.
 enum class OctetNotation : uint8_t {
   kOctets,      // OCTET STRING, or an open type kept whole
   kCharacters,  // IA5String, GeneralString and the like
@@ -41,7 +40,7 @@ namespace asn1 {
 
 inline constexpr int64_t kUnsigned32Maximum = 0xFFFFFFFF;
 
-// --- Kinds: what the words below return ---
+// --- Kinds: what the functions below return ---
 
 struct BooleanKind {};
 struct NullKind {};
@@ -119,9 +118,9 @@ struct NamedKind {
 
 // BOOLEAN.
 constexpr BooleanKind Boolean() { return {}; }
-// NULL; where a record has a member for it, that stays zero.
+// NULL. A record's member for it, if any, stays zero.
 constexpr NullKind Null() { return {}; }
-// INTEGER (low..high). The number is not checked against its range where its field is wider.
+// INTEGER (low..high). The number is not checked against its range if its field is wider.
 constexpr IntegerKind Integer(int64_t low, int64_t high) { return {{}, low, high}; }
 // INTEGER (low..high, ...).
 constexpr ExtensibleIntegerKind ExtensibleInteger(int64_t low, int64_t high) { return {{}, low, high}; }
@@ -139,9 +138,9 @@ struct StringWord {
   constexpr UnsizedStringKind<kUnits, kNotation> operator()() const { return {}; }
 };
 
-// OCTET STRING. Without a size constraint its length is kept as sent, even where octets are missing.
+// OCTET STRING. Without a size constraint its length is kept as sent, even if octets are missing.
 inline constexpr StringWord<StringUnits::kOctets, OctetNotation::kOctets> OctetString{};
-// The same where a length past the end leaves an empty value instead.
+// OCTET STRING; a length past the end leaves an empty value.
 constexpr ClearedOctetStringKind ClearedOctetString() { return {}; }
 // OCTET STRING (SIZE (size)) whose length word stays zero.
 constexpr UncountedOctetStringKind UncountedOctetString(uint32_t size) { return {size}; }
@@ -172,21 +171,21 @@ constexpr UnsizedStringKind<StringUnits::kBits, OctetNotation::kBits> BitString(
 
 // --- Records ---
 
-// A SEQUENCE or CHOICE with a name of its own. In H.225.0 and H.235 its decoder fails where nothing is left.
+// A named SEQUENCE or CHOICE. In H.225.0 and H.235 its decoder fails if nothing is left.
 constexpr DefinedTypeKind DefinedType() { return {}; }
-// Any other type with a name of its own, which stands for `kind`.
+// Any other named type, an alias of `kind`.
 template <class Kind>
 constexpr AliasKind<Kind> DefinedType(Kind kind) {
   return {kind};
 }
-// A SEQUENCE or CHOICE that the ASN.1 writes out in place.
+// A SEQUENCE or CHOICE that the ASN.1 defines inline.
 constexpr InlineTypeKind InlineType() { return {}; }
 // A defined type in a block of its own.
 constexpr IndirectKind IndirectType() { return {}; }
 // OCTET STRING (CONTAINING a defined type), decoded in place.
 constexpr ContainingKind Containing() { return {}; }
 
-// SEQUENCE OF and SET OF: with a length determinant, and of SIZE (low..high).
+// SEQUENCE OF and SET OF: with a length determinant, and with SIZE (low..high).
 template <class Kind>
 constexpr SequenceOfKind<Kind> SequenceOf(Kind element) {
   return {element};
@@ -196,13 +195,13 @@ constexpr SizedSequenceOfKind<Kind> SequenceOf(int64_t low, int64_t high, Kind e
   return {low, high, element};
 }
 
-// An element of a list that is read even where the message has ended: its length is kept.
+// A list element that is read even after the end of the message: its length is kept.
 template <class Kind>
 constexpr EvenIfMissingKind<Kind> EvenIfMissing(Kind kind) {
   return {kind};
 }
 
-// A component whose identifier in the ASN.1 is not that of the record's member.
+// A component whose ASN.1 identifier differs from the name of the record's member.
 template <class Kind>
 constexpr NamedKind<Kind> Named(const char* name, Kind kind) {
   return {name, kind};
@@ -210,7 +209,7 @@ constexpr NamedKind<Kind> Named(const char* name, Kind kind) {
 
 // --- Places ---
 
-// The place of a scalar in a packed record, which may be any address.
+// The place of a scalar in a packed record, at any alignment.
 template <class T>
 class Scalar {
  public:
@@ -253,7 +252,7 @@ decltype(auto) PlaceOf(const void* address) {
 
 // --- Kinds that refer to another member ---
 
-// OCTET STRING whose length is kept in `length`: any, or of SIZE (size).
+// OCTET STRING whose length is kept in `length`: of any size, or of SIZE (size).
 struct SplitOctetStringKind {
   Scalar<uint32_t> length;
 };
@@ -264,13 +263,13 @@ struct FixedSplitOctetStringKind {
 inline SplitOctetStringKind OctetStringOf(Scalar<uint32_t> length) { return {length}; }
 inline FixedSplitOctetStringKind OctetStringOf(Scalar<uint32_t> length, uint32_t size) { return {length, size}; }
 
-// An inline SEQUENCE whose extension bit is kept in `flag`, a member of what holds it.
+// An inline SEQUENCE whose extension bit is kept in `flag`, a member of the enclosing record.
 struct ExtendedInlineTypeKind : RecordKind {
   Flag flag;
 };
 inline ExtendedInlineTypeKind InlineTypeExtendedBy(Flag flag) { return {{}, flag}; }
 
-// An addition that is read where `flag`, that of another addition, is set.
+// An addition that is read if `flag`, the flag of another addition, is set.
 template <class Kind>
 struct GatedKind {
   Flag flag;
@@ -287,8 +286,8 @@ enum class TypeForm : uint8_t { kSequence, kChoice, kEnumerated };
 
 }  // namespace asn1
 
-// The families differ in what a decoder reports: those of H.225.0 and H.235 return a status, which travels up to
-// the message; those of H.245 return nothing, and what is around a failure goes on where it left the reader.
+// The families differ in what a decoder reports. Failures in H.225.0 and H.235 types propagate to the message. Failures
+// in H.245 types do not: the enclosing type continues where the failure left the reader.
 constexpr bool ReportsFailures(...) { return true; }
 namespace h245 {
 template <class T>

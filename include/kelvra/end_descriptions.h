@@ -1,4 +1,4 @@
-// Takes back the macros of kelvra/begin_descriptions.h. Included again for each header with descriptions.
+// Undefines the macros of kelvra/begin_descriptions.h. Every header with descriptions includes it.
 
 #undef KELVRA_INLINE
 #undef KELVRA_SEQUENCE

@@ -1,5 +1,4 @@
-// Pointers and lists in packed records. A pointer is moved by its octets, because it may stand at any
-// address.
+// Pointers and lists in packed records. Pointers may be unaligned, so they are copied by memcpy.
 #pragma once
 
 #include <stdint.h>
@@ -25,8 +24,8 @@ class Slot {
   void* address_;
 };
 
-// A list in a record: how many elements its block holds, and the slot of the pointer to the block. Iterating
-// over a list whose block was refused meets no element.
+// A list in a record: its element count and the slot of the pointer to its block. A list whose block was refused
+// iterates over no element.
 template <class ElementType, class Count>
 class ListView {
  public:
@@ -40,7 +39,7 @@ class ListView {
     memcpy(&count, count_, sizeof count);
     return count;
   }
-  // Keeps as many of the low bits as the record has room for.
+  // Keeps as many low bits as the record has room for.
   void SetSize(uint32_t size) const {
     const Count count = static_cast<Count>(size);
     memcpy(count_, &count, sizeof count);
@@ -70,7 +69,7 @@ struct ListViewOf<Element*, Count> {
 
 }  // namespace detail
 
-// The list of a count and a pointer that are members of a record, by their addresses.
+// A list by the addresses of its count and its pointer.
 template <class Count, class Pointer>
 typename detail::ListViewOf<Pointer, Count>::Type ListAt(const void* count, const void* elements) {
   return {count, elements};
@@ -81,7 +80,7 @@ template <class Element, class Count>
 ListView<Element, Count> ListOf(ListView<Element, Count> list) {
   return list;
 }
-// A list that is a record of its own, with `count` and `elements`, as an alternative of a CHOICE is.
+// A list that is a record with `count` and `elements`, such as an alternative of a CHOICE.
 template <class Record>
 auto ListOf(Record& list) {
   return ListAt<decltype(list.count), decltype(list.elements)>(&list.count, &list.elements);

@@ -1,9 +1,9 @@
-// The records of the CHOICEs whose alternatives are all NULL, which are described by a list of names:
+// Records of CHOICEs whose alternatives are all NULL. A list of names describes them:
 //
 //   KELVRA_NULL_CHOICE(NullChoice, CallModel, 2, "direct", "gatekeeperRouted");
 //
-// names the root alternatives first, of which there are two. A record derives from its list, which gives it the
-// enumerators that names.h defines there.
+// has two root alternatives, which come first. The record derives from its list and so has the enumerators that
+// names.h defines there.
 #pragma once
 
 #include <stdint.h>
@@ -15,13 +15,13 @@ constexpr uint32_t CountOf(const char* const (&)[kCount]) {
   return kCount;
 }
 
-// How many extension alternatives a CHOICE of NULLs knows.
+// The number of known extension alternatives of a CHOICE of NULLs.
 template <class Names>
 constexpr uint32_t ExtensionsOf() {
   return CountOf(Names::kAlternatives) - Names::kRoots;
 }
 
-// Shows a CHOICE of NULLs to a visitor.
+// Reports a CHOICE of NULLs to a visitor.
 template <class Names, class Visitor>
 void WalkNullChoice(Visitor& visitor, uint32_t isExtension, uint32_t tag) {
   if (isExtension == 0) {
@@ -34,7 +34,7 @@ void WalkNullChoice(Visitor& visitor, uint32_t isExtension, uint32_t tag) {
 
 #pragma pack(push, 1)
 
-// Of H.225.0 and H.235.
+// For H.225.0 and H.235.
 template <class Names>
 struct NullChoice : Names {
   using AlternativeNames = Names;
@@ -51,7 +51,7 @@ struct NullChoice : Names {
 
 namespace h245 {
 
-// Of H.245, where the extension bit stands first.
+// For H.245, whose records begin with the extension bit.
 template <class Names>
 struct NullChoice : Names {
   using AlternativeNames = Names;

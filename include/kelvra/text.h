@@ -1,9 +1,9 @@
 // Text of decoded values, for C++ programs: characters, digits, object identifiers, addresses, aliases and names.
 //
-// All text is UTF-8 and not escaped: it may hold control characters that a sender chose, NUL included. Every function
-// takes whatever a decode left in a record, that of a refused message and one that was released included: a null
-// pointer with a count is an empty value, and nothing is read past what a count says. A function returns an empty
-// string where there is nothing to show. They allocate, and may throw std::bad_alloc.
+// All text is UTF-8 and not escaped: it may hold control characters from the sender, including NUL. Every function
+// accepts any record that a decode filled, even after a refused message or a release: a null pointer is an empty value
+// whatever its count, and nothing is read past a count. A function returns an empty string if there is nothing to show.
+// The functions allocate, and may throw std::bad_alloc.
 #pragma once
 
 #include <stddef.h>
@@ -21,11 +21,11 @@ namespace kelvra {
 
 // --- Lists ---
 
-// The elements of a list in a record, by its pointer and its count, for a range-based loop:
+// The elements of a list in a record, for a range-based loop:
 //
 //   for (const h225::AliasAddress& alias : ElementsOf(request.terminalAlias, request.terminalAliasCount)) ...
 //
-// There are none where the pointer is null. The range is valid until the record is released.
+// The range is empty if the pointer is null. It is valid until the record is released.
 template <class T>
 class ElementRange {
  public:
@@ -72,8 +72,7 @@ inline bool IsLowSurrogate(uint32_t unit) { return unit >= 0xDC00 && unit < 0xE0
 
 }  // namespace detail
 
-// `count` code units of UTF-16 in host order. A surrogate without its partner becomes U+FFFD. At most three octets for
-// each unit.
+// `count` UTF-16 code units in host order. An unpaired surrogate becomes U+FFFD. At most three octets per unit.
 inline std::string Utf16Text(const uint16_t* units, uint32_t count) {
   constexpr uint32_t kReplacement = 0xFFFD;
   std::string text;
@@ -89,8 +88,8 @@ inline std::string Utf16Text(const uint16_t* units, uint32_t count) {
   return text;
 }
 
-// `count` characters of 8 bits, as of an IA5String; those from 128 on are taken for Latin-1. At most two octets for
-// each character.
+// `count` 8-bit characters, such as those of an IA5String; values from 128 are read as Latin-1. At most two octets per
+// character.
 inline std::string Latin1Text(const uint8_t* characters, uint32_t count) {
   std::string text;
   for (const uint8_t character : ElementsOf(characters, count)) detail::AppendUtf8(text, character);
@@ -103,8 +102,8 @@ inline std::string TextOf(const BMPStringValue& value) { return Utf16Text(value.
 // A string of 8-bit characters (IA5String, GeneralString, NumericString ...), such as a url-ID.
 inline std::string CharactersOf(const OctetStringValue& value) { return Latin1Text(value.data, value.length); }
 
-// Dialled digits (NumberDigits: dialedDigits, the digits of a PartyNumber), which a record keeps as one code per octet:
-// "#*,0123456789". An octet that is no code becomes '?'. One octet for each digit.
+// Dialled digits (NumberDigits: dialedDigits, the digits of a PartyNumber). A record keeps one code per octet, an index
+// into "#*,0123456789". Any other octet becomes '?'. One octet per digit.
 inline std::string DigitsOf(const OctetStringValue& value) {
   static constexpr char kDigits[] = "#*,0123456789";
   std::string text;
@@ -113,7 +112,7 @@ inline std::string DigitsOf(const OctetStringValue& value) {
   return text;
 }
 
-// An object identifier as dotted text, "0.0.8.2250.0.4". At most 11 octets for each arc.
+// An object identifier as dotted text, "0.0.8.2250.0.4". At most 11 octets per arc.
 inline std::string TextOf(const ObjectIdentifierValue& value) {
   std::string text;
   for (const uint32_t arc : ElementsOf(value.arcs, value.count)) {
@@ -125,19 +124,19 @@ inline std::string TextOf(const ObjectIdentifierValue& value) {
 
 // --- Addresses ---
 
-// An IPv4 address of 4 octets in network order, "192.0.2.1". Empty where the pointer is null.
+// An IPv4 address of 4 octets in network order, "192.0.2.1". Empty if the pointer is null.
 inline std::string Ipv4Text(const uint8_t* octets) {
   std::string text;
   for (const uint8_t octet : ElementsOf(octets, 4)) text += (text.empty() ? "" : ".") + std::to_string(octet);
   return text;
 }
 
-// An IPv6 address of 16 octets in network order, "2001:db8::1" (RFC 5952). Empty where the pointer is null.
+// An IPv6 address of 16 octets in network order, "2001:db8::1" (RFC 5952). Empty if the pointer is null.
 inline std::string Ipv6Text(const uint8_t* octets) {
   constexpr uint32_t kGroups = 8;
   if (octets == nullptr) return {};
   const auto group = [octets](size_t i) { return static_cast<uint32_t>(octets[2 * i] << 8 | octets[2 * i + 1]); };
-  // The longest run of zeros, the first of those that are as long; one group alone is not shortened (4.2.2).
+  // The first of the longest runs of zero groups; a single group is not shortened (4.2.2).
   uint32_t start = kGroups;
   uint32_t longest = 1;
   for (uint32_t i = 0, run = 0; i < kGroups; ++i) {
@@ -181,8 +180,8 @@ inline std::string Ipv6Endpoint(const OctetStringValue& ip, uint16_t port) {
 
 }  // namespace detail
 
-// An IP address with its port: "192.0.2.1:1720", "[2001:db8::1]:1720". Empty of any other kind of address. Of a source
-// route it is the address at its end.
+// An IP address with its port: "192.0.2.1:1720", "[2001:db8::1]:1720". For a source route, the destination address.
+// Empty for any other kind of address.
 inline std::string TextOf(const h225::TransportAddress& address) {
   using h225::TransportAddress;
   switch (AlternativeOf(address)) {
@@ -201,7 +200,7 @@ inline std::string TextOf(const h245::UnicastAddress& address) {
       return detail::EndpointText(ip.networkLength == 4 ? Ipv4Text(ip.network) : std::string(), false,
                                   ip.tsapIdentifier);
     }
-    // The length words of these stay zero.
+    // The lengths of these stay zero.
     case UnicastAddress::kIP6Address:
       return detail::EndpointText(Ipv6Text(address.iP6Address.network.data), true, address.iP6Address.tsapIdentifier);
     case UnicastAddress::kIPSourceRouteAddress:
@@ -243,7 +242,7 @@ inline std::string TextOf(const h225::PartyNumber& number) {
   }
 }
 
-// An alias as a person writes it. Empty of a mobileUIM.
+// An alias as a user writes it. Empty for a mobileUIM.
 inline std::string TextOf(const h225::AliasAddress& alias) {
   using h225::AliasAddress;
   switch (AlternativeOf(alias)) {
@@ -261,7 +260,7 @@ inline std::string TextOf(const h225::AliasAddress& alias) {
 
 namespace detail {
 
-// Keeps the name of what it is shown.
+// Keeps the name that a walk reports.
 struct NameVisitor {
   const char* name = nullptr;
   void Number(const char* shown, int64_t) { name = shown; }
@@ -290,12 +289,12 @@ struct NameVisitor {
 
 }  // namespace detail
 
-// The ASN.1 identifier of the alternative that a CHOICE holds, or of the value of an ENUMERATED: "gatekeeperConfirm".
-// Null where the library does not know it. The text is static.
+// The ASN.1 identifier of the chosen alternative of a CHOICE, or of the value of an ENUMERATED: "gatekeeperConfirm".
+// Null if the library does not know it. The text is static.
 template <class Record>
 const char* NameOf(const Record& record) {
   detail::NameVisitor visitor;
-  Record::Walk(const_cast<Record&>(record), visitor);  // it changes nothing
+  Record::Walk(const_cast<Record&>(record), visitor);  // the visitor changes nothing
   return visitor.name;
 }
 

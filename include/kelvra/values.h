@@ -1,6 +1,6 @@
-// The small records that strings and object identifiers are decoded into, shared by all families.
-// All records are packed; a pointer is null when its count is 0, and may be null with a count that
-// is not when the message was cut short. Nothing is NUL-terminated.
+// The records for strings and object identifiers, shared by all families. All records are packed. A pointer is null
+// if its count is 0; it may also be null with another count if the message was cut short. Nothing is
+// NUL-terminated.
 #pragma once
 
 #include <stdint.h>

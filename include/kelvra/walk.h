@@ -2,30 +2,30 @@
 //
 //   template <class Record, class Visitor> static void Walk(Record& record, Visitor& visitor);
 //
-// that shows a visitor the members of the record in the order of the ASN.1, under their ASN.1 identifiers: present
-// members only, and of a CHOICE the chosen alternative only. A visitor has these members; what it does not care
-// about it can take from EmptyVisitor:
+// that reports the record's members to a visitor in ASN.1 order, under their ASN.1 identifiers: only present members,
+// and only the chosen alternative of a CHOICE. A visitor has these members and can inherit those it does not need from
+// EmptyVisitor:
 //
 //   void Number(const char* name, int64_t value);                        INTEGER
 //   void Boolean(const char* name, uint32_t value);                      BOOLEAN
 //   void EnumeratedValue(uint32_t value, const char* identifier);
 //                                        the value of an ENUMERATED record; null: it has no identifier
-//   void Null(const char* name);                                         NULL, or a value that is passed over
-//   void UnknownExtension(uint32_t index);         a CHOICE's extension alternative that is not known
+//   void Null(const char* name);                                         NULL, or a value that is skipped
+//   void UnknownExtension(uint32_t index);         an unknown extension alternative of a CHOICE
 //   void UnknownRoot(uint32_t index);              an index past a CHOICE's root alternatives
 //   void ObjectIdentifier(const char* name, ObjectIdentifierValue& value);
 //   void WideCharacters(const char* name, BMPStringValue& value);        BMPString
 //   void Octets(const char* name, Slot<uint8_t> slot, uint32_t count, OctetNotation notation);
-//                                        any other string, in a block of its own
+//                                        any other string, in its own block
 //   void EmbeddedOctets(const char* name, const uint8_t* octets, uint32_t count, OctetNotation notation);
-//                                        octets that stand in the record itself
+//                                        octets in the record itself
 //   template <class R> void Record(const char* name, R& record);         SEQUENCE or CHOICE
-//   template <class R> void Pointer(const char* name, Slot<R> slot);     one in a block of its own
+//   template <class R> void Pointer(const char* name, Slot<R> slot);     one in its own block
 //   template <class L, class Show> void List(const char* name, L list, Show show);   SEQUENCE OF or SET OF:
-//                                        show(element) shows one of its elements, whose name is null
+//                                        show(element) reports one element, under a null name
 //
-// Where the elements of a list are lists themselves, each is a record whose only member has the name "". Blocks
-// belong to the record; a visitor that releases them does so through the slots.
+// If the elements of a list are lists, each is a record whose only member has the name "". The record owns its
+// blocks; a visitor that releases them does so through the slots.
 #pragma once
 
 #include <stdint.h>
@@ -36,7 +36,7 @@
 
 namespace kelvra {
 
-// Does nothing, and goes nowhere.
+// Does nothing, and does not descend.
 struct EmptyVisitor {
   void Number(const char*, int64_t) {}
   void Boolean(const char*, uint32_t) {}
@@ -56,7 +56,7 @@ struct EmptyVisitor {
   void List(const char*, L, Show) {}
 };
 
-// How many octets the block of a string has, and how many of a count that is in bits.
+// The octets in a string's block. `count` is in bits for a BIT STRING.
 constexpr uint32_t StringOctets(uint32_t count, OctetNotation notation) {
   const bool bits = notation == OctetNotation::kBits || notation == OctetNotation::kFixedBits;
   return bits ? count / 8 + (count % 8 != 0 ? 1U : 0U) : count;
@@ -64,7 +64,7 @@ constexpr uint32_t StringOctets(uint32_t count, OctetNotation notation) {
 
 namespace asn1 {
 
-// Shows a visitor one value, by its kind.
+// Reports one value to a visitor, by its kind.
 template <class Visitor>
 class ValueWalk {
  public:
@@ -190,15 +190,14 @@ struct ChoiceIndex {
   }
 };
 
-// The alternatives of a CHOICE as they are numbered by what follows its description: the root alternatives from 0 on,
-// the extension alternatives from kFirstExtension on.
+// Numbers the alternatives of a CHOICE: root alternatives from 0, extension alternatives from kFirstExtension.
 inline constexpr uint32_t kFirstExtension = 0x10000;
 inline uint32_t AlternativeNumber(bool isExtension, uint32_t index) {
   if (!isExtension) return index;
   return kFirstExtension + (index < kFirstExtension ? index : kFirstExtension);
 }
 
-// Follows the description of a CHOICE up to the alternative that is chosen.
+// Follows the description of a CHOICE up to the chosen alternative.
 template <class Visitor>
 class ChoiceWalk {
  public:
@@ -228,7 +227,7 @@ class ChoiceWalk {
 
 }  // namespace asn1
 
-// What Walk does for every type that is described.
+// Implements Walk for described types.
 template <class Record, class Visitor>
 void WalkRecord(Record& m, Visitor& visitor) {
   if constexpr (Record::kForm == asn1::TypeForm::kSequence) {
