@@ -217,8 +217,8 @@ struct ConnectUUIE {
     KELVRA_ADDITION_LIST(hasCryptoTokens, cryptoTokens, SequenceOf(DefinedType()));
     KELVRA_ADDITION_LIST(hasFastStart, fastStart, SequenceOf(Containing()));
     KELVRA_ADDITION(hasMultipleCalls, multipleCalls, Boolean());
-    // Read by the bit of multipleCalls, not by its own: where the two differ, this addition and those after it are
-    // read from the open type of a neighbour.
+    // The presence bit of multipleCalls decides whether this is read. If the two bits differ, this addition and those
+    // after it are read from the open type of a neighbour.
     KELVRA_ADDITION(hasMaintainConnection, maintainConnection, GatedBy(KELVRA_PLACE(hasMultipleCalls), Boolean()));
     KELVRA_ADDITION_LIST(hasLanguage, language, SequenceOf(IA5String(1, 32)));
     KELVRA_ADDITION_LIST(hasConnectedAddress, connectedAddress, SequenceOf(DefinedType()));

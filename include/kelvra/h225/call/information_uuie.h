@@ -1,4 +1,4 @@
-// The Information message body, and the one that Status, Status Inquiry, Setup Acknowledge and Notify share.
+// The Information message body, and the body shared by Status, Status Inquiry, Setup Acknowledge and Notify.
 #pragma once
 
 #include "../../h245/channels/open_logical_channel.h"

@@ -23,18 +23,18 @@ enum Q931Presence : uint32_t {
   kCallIdentityPresent = 0x00002000,
   kCalledPartySubaddressPresent = 0x00004000,
   kCallingPartySubaddressPresent = 0x00008000,
-  kSendingCompletePresent = 0x00010000,  // never set: single-octet elements are not looked at
+  kSendingCompletePresent = 0x00010000,  // never set: single-octet elements are ignored
 };
 
 #pragma pack(push, 1)
 
-// Octets of information elements are kept raw, extension and coding bits included. Party numbers start
+// Octets of information elements are kept raw, including extension and coding bits. Party numbers start
 // after the type-of-number octet and end with a NUL; an octet 3a counts as the first digit.
 struct Q931MessageRecord {
   uint32_t presenceMask;  // Q931Presence
   uint8_t protocolDiscriminator;
   uint8_t callReferenceLength;
-  uint16_t callReferenceValue;  // the flag bit included
+  uint16_t callReferenceValue;  // including the flag bit
   uint8_t messageType;          // Q931MessageType
   uint8_t calledPartyNumber[33];
   uint8_t callingPartyNumber[33];

@@ -1,4 +1,4 @@
-// Names for values of Q.931 information elements, which a record keeps as they were sent.
+// Names for values of Q.931 information elements, which a record keeps as sent.
 #pragma once
 
 #include <stdint.h>
@@ -121,7 +121,7 @@ struct Q850Cause {
   };
 };
 
-// The cause in `causeValue` of a Q931MessageRecord, whose uppermost bit is the extension bit.
+// The cause in `causeValue` of a Q931MessageRecord, without the extension bit at its top.
 constexpr Q850Cause::Value CauseOf(uint8_t causeValue) { return static_cast<Q850Cause::Value>(causeValue & 0x7F); }
 
 }  // namespace kelvra::h225

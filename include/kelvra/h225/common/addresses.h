@@ -90,8 +90,8 @@ struct TransportAddress {
     KELVRA_EXTENSION(isExtension);
   KELVRA_END
 
-  // Whether the tag is the index of an extension alternative of `routing`, which its decoder leaves there. No
-  // alternative but ipSourceRoute leaves these values in their places.
+  // Whether the tag is the index of an extension alternative of `routing`, which the decoder stores there. Only
+  // ipSourceRoute leaves these values in these members.
   bool HasTagOfRouting() const {
     return isExtension == 0 && ipSourceRoute.ip.length == 4 && ipSourceRoute.routing.choiceTag == 0 &&
            ipSourceRoute.routing.empty == 0 && ipSourceRoute.routing.isExtension == 1 &&
@@ -220,7 +220,7 @@ struct GSMUIM {
 
   KELVRA_SEQUENCE
     KELVRA_OPTIONAL(hasImsi, imsi, TBCDString(3, 16));
-    // An OCTET STRING in the ASN.1, read as digits like the others.
+    // An OCTET STRING in the ASN.1, but read as digits like the others.
     KELVRA_OPTIONAL(hasTmsi, tmsi, TBCDString(1, 4));
     KELVRA_OPTIONAL(hasMsisdn, msisdn, TBCDString(3, 16));
     KELVRA_OPTIONAL(hasImei, imei, TBCDString(15, 16));
@@ -289,7 +289,7 @@ struct ExtendedAliasAddress {
 
 #pragma pack(pop)
 
-// Walks an ipSourceRoute whose `routing` is the extension alternative `index`.
+// Walks an ipSourceRoute whose `routing` is extension alternative `index`.
 struct RouteOfUnknownRouting {
   struct Routing {
     uint8_t index;

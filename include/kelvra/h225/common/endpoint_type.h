@@ -1,4 +1,4 @@
-// What an endpoint is, who made it, and the protocols it supports.
+// The type of an endpoint, its vendor, and the protocols it supports.
 #pragma once
 
 #include "../../h245/capabilities/data_protocol.h"
@@ -134,7 +134,7 @@ struct T38FaxAnnexbOnlyCaps {
     KELVRA_OPTIONAL(hasNonStandardData, nonStandardData, DefinedType());
     KELVRA_OPTIONAL_LIST(hasDataRatesSupported, dataRatesSupported, SequenceOf(DefinedType()));
     KELVRA_MEMBER_LIST(supportedPrefixes, SequenceOf(DefinedType()));
-    // Types of H.245, which ask on entry here, and whose CHOICE reports an index past its alternatives.
+    // H.245 types. Here they fail if nothing is left on entry, and the CHOICE fails on an index past its alternatives.
     KELVRA_MEMBER(t38FaxProtocol, DefinedType());
     KELVRA_MEMBER(t38FaxProfile, DefinedType());
     KELVRA_EXTENSION(isExtended);

@@ -45,9 +45,9 @@ struct PresentationIndicatorNames {
 };
 using PresentationIndicator = NullChoice<PresentationIndicatorNames>;
 
-// ENUMERATED. Its decoder, written by hand, reads no extension bit: the values come out halved and the reader stays
-// one bit short. After an open type it resumes at the right place; the one that travels outside, in an
-// ExtendedAliasAddress, shifts what follows it. `isExtended` is never set.
+// ENUMERATED. Its hand-written decoder reads no extension bit: the values come out halved and the reader stops one bit
+// short. In an open type the reader still resumes at the right place; in an ExtendedAliasAddress, which is not in an
+// open type, everything after it is shifted. `isExtended` is never set.
 struct ScreeningIndicator {
   uint32_t value;
   uint32_t isExtended;

@@ -8,10 +8,10 @@ namespace kelvra::h225 {
 struct ProtocolIdentifierKind : asn1::ObjectIdentifierKind {};
 struct RegistrationProtocolIdentifierKind : asn1::ObjectIdentifierKind {};
 
-// That of a call-signalling body, whose version becomes that of the process.
+// In a call-signalling body. Its version becomes that of the process.
 constexpr ProtocolIdentifierKind ProtocolIdentifier() { return {}; }
-// That of a registration, whose version also decides which additions follow (KELVRA_VERSIONS). One of no version from
-// 1 to 4 is refused.
+// In a registration. Its version also decides which additions follow (KELVRA_VERSIONS). Versions other than 1 to 4 are
+// refused.
 constexpr RegistrationProtocolIdentifierKind RegistrationProtocolIdentifier() { return {}; }
 
 }  // namespace kelvra::h225

@@ -1,4 +1,4 @@
-// What is reported about the use that calls made of the network.
+// Usage reports of calls.
 #pragma once
 
 #include "non_standard.h"

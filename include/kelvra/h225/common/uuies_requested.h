@@ -1,4 +1,4 @@
-// Which call-signalling messages a gatekeeper asks to be told of.
+// Which call-signalling messages a gatekeeper asks endpoints to report.
 #pragma once
 
 #include "../../begin_descriptions.h"

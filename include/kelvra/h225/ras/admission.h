@@ -1,4 +1,4 @@
-// Leave to make or take a call: ARQ, ACF and ARJ.
+// Admission of calls: ARQ, ACF and ARJ.
 #pragma once
 
 #include "../common/addresses.h"
@@ -13,7 +13,7 @@
 
 namespace kelvra::h225 {
 
-// What travels with aliasesInconsistent is passed over, also where it is a list of aliases.
+// The value of aliasesInconsistent is skipped, even if it is a list of aliases.
 struct AdmissionRejectReason {
   struct PartyNumberList {
     uint8_t count;

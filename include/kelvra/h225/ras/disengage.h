@@ -12,7 +12,7 @@
 
 namespace kelvra::h225 {
 
-// Input that ends with the extension bit counts as exhausted.
+// Input that ends after the extension bit is kExhausted.
 struct DisengageReasonNames {
   enum Alternative : uint32_t;
   static constexpr bool kEntryCheckFollowsExtensionBit = true;

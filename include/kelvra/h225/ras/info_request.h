@@ -1,4 +1,4 @@
-// A gatekeeper asks for the state of calls: IRQ.
+// A gatekeeper's request for the state of calls: IRQ.
 #pragma once
 
 #include "../common/crypto_tokens.h"

@@ -1,4 +1,4 @@
-// Where a party is: LRQ, LCF and LRJ.
+// Location of a party: LRQ, LCF and LRJ.
 #pragma once
 
 #include "../common/addresses.h"
@@ -10,7 +10,7 @@
 
 namespace kelvra::h225 {
 
-// What travels with aliasesInconsistent is passed over, also where it is a list of aliases.
+// The value of aliasesInconsistent is skipped, even if it is a list of aliases.
 struct LocationRejectReason {
   struct PartyNumberList {
     uint8_t count;

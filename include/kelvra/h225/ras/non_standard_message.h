@@ -1,4 +1,4 @@
-// Messages of other kinds: NSM, and XRS, which answers one that was not understood.
+// Other messages: NSM, and XRS, which answers a message that was not understood.
 #pragma once
 
 #include "../common/crypto_tokens.h"

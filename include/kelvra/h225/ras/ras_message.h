@@ -21,8 +21,8 @@
 
 namespace kelvra::h225 {
 
-// Extension alternatives reuse the tags from 0, so look at `isExtension` before `choiceTag`. An
-// alternative beyond those of the union is passed over: only its tag is kept.
+// Extension alternatives reuse the tags from 0, so check `isExtension` before `choiceTag`. An alternative that is not
+// in the union is skipped: only its tag is kept.
 struct RasMessageRecord {
   uint8_t choiceTag;
   union {

@@ -12,7 +12,7 @@
 
 namespace kelvra::h225 {
 
-// Version 3 sent a BOOLEAN as the tenth addition, which became `alternateTransportAddresses` in version 4.
+// In version 3 the tenth addition is a BOOLEAN; in version 4 it is `alternateTransportAddresses`.
 struct RegistrationRequest {
   uint16_t requestSeqNum;
   ObjectIdentifierValue protocolIdentifier;
@@ -125,8 +125,7 @@ struct RegistrationRequest {
   KELVRA_END
 };
 
-// What its sender means by an addition of `preGrantedARQ` depends on the version that it names, as in a
-// RegistrationRequest.
+// The meaning of an addition of `preGrantedARQ` depends on the sender's version, as in a RegistrationRequest.
 struct RegistrationConfirm {
   struct PreGrantedARQ {
     uint32_t makeCall;
@@ -234,7 +233,7 @@ struct RegistrationConfirm {
     KELVRA_ADDITION_LIST(hasCryptoTokens, cryptoTokens, SequenceOf(DefinedType()));
     KELVRA_ADDITION(hasIntegrityCheckValue, integrityCheckValue, DefinedType());
     KELVRA_ADDITION(hasWillRespondToIRR, willRespondToIRR, Boolean());
-    // The one inline SEQUENCE that asks on entry whether anything is left.
+    // The only inline SEQUENCE that fails if nothing is left on entry.
     KELVRA_ADDITION(hasPreGrantedARQ, preGrantedARQ, DefinedType(InlineType()));
     KELVRA_ADDITION(hasMaintainConnection, maintainConnection, Boolean());
     KELVRA_ADDITION_LIST(hasServiceControl, serviceControl, SequenceOf(DefinedType()));
@@ -255,7 +254,7 @@ struct RegistrationRejectReason {
     AliasAddress* elements;
   };
 
-  // The extension bit stands first in this record.
+  // In this record the extension bit comes first.
   struct InvalidTerminalAliases {
     uint32_t isExtended;
     uint32_t hasTerminalAlias;

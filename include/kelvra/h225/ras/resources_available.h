@@ -39,7 +39,7 @@ struct ResourcesAvailableIndicate {
     KELVRA_MEMBER(protocolIdentifier, ObjectIdentifier());
     KELVRA_OPTIONAL(hasNonStandardData, nonStandardData, DefinedType());
     KELVRA_MEMBER(endpointIdentifier, DefinedType(BMPString(1, 128)));
-    // The count is 8 bits, not a length determinant; the two agree up to 127.
+    // Read as an 8-bit count, not a length determinant; the two agree up to 127.
     KELVRA_MEMBER_LIST(protocols, SequenceOf(0, 254, DefinedType()));
     KELVRA_MEMBER(almostOutOfResources, Boolean());
     KELVRA_OPTIONAL_LIST(hasTokens, tokens, SequenceOf(DefinedType()));

@@ -1,4 +1,4 @@
-// The CHOICE of everything an endpoint can receive, transmit or do.
+// The CHOICE of all capabilities of an endpoint.
 #pragma once
 
 #include "audio_capability.h"

@@ -1,4 +1,4 @@
-// What an endpoint can do with channels over RTP (H.225.0).
+// Capabilities for channels over RTP (H.225.0).
 #pragma once
 
 #include "../channels/h2250_parameters.h"
@@ -57,7 +57,7 @@ struct RTPPayloadType {
     uint8_t choiceTag;
     union {
       NonStandardParameter nonStandardIdentifier;
-      uint32_t rfcNumber;  // 1 to 32768, or any value where the extensible range is left
+      uint32_t rfcNumber;  // 1 to 32768, or any value if sent as an extension
       ObjectIdentifierValue oid;
     };
 
@@ -95,7 +95,7 @@ struct MediaPacketizationCapability {
   KELVRA_END
 };
 
-// The encodings are named by their entries in the capability table.
+// Encodings are given as entries of the capability table.
 struct RedundancyEncodingCapability {
   RedundancyEncodingMethod redundancyEncodingMethod;
   uint16_t primaryEncoding;

@@ -1,4 +1,4 @@
-// Streams that carry several others or protect them, and the sets of capabilities they are made of.
+// Streams that carry or protect several others, and their sets of capabilities.
 #pragma once
 
 #include "multiplex_format.h"
@@ -8,13 +8,12 @@
 
 namespace kelvra::h245 {
 
-// Entries of the capability table of which one can be in use at a time.
+// Entries of the capability table, of which only one can be in use at a time.
 struct AlternativeCapabilitySet {
   uint16_t entryCount;
   uint16_t* entries;
   KELVRA_SEQUENCE
-    // One of 255 values, so the count is not aligned as one of SIZE (1..256) would be; 256 entries can still be
-    // counted in its 8 bits.
+    // The count has 255 values, so unlike that of SIZE (1..256) it is not aligned. Its 8 bits can still encode 256.
     KELVRA_ELEMENTS(entryCount, entries, SequenceOf(1, 255, Integer(1, 65535)));
   KELVRA_END
 };

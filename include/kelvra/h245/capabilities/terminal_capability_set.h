@@ -1,4 +1,4 @@
-// What an endpoint can receive and send: the capability table, and which of its entries go together.
+// What an endpoint can receive and send: the capability table, and which entries can be combined.
 #pragma once
 
 #include "capability.h"

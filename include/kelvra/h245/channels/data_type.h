@@ -1,4 +1,4 @@
-// What a logical channel carries (H.245 DataType and the types that hold it).
+// What a logical channel carries (H.245 DataType and its containers).
 #pragma once
 
 #include "../capabilities/audio_capability.h"

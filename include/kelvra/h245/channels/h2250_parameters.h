@@ -141,7 +141,7 @@ struct TransportCapability {
 };
 
 struct H2250LogicalChannelParameters {
-  // Of an extension alternative only index 1, which no edition of H.245 defines, keeps an octet.
+  // The only extension alternative that keeps an octet is index 1, which no edition of H.245 defines.
   struct MediaPacketization {
     uint32_t isExtension;
     uint8_t choiceTag;

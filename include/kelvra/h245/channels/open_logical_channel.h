@@ -27,7 +27,7 @@ struct OpenLogicalChannel {
         KELVRA_ALTERNATIVE(v76LogicalChannelParameters, DefinedType());
         KELVRA_EXTENSION(isExtension);
         KELVRA_ALTERNATIVE(h2250LogicalChannelParameters, DefinedType());
-        KELVRA_PASSED_OVER(none);  // takes no slot of the ring of open types, unlike other known NULLs
+        KELVRA_PASSED_OVER(none);  // unlike other known NULLs, takes no slot in the ring of open types
       KELVRA_END
     };
 

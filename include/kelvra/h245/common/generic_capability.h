@@ -1,4 +1,4 @@
-// Capabilities that are described by parameters (H.245 generic capabilities).
+// Generic capabilities (H.245), described by parameters.
 #pragma once
 
 #include "../capabilities/data_protocol.h"

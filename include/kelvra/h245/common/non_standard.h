@@ -31,7 +31,7 @@ struct NonStandardIdentifier {
   KELVRA_END
 };
 
-// The one record whose octets stand before their length.
+// The only record in which the pointer to the octets comes before their length.
 struct NonStandardParameter {
   NonStandardIdentifier nonStandardIdentifier;
   uint8_t* data;

@@ -8,7 +8,7 @@
 
 namespace kelvra::h245 {
 
-// The length words of strings whose size the ASN.1 fixes stay zero, save that of an iPAddress.
+// The lengths of fixed-size strings stay zero, except that of an iPAddress.
 struct UnicastAddress {
   struct IPAddress {
     uint32_t networkLength;  // 4

@@ -8,7 +8,7 @@
 
 namespace kelvra::h245 {
 
-// Also the layout of the alternatives of ConferenceResponse that tell a terminal's identifier.
+// Also the layout of the ConferenceResponse alternatives that give a terminal's identifier.
 struct TerminalInformation {
   TerminalLabel terminalLabel;
   OctetStringValue terminalID;

@@ -6,7 +6,7 @@
 
 namespace kelvra::h245 {
 
-// What a command or indication is about. No extension marker.
+// What a command or indication applies to. No extension marker.
 struct MultiplexScope {
   uint8_t scopeTag;
   union {

@@ -1,4 +1,4 @@
-// Messages that are described by parameters, one layout for every class.
+// Generic messages, described by parameters: one layout for every class.
 #pragma once
 
 #include "../common/generic_capability.h"

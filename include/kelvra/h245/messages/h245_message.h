@@ -31,8 +31,8 @@
 
 namespace kelvra::h245 {
 
-// The CHOICE of each class. Extension alternatives reuse the tags from 0, so look at `isExtension` before
-// `choiceTag`. Of a multilink alternative only the tag is kept.
+// The CHOICE of each class. Extension alternatives reuse the tags from 0, so check `isExtension` before
+// `choiceTag`. For a multilink alternative only the tag is kept.
 
 struct RequestMessage {
   uint32_t isExtension;

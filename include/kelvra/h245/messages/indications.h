@@ -1,5 +1,5 @@
-// Indications that are too small for a file of their own: jitter and skew, where the MC is, who made
-// the terminal, and which function it lacks.
+// Small indications: jitter and skew, the location of the MC, the vendor of the terminal, and unsupported
+// functions.
 #pragma once
 
 #include "../common/transport_address.h"
@@ -30,7 +30,7 @@ struct JitterIndication {
   KELVRA_END
 };
 
-// How far the second channel lags behind the first. `Names` holds what the message calls it, in kSkew.
+// How far the second channel lags behind the first. Names::kSkew is the message's identifier for the skew.
 template <class Names>
 struct SkewIndication {
   uint16_t logicalChannelNumber1;

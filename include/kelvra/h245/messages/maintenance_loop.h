@@ -1,4 +1,4 @@
-// Looping media back for tests.
+// Loopback of media for tests.
 #pragma once
 
 #include "../../begin_descriptions.h"

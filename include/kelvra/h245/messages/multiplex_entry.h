@@ -83,7 +83,7 @@ struct MultiplexEntrySendAck {
   KELVRA_END
 };
 
-// Why one entry was refused; the causes depend on what was asked for.
+// Why one entry was refused; the causes depend on the request.
 template <class CauseNames>
 struct MultiplexEntryRejection {
   uint8_t multiplexTableEntryNumber;

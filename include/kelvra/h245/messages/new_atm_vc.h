@@ -1,4 +1,4 @@
-// New virtual channels of ATM.
+// New ATM virtual channels.
 #pragma once
 
 #include "../../begin_descriptions.h"
@@ -92,7 +92,7 @@ struct NewATMVCCommand {
   KELVRA_END
 };
 
-// Like the command, but for the reverse parameters, which came later.
+// Like the command, except that the reverse parameters are an addition.
 struct NewATMVCIndication {
   uint16_t resourceID;
   uint16_t bitRate;

@@ -1,4 +1,4 @@
-// The messages that each vendor defines, one layout for every class.
+// Vendor-defined messages: one layout for every class.
 #pragma once
 
 #include "../common/non_standard.h"
@@ -19,7 +19,7 @@ constexpr NonStandardMessageKind NonStandardMessage(MessageClass messageClass) {
 
 #pragma pack(push, 1)
 
-// The data of a private message is decoded instead of kept: `data` is null then. The decoder is written by hand.
+// The data of a private message is decoded, not kept: `data` is then null. The decoder is written by hand.
 struct H245NonStandardMessageRecord {
   NonStandardParameter nonStandardData;
   uint32_t isExtended;

@@ -1,5 +1,5 @@
-// The private messages that a NonStandardMessage of the identifier 86/1/1 carries; docs/private_messages.md
-// has their ASN.1.
+// The private messages in a NonStandardMessage with the identifier 86/1/1; docs/private_messages.md has their
+// ASN.1.
 #pragma once
 
 #include "../../begin_descriptions.h"
@@ -7,7 +7,7 @@
 
 namespace kelvra::h245 {
 
-// The four sets, one for each message class, are alike.
+// All four message classes use this layout.
 struct PrivateMessage {
   uint8_t messageType;
   uint32_t hasPayload;

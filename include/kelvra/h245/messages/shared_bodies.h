@@ -6,7 +6,7 @@
 
 namespace kelvra::h245 {
 
-// Only the extension bit.
+// Holds only the extension bit.
 struct EmptyBody {
   uint32_t isExtended;
   KELVRA_SEQUENCE

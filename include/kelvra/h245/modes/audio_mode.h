@@ -1,4 +1,4 @@
-// Audio modes that a peer asks for.
+// Requested audio modes.
 #pragma once
 
 #include "../capabilities/audio_capability.h"

@@ -1,4 +1,4 @@
-// Data modes that a peer asks for.
+// Requested data modes.
 #pragma once
 
 #include "../capabilities/data_application.h"

@@ -1,4 +1,4 @@
-// One stream of a requested mode: its type and the parameters of the multiplex it travels in.
+// One stream of a requested mode: its type and its multiplex parameters.
 #pragma once
 
 #include "../channels/multiplex_parameters.h"

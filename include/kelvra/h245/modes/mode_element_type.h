@@ -1,4 +1,4 @@
-// What one stream of a requested mode is to carry (H.245 ModeElementType and the types that hold it).
+// What one stream of a requested mode carries (H.245 ModeElementType and its containers).
 #pragma once
 
 #include "../channels/data_type.h"

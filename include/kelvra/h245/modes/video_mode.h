@@ -1,4 +1,4 @@
-// Video modes that a peer asks for.
+// Requested video modes.
 #pragma once
 
 #include "../capabilities/video_capability.h"
