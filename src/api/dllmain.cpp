@@ -1,4 +1,4 @@
-// The entry routine that the Windows loader calls on process and thread attach and detach.
+// The entry point that the Windows loader calls when a process or thread attaches or detaches.
 #include <windows.h>
 
 extern "C" BOOL WINAPI DllMain(HINSTANCE /*module*/, DWORD /*reason*/, LPVOID /*reserved*/) { return TRUE; }

@@ -1,4 +1,4 @@
-// The six exports: what each checks, clears, sets up and makes of the decode.
+// The six exports: their argument checks, setup and results.
 #include "kelvra/kelvra.h"
 
 #include <string.h>
@@ -14,8 +14,8 @@ using kelvra::h245::H245MessageRecord;
 
 namespace {
 
-// By calls for a piece at a time, which the C library does with its widest stores; the compiler would clear the
-// record one word after the other.
+// Clears by calls of memset, which uses the C library's widest stores; the compiler would clear the record word by
+// word.
 template <class Record>
 void ClearRecord(Record* record) {
   constexpr size_t kPiece = 2048;
@@ -27,7 +27,7 @@ void ClearRecord(Record* record) {
   }
 }
 
-// A null record is reported to the hook and ignored.
+// A null record is traced and ignored.
 template <class Record>
 void ReleaseUnlessNull(Record* record) {
   if (record == nullptr) {

@@ -1,11 +1,11 @@
-// The sizes that a caller of the 32-bit library allocates. docs/records.md tells the layout of all records.
+// The sizes that a caller of the 32-bit library allocates. docs/records.md gives the layout of all records.
 
 #include "kelvra/kelvra.h"
 
 namespace kelvra {
 namespace {
 
-// Holds everywhere but where pointers are four octets wide.
+// Checks the size with 32-bit pointers only.
 template <class Record>
 constexpr bool Occupies(uint32_t octets) {
   return sizeof(void*) != 4 || sizeof(Record) == octets;

@@ -1,5 +1,5 @@
-// The process heap behind CodecAlloc and CodecFree, in a file of its own so that a test can link a
-// heap that records or refuses.
+// CodecAlloc and CodecFree on the process heap, in a separate file so that a test can link a heap that records or
+// refuses.
 #include <stdlib.h>
 
 #include "codec/memory.h"
@@ -7,16 +7,15 @@
 namespace kelvra {
 namespace {
 
-// The GNU C library keeps a cache of free blocks for each thread, which serves malloc but not calloc:
-// clearing what the cache holds ourselves costs a third of a calloc. Elsewhere, the heap of Windows
-// included, both take the same way.
+// The GNU C library caches free blocks per thread for malloc, but not for calloc: malloc and clearing cost a third of
+// calloc. Elsewhere, including on Windows, both take the same path.
 #ifdef __GLIBC__
 constexpr size_t kLargestCached = 1032;
 #else
 constexpr size_t kLargestCached = 0;
 #endif
 
-// What the compiler does not know to come from malloc, so that clearing it does not make a calloc of both.
+// Hides malloc from the compiler, which would merge it with the clearing into calloc.
 void* UnclearedBlock(size_t size) {
   void* block = malloc(size);
   __asm__("" : "+r"(block));
@@ -24,7 +23,7 @@ void* UnclearedBlock(size_t size) {
   return block;
 }
 
-// Most blocks have a few words, and a call for each costs more than to store them.
+// Most blocks have a few words, and storing these is cheaper than a call.
 void Clear(void* block, size_t size) {
   constexpr size_t kMostWords = 8;
   auto* octets = static_cast<uint8_t*>(block);

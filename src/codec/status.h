@@ -1,4 +1,4 @@
-// What a decoder reports. A status other than kDecoded travels up unchanged.
+// The result of a decoder. A status other than kDecoded propagates unchanged.
 #pragma once
 
 #include <stdint.h>
@@ -8,14 +8,14 @@ namespace kelvra {
 enum [[nodiscard]] Status : uint8_t{
     kDecoded = 0,
     kMalformed = 1,           // an impossible value, such as a root index beyond the alternatives
-    kExhausted = 2,           // the reader stood at its end, on entry or before a member; or a name is too long
-    kUnsupportedVersion = 3,  // a registration message of an unknown H.225.0 version; the reader stands at its end
-    kRefused = 4,             // a heap block was refused; the reader stands at its end
+    kExhausted = 2,           // the reader was at its end on entry or before a member; or a name is too long
+    kUnsupportedVersion = 3,  // a registration message of an unknown H.225.0 version; the reader is at its end
+    kRefused = 4,             // a heap block was refused; the reader is at its end
 };
 
 }  // namespace kelvra
 
-// Decodes one component and leaves the decoder with its status when that is not kDecoded.
+// Decodes one component and returns its status from the decoder unless it is kDecoded.
 #define KELVRA_TRY(component)                                                                        \
   do {                                                                                               \
     if (const ::kelvra::Status status_ = (component); status_ != ::kelvra::kDecoded) return status_; \

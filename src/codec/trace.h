@@ -1,5 +1,5 @@
-// The diagnostic hook. Decoders, primitives and release functions call it before they give up; its
-// body is empty, and nothing depends on it.
+// The diagnostic hook. Decoders, primitives and release functions call it before they fail. Its body is empty, and
+// nothing depends on it.
 #pragma once
 
 #include <stdint.h>

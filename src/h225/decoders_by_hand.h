@@ -1,5 +1,5 @@
-// What the descriptions of H.225.0 records cannot say: their own kinds, and decoders written by hand. A comment at
-// each record says why.
+// What descriptions of H.225.0 records cannot express: their own kinds, and hand-written decoders. A comment at each
+// record gives the reason.
 #pragma once
 
 #include "h225/common/protocol_version.h"
@@ -20,7 +20,7 @@ Status DecodeKind(ObjectIdentifierValue& value, R& r, RegistrationProtocolIdenti
   return ReadRegistrationProtocolIdentifier(value, r);
 }
 
-// A CHOICE but for the index of an extension alternative of `routing`, which replaces the tag.
+// A CHOICE, except that the index of an extension alternative of `routing` replaces the tag.
 template <class R>
 [[gnu::always_inline]] inline Status DecodeByHand(TransportAddress& m, R& r) {
   KELVRA_TRY(DecodeDescribed(m, r));

@@ -1,4 +1,4 @@
-// What the descriptions of H.245 records cannot say: decoders written by hand. A comment at each record says why.
+// What descriptions of H.245 records cannot express: hand-written decoders. A comment at each record gives the reason.
 #pragma once
 
 #include "kelvra/h245/channels/data_type.h"
@@ -8,8 +8,7 @@
 
 namespace kelvra::h245 {
 
-// Where the block of rtpRedundancyEncoding.secondary was refused, the secondaryEncoding decoded before is released at
-// once.
+// If the block of rtpRedundancyEncoding.secondary is refused, the secondaryEncoding decoded before is released at once.
 template <class R>
 [[gnu::always_inline]] inline Status DecodeByHand(RedundancyEncoding& m, R& r) {
   const Status status = DecodeDescribed(m, r);
@@ -23,8 +22,8 @@ template <class R>
   return status;
 }
 
-// The payload of a private message. Unlike elsewhere, octets that are missing are a failure, those of the length
-// included; so is a length in fragments. After `messageType` the reader stands at an octet.
+// The payload of a private message. Unlike elsewhere, missing octets are a failure, including those of the length; so
+// is a fragmented length. After `messageType` the reader is at an octet boundary.
 inline Status DecodePrivatePayload(OctetStringValue& m, PerReader& r) {
   const uint8_t first = PerPeekOctet(r, 0);
   if (first >= 0xC0 || PerOctetsLeft(r) < (first < 0x80 ? 1U : 2U)) return kMalformed;
@@ -52,8 +51,8 @@ inline bool IsPrivate(const NonStandardIdentifier& m) {
   return m.choiceTag == 1 && vendor.t35CountryCode == 86 && vendor.t35Extension == 1 && vendor.manufacturerCode == 1;
 }
 
-// The private message of `length` octets that begins here. The reader is bounded to them, so that what the message
-// claims counts as claimed by the whole; it resumes past them, whatever was consumed.
+// Decodes a private message of `length` octets. The reader is bounded to them, so its claims count against the
+// allowance of the whole message; it resumes past them, whatever was consumed.
 template <class R>
 Status DecodeBounded(PrivateMessage& m, R& r, uint32_t length) {
   Status status = kDecoded;
@@ -65,7 +64,7 @@ Status DecodeBounded(PrivateMessage& m, R& r, uint32_t length) {
   return status;
 }
 
-// Data of length 0 holds no message and is none of the failures.
+// Data of length 0 holds no message, which is not a failure.
 template <class R>
 Status DecodePrivateData(H245NonStandardMessageRecord& m, R& r) {
   const uint32_t length = PerReadLength(r);
@@ -79,7 +78,7 @@ Status DecodePrivateData(H245NonStandardMessageRecord& m, R& r) {
   return kDecoded;
 }
 
-// NonStandardParameter, unless its data hold a private message.
+// A NonStandardParameter whose data may hold a private message.
 struct NonStandardDataKind : asn1::DefinedTypeKind {
   H245NonStandardMessageRecord& message;
 };
@@ -95,7 +94,7 @@ Status DecodeKind(NonStandardParameter& m, R& r, NonStandardDataKind kind) {
 template <class R>
 Status DecodeByHand(H245NonStandardMessageRecord& m, R& r) {
   m.isExtended = PerReadBit(r);
-  // A failure of private data is the one that ends the message.
+  // Only a failure of private data ends the message.
   KELVRA_TRY((ValueReader<true, R>(r).Read("nonStandardData", m.nonStandardData, NonStandardDataKind{{}, m})));
   if (m.isExtended) PerSkipExtensionAdditions(r);
   return kDecoded;

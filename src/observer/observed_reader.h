@@ -1,4 +1,4 @@
-// The reader of an observed decode (observer/observer.h), which per/decoder.h tells of each component.
+// The reader of an observed decode (observer/observer.h). per/decoder.h reports each component to it.
 #pragma once
 
 #include <vector>
@@ -27,7 +27,7 @@ class ObservedReader : public PerReader {
     return uint64_t{reinterpret_cast<uintptr_t>(position) - reinterpret_cast<uintptr_t>(start_)} * 8 + bitOffset;
   }
 
-  // The component that is read while it lives.
+  // Marks a component as being read while it lives.
   class Component {
    public:
     template <class Place, class Kind>
@@ -41,7 +41,7 @@ class ObservedReader : public PerReader {
     Component& operator=(const Component&) = delete;
 
    private:
-    // Of an OCTET STRING that does not begin at an octet, the decoder overlooks that the last octet is missing.
+    // If an OCTET STRING does not begin at an octet boundary, the decoder does not notice a missing last octet.
     template <class Place, class Kind>
     void NoteOctets(const Place&, Kind) {}
     template <OctetNotation kNotation>
@@ -70,7 +70,7 @@ class ObservedReader : public PerReader {
     void NoteOctets(const Place& place, asn1::EvenIfMissingKind<Kind> element) {
       NoteOctets(place, element.kind);
     }
-    // The bit after the octets of such a string; 0: it has none.
+    // The bit after the octets of such a string; 0: there are none.
     uint64_t EndOfOctets() const {
       const uint64_t octets = string_ != nullptr ? string_->length : fixedOctets_;
       return octets == 0 ? 0 : (component_.firstBit + lengthBits_ + 7) / 8 * 8 + octets * 8;
@@ -89,13 +89,13 @@ class ObservedReader : public PerReader {
   void LeftOpenType();
 
   void Begin(const kelvra::Component& component, bool hasBits);
-  // `endOfOctets` is where an OCTET STRING should end; 0: the component is none.
+  // `endOfOctets`: where an OCTET STRING should end; 0: the component is not one.
   void End(const kelvra::Component& component, uint64_t endOfOctets);
 
-  // The bitmap of the innermost component announces `counted` unknown additions, and more where some known ones are not
-  // of the sender's version.
+  // The bitmap of the innermost component announces `counted` unknown additions, plus known ones that the sender's
+  // version lacks.
   void BeganAdditions(int32_t counted);
-  // How many unknown additions the innermost component has, where the decoder says `counted`.
+  // How many unknown additions of the innermost component to skip; the decoder has counted `counted`.
   int32_t UnknownAdditions(int32_t counted);
 
  private:
@@ -106,8 +106,8 @@ class ObservedReader : public PerReader {
     uint32_t elements = 0;  // begun so far
     uint32_t index = 0;     // among the elements of its list
     bool isRead = true;
-    bool isAtAdditions = false;  // the bitmap is read, and no addition
-    int32_t unknown = -1;        // additions; below 0: as the decoder says
+    bool isAtAdditions = false;  // the bitmap is read, but no addition
+    int32_t unknown = -1;        // unknown additions; below 0: the decoder's count
   };
 
   static constexpr int32_t kUnset = -1;
@@ -163,8 +163,8 @@ class ObservedReader : public PerReader {
     return ComponentKind::kString;
   }
 
-  // Whether the component itself takes bits, so that one at the end of the message is missing. Of a record its
-  // components say so, unless its decoder asks on entry.
+  // Whether the component itself takes bits, and is therefore missing at the end of the message. For a record its
+  // components decide, unless its decoder checks on entry.
   template <class Place, class Kind>
   static bool HasBits(const Place&, Kind kind) {
     const ComponentKind form = KindOf(kind);
@@ -181,7 +181,7 @@ class ObservedReader : public PerReader {
   static bool HasBits(const asn1::Scalar<uint8_t>&, asn1::IntegerKind kind) { return kind.low != kind.high; }
 
   std::string Path() const;
-  // The bit that a read had come to before the reader moved to its end; 0: it did not move.
+  // The bit that a read had reached before the reader moved to its end; 0: it did not move.
   uint64_t Reached() const;
   void Report(PerCause reason, uint64_t bit);
 
@@ -191,10 +191,10 @@ class ObservedReader : public PerReader {
   std::vector<Step> steps_;  // innermost last
   bool isStopped_ = false;
   bool departed_ = false;
-  int32_t sharedCount_ = 0;  // the counter of the message, while the bitmap of a SEQUENCE is looked at
+  int32_t sharedCount_ = 0;  // the message's counter, saved while a SEQUENCE's additions begin
 };
 
-// What the decoder does differently with this reader, by the rules.
+// Overloads for this reader that apply the rules.
 int32_t PerCountUnknownAdditions(ObservedReader& reader, int32_t additions);
 void SkipOpenTypes(ObservedReader& reader, int32_t count);
 

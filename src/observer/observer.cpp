@@ -15,7 +15,7 @@ constexpr uint32_t kLastVersion = 4;             // whose additions the descript
 }  // namespace
 
 void ObservedReader::Begin(const kelvra::Component& component, bool hasBits) {
-  // The reader moved to its end while the component around this one was read, as over the index of a CHOICE.
+  // The enclosing component moved the reader to its end, for example at the index of a CHOICE.
   if (!isStopped_ && cause != PerCause::kNone && !steps_.empty()) Report(cause, steps_.back().component->firstBit);
   Step step{&component};
   step.isRead = !isStopped_;
@@ -31,7 +31,7 @@ void ObservedReader::Begin(const kelvra::Component& component, bool hasBits) {
 
 void ObservedReader::End(const kelvra::Component& component, uint64_t endOfOctets) {
   if (!isStopped_ && endOfOctets > Bit()) Report(PerCause::kEndOfMessage, component.firstBit);
-  // A move to the end that nobody has reported yet happened while this component was read.
+  // This component moved the reader to its end, and nothing has reported it yet.
   if (!isStopped_ && cause != PerCause::kNone) Report(cause, component.firstBit);
   const bool isRead = steps_.back().isRead;
   steps_.pop_back();
@@ -44,7 +44,7 @@ void ObservedReader::Stop(PerCause reason) {
 
 void ObservedReader::LeftOpenType() {
   if (!isStopped_) {
-    // The reader is carried past the end by an open type that claims more than there is.
+    // An open type that claims more octets than are left carries the reader past the end.
     if (position > end) Report(PerCause::kLengthPastEnd, Bit());
     return;
   }
@@ -63,7 +63,7 @@ void ObservedReader::BeganAdditions(int32_t counted) {
   extensionPresentCount = kUnset;
 }
 
-// A SEQUENCE of H.225.0 has set the shared counter to its own number by now; one of H.245 leaves it alone.
+// By now an H.225.0 SEQUENCE has set the shared counter to its own count; an H.245 SEQUENCE does not.
 void ObservedReader::SettleUnknownAdditions(Step& step) {
   step.isAtAdditions = false;
   if (extensionPresentCount == kUnset) {

@@ -1,7 +1,6 @@
-// Decodes that report what they read: each component with its path, its kind and its bits, and where a decode stops the
-// component, the place and the cause. They follow the same descriptions as the library's own decoders, and leave the
-// same record, status and position, unless the rules say otherwise. For tools and tests; the shared library does not
-// contain them.
+// Decodes that report what they read: each component with its path, kind and bits, and for a stop the component, bit
+// and cause. They follow the same descriptions as the library's decoders and leave the same record, status and
+// position, unless the rules say otherwise. For tools and tests; the shared library does not contain them.
 #pragma once
 
 #include <stdint.h>
@@ -25,7 +24,7 @@ enum class ComponentKind : uint8_t {
   kString,
 };
 
-// Places are counted in bits from the first octet that the decode was given.
+// Positions are in bits from the first octet of the decode's input.
 struct Component {
   const char* name;  // the ASN.1 identifier; null: an element of a list
   ComponentKind kind;
@@ -36,7 +35,7 @@ struct Component {
 struct Fault {
   std::string path;  // of the component at which the decode stopped: "a.b[2].c"; empty: the message itself
   uint64_t bit;      // where that component begins
-  uint64_t reached;  // the bit, there or further on, up to which the message was read before it stopped
+  uint64_t reached;  // the bit up to which the message was read, `bit` or later
   PerCause cause;
 };
 
@@ -47,39 +46,38 @@ class DecodeObserver {
   virtual void Begin(const Component&) {}
   // `isRead`: the decode did not stop in the component, which then ends before `endBit`.
   virtual void End(const Component&, uint64_t /*endBit*/, bool /*isRead*/) {}
-  // The decode stops here. What follows is not read, unless it resumes.
+  // The decode stops here. Nothing more is read unless it resumes.
   virtual void Stopped(const Fault&) {}
   // The decode stopped in an open type and resumes after it, at `bit`.
   virtual void Resumed(uint64_t /*bit*/) {}
 };
 
-// Where an observed decode departs from the library's own; by default it does not.
+// How an observed decode differs from the library's; by default it does not.
 struct ObserverRules {
-  // A registration of a later version is read as one of version 4, which the library refuses.
+  // A registration of a later version, which the library refuses, is read as version 4.
   bool readsLaterVersions = false;
-  // A SEQUENCE skips as many unknown additions as its own bitmap announces (X.691 18.8), also where one inside it has
-  // overwritten the counter that all of an H.225.0 message share.
+  // A SEQUENCE skips the unknown additions that its own bitmap announces (X.691 18.8), even if a SEQUENCE inside it has
+  // overwritten the counter that all SEQUENCEs of an H.225.0 message share.
   bool countsAdditionsApart = false;
 };
 
-// What the decode has ended with, as the library's own does.
+// The end of a decode, as in the library's own.
 struct DecodeEnd {
   Status status;
-  uint64_t bit;           // where the reader stands
-  bool isAtEnd;           // of what it was given
-  bool departed = false;  // a rule made it read otherwise than the library does
+  uint64_t bit;           // the reader's position
+  bool isAtEnd;           // the reader is at the end of its input, or past it
+  bool departed = false;  // a rule made it read differently from the library
 };
 
-// Each decodes into a cleared record, which the caller releases whatever the result. The buffer is that of the function
-// of the same message in kelvra.h; that of a RAS message needs no spare octet here. For Q.931 only the
-// H323-UserInformation is decoded, and its bits are counted from its own first octet; a frame without a user-user
-// element ends as kExhausted.
+// Each decodes into a cleared record, which the caller releases whatever the result. The buffer is that of the matching
+// function in kelvra.h, but a RAS message needs no spare octet. For Q.931 only the H323-UserInformation is decoded, and
+// bits are counted from its first octet; a frame without a user-user element gives kExhausted.
 DecodeEnd ObserveRas(h225::RasMessageRecord& record, const uint8_t* buffer, uint32_t length, DecodeObserver& observer,
                      const ObserverRules& rules = {});
 DecodeEnd ObserveUserInformation(h225::H323UserInformation& record, const uint8_t* buffer, int32_t length,
                                  DecodeObserver& observer);
-// The H323-UserInformation alone: `octets` are the contents of the user-user element after its protocol discriminator.
-// It ends with them, where the library reads up to two octets further.
+// Decodes only the H323-UserInformation: `octets` are the contents of the user-user element after its protocol
+// discriminator. The input ends with them, while the library reads up to two octets further.
 DecodeEnd ObserveUserInformation(h225::H323UserInformation& record, const uint8_t* octets, uint32_t length,
                                  DecodeObserver& observer, const ObserverRules& rules);
 DecodeEnd ObserveH245(h245::H245MessageRecord& record, const uint8_t* buffer, uint32_t length, DecodeObserver& observer,

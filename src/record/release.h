@@ -1,5 +1,5 @@
-// The rule by which a record's blocks are given back, as a visitor of its walk: present members only, children before
-// the block that holds them, every pointer left null and everything else left as it is.
+// Releases a record's blocks, as a visitor of its walk: present members only, children before the block that holds
+// them. Pointers become null; everything else is unchanged.
 #pragma once
 
 #include "codec/memory.h"
@@ -10,12 +10,12 @@ namespace kelvra {
 
 class ReleaseVisitor;
 
-// Gives back the blocks of a record; to release it again does nothing. Defined in record/define_release.h, and
-// instantiated once for each type with a name of its own.
+// Releases the blocks of a record; releasing it again does nothing. Defined in record/define_release.h, and
+// instantiated once per named type.
 template <class R>
 void Release(R& record, ReleaseVisitor visitor);
 
-// The source paths of the releases of whole messages.
+// The source paths for releases of whole messages.
 namespace h225 {
 inline constexpr char kReleasePath[] = "codec/h323free";
 }
@@ -25,7 +25,7 @@ inline constexpr char kReleasePath[] = "codec/freeintr";
 
 class ReleaseVisitor : public EmptyVisitor {
  public:
-  // `sourcePath` goes along with every release, for diagnosis.
+  // `sourcePath` is passed to every release, for diagnosis.
   explicit ReleaseVisitor(const char* sourcePath) : sourcePath_(sourcePath) {}
 
   void UnknownExtension(uint32_t) { TraceUnknownTag(__LINE__); }

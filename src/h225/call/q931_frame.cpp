@@ -30,15 +30,15 @@ void Trace(int32_t severity, int32_t reason, int32_t line) {
   CodecTrace(kTraceFrame, severity, reason, kSourceFrame, line);
 }
 
-// Goes through the information elements of a frame in the order in which they follow one another.
+// Iterates over the information elements of a frame in their order.
 class ElementWalk {
  public:
   explicit ElementWalk(const Q931Frame& frame) : frame_(frame) {}
 
-  // The next element with contents whose length and header the frame can hold; those of a single octet
-  // are passed over. False when there is no more.
+  // Finds the next element with contents whose header and length fit the frame length; skips single-octet
+  // elements. False if there is none.
   bool Next(uint8_t& identifier, Q931Element& element) {
-    // The position wraps at 16 bits; a walk that has taken a step for each position goes round in circles.
+    // The position wraps at 16 bits; a walk of more steps than positions runs in circles.
     while (steps_ < frame_.length && position_ < frame_.length) {
       ++steps_;
       const uint16_t position = position_;
@@ -51,7 +51,7 @@ class ElementWalk {
       const uint32_t high = identifier == kUserUser ? frame_.At(position + uint32_t{1}) : uint8_t{0};
       element = {position, static_cast<uint16_t>(high << 8 | frame_.At(position + header - 1))};
       position_ = static_cast<uint16_t>(position + header + element.length);
-      // Bounded by the whole frame, not by what is left of it.
+      // Compared with the whole frame, not with the rest of it.
       if (header + element.length <= frame_.length) return true;
     }
     return false;
@@ -60,7 +60,7 @@ class ElementWalk {
  private:
   const Q931Frame& frame_;
   uint32_t steps_ = 0;
-  uint16_t position_ = kFirstElement;  // whatever length the call reference claims
+  uint16_t position_ = kFirstElement;  // regardless of the claimed call reference length
 };
 
 // The first element of each identifier, found in one pass over the frame.
@@ -76,16 +76,16 @@ class FirstElements {
     }
   }
 
-  // `identifier` is that of an element with contents.
+  // `identifier` must be below kIdentifiers.
   const Q931Element* Find(uint8_t identifier) const { return Holds(identifier) ? &elements_[identifier] : nullptr; }
 
  private:
-  static constexpr uint32_t kIdentifiers = 128;  // from 0x80 on elements have a single octet
+  static constexpr uint32_t kIdentifiers = 128;  // elements from 0x80 have a single octet
 
   bool Holds(uint8_t identifier) const { return (held_[identifier / 32] >> identifier % 32 & 1) != 0; }
 
   uint32_t held_[kIdentifiers / 32] = {};
-  Q931Element elements_[kIdentifiers];  // of those held
+  Q931Element elements_[kIdentifiers];  // set only if held
 };
 
 // Copies the information elements of one frame into its cleared record.
@@ -102,7 +102,7 @@ class ElementCopier {
     return frame_.At(element->position + uint32_t{2} + index);
   }
 
-  // The contents after their first `skipped` octets, where 1 to `room` are left. Returns how many.
+  // Copies the contents after their first `skipped` octets if 1 to `room` are left. Returns how many.
   uint8_t Octets(uint8_t identifier, uint32_t skipped, uint8_t* octets, uint32_t room, Q931Presence bit) {
     const Q931Element* element = elements_.Find(identifier);
     if (element == nullptr) return 0;
@@ -119,8 +119,8 @@ class ElementCopier {
   const FirstElements& elements_;
 };
 
-// A record keeps neither the type-of-number octet of a number nor the type of a subaddress, and nothing of a
-// redirecting number. A sending complete has a single octet, and none of those is found.
+// A record keeps neither the type-of-number octet of a number nor the type of a subaddress, nor a redirecting number.
+// A sending complete is a single-octet element, and so never found.
 void CopyElements(Q931MessageRecord& m, const Q931Frame& frame, const FirstElements& elements) {
   ElementCopier copy(m, frame, elements);
   copy.Octets(kCallingPartyNumber, 1, m.callingPartyNumber, 32, kCallingPartyNumberPresent);
