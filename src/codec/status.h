@@ -7,8 +7,8 @@ namespace kelvra {
 
 enum [[nodiscard]] Status : uint8_t{
     kDecoded = 0,
-    kMalformed = 1,           // an impossible value, such as a root index beyond the alternatives
-    kExhausted = 2,           // the reader was at its end on entry or before a member; or a name is too long
+    kMalformed = 1,  // an impossible value, such as a root index beyond the alternatives
+    kExhausted = 2,  // the reader was at its end on entry or before a member; or a url-ID or email-ID is too long
     kUnsupportedVersion = 3,  // a registration message of an unknown H.225.0 version; the reader is at its end
     kRefused = 4,             // a heap block was refused; the reader is at its end
 };

@@ -1,11 +1,11 @@
-// The decoder that follows the description of a type (kelvra/description.h): the rules of PER for values, lists,
-// SEQUENCEs and CHOICEs, once each.
+// The decoder that follows the description of a type (kelvra/description.h): the PER rules for values, lists, SEQUENCEs
+// and CHOICEs, once each.
 //
-// A description is followed several times: to count the flags of a SEQUENCE, to take its presence bits, to read its
-// root, to take the presence bits of its additions and to read these. All of it is inline, so that what a pass has
-// no use for folds away and bounds and counts are constants.
+// Several passes follow the description of a SEQUENCE: to count its flags, to take its presence bits, to read its root,
+// to take the presence bits of its additions, and to read these. All are inline, so whatever a pass does not use folds
+// away, and bounds and counts are constants.
 //
-// `R` is the reader: a PerReader, or one that reports what is read (observer/observed_reader.h).
+// `R` is the reader: a PerReader, or one that reports what it reads (observer/observed_reader.h).
 #pragma once
 
 #include <type_traits>
@@ -28,37 +28,37 @@ inline constexpr bool kIsNullChoice = false;
 template <class T>
 inline constexpr bool kIsNullChoice<T, std::void_t<typename T::AlternativeNames>> = true;
 
-// Types through which others nest may ask to be decoded within what holds them: that keeps the stack low.
+// Types through which others nest may request decoding inside the enclosing decoder: that saves stack.
 template <class T, class = void>
 inline constexpr bool kIsDecodedInPlace = false;
 template <class T>
 inline constexpr bool kIsDecodedInPlace<T, std::void_t<decltype(T::kDecodedInPlace)>> = true;
 
-// Decodes a type with a name of its own. One of H.225.0 or H.235 is kExhausted where nothing is left on entry.
-// Defined in per/define_decoder.h, and instantiated once for each type.
+// Decodes a named type. For H.225.0 and H.235 the result is kExhausted if nothing is left on entry. Defined in
+// per/define_decoder.h, and instantiated once per type.
 template <class T, class R>
 Status Decode(T& m, R& r);
 
-// Decodes a type that is written out in place.
+// Decodes an inline type.
 template <class T, class R>
 static Status DecodeInline(T& m, R& r);
 
-// What either does.
+// The common part of both.
 template <class T, class R>
 [[gnu::always_inline]] inline Status DecodeType(T& m, R& r);
 
 // --- Lists ---
 
-// What a list needs to know of its elements.
+// The properties of a list's elements.
 template <class R>
 struct ElementType {
   uint32_t octets;
-  bool isReadPastTheEnd;  // also where the message has ended: it fails then, or keeps its length
+  bool isReadPastTheEnd;  // read even after the end of the message: the element then fails, or keeps its length
   Status (*read)(void* element, R& r);
 };
 
-// SEQUENCE OF in an open type. The count keeps as many bits as the record has room for. The first failure ends the
-// list; elements that the message does not reach stay zero. A failure that is passed on leaves its slot in the ring
+// SEQUENCE OF in an open type. The count keeps as many low bits as the record has room for. The first failure ends the
+// list; elements that the message does not reach stay zero. A failure that propagates leaves its slot in the ring
 // taken.
 template <bool kReports, class Count, class R>
 [[gnu::noinline]] Status ReadOpenSequenceOf(R& r, ListView<uint8_t, Count> list, const ElementType<R>& type) {
@@ -84,14 +84,14 @@ template <bool kReports, class Count, class R>
 
 // --- Values ---
 
-// Whether a kind is that of a list whose elements are read by one shared function: those of a kind with bounds are
-// not, which are to fold.
+// Whether one shared function reads the elements of a list of this kind. Elements with bounds have their own code, so
+// that the bounds fold.
 template <class Kind>
 inline constexpr bool kIsSharedList = false;
 template <class Kind>
 inline constexpr bool kIsSharedList<asn1::SequenceOfKind<Kind>> = std::is_empty_v<Kind>;
 
-// Whether an element of a list fails where the message has ended, or is read all the same.
+// Whether a list element after the end of the message is still read, or fails.
 template <class Element, class Kind>
 inline constexpr bool kElementReports = false;
 template <class Element>
@@ -103,7 +103,7 @@ inline constexpr bool kElementReports<Element, asn1::AliasKind<Kind>> = true;
 template <class Element, class Kind>
 inline constexpr bool kElementReports<Element, asn1::EvenIfMissingKind<Kind>> = true;
 
-// Reads one value by its kind. `kReports` is that of the type it belongs to: whether it passes failures on.
+// Reads one value by its kind. `kReports`: whether the enclosing type propagates failures.
 template <bool kReports, class R>
 class ValueReader {
  public:
@@ -123,7 +123,7 @@ class ValueReader {
     }
   }
 
-  // A value in its open type. A failure that is passed on leaves its slot in the ring taken.
+  // A value in its open type. A failure that propagates leaves its slot in the ring taken.
   template <class Place, class Kind>
   [[gnu::always_inline]] Status ReadOpen(const char* name, Place&& place, Kind kind) {
     if constexpr (kIsSharedList<Kind> && !R::kObserves) {
@@ -178,7 +178,7 @@ class ValueReader {
     PerReadString(value, r, kind);
     return kDecoded;
   }
-  // A kind that a family defines for itself.
+  // A kind that a family defines.
   template <class Place, class Kind>
   [[gnu::always_inline]] auto Value(Place& place, Kind kind) -> decltype(DecodeKind(place, std::declval<R&>(), kind)) {
     return DecodeKind(place, r, kind);
@@ -194,7 +194,7 @@ class ValueReader {
     return kDecoded;
   }
 
-  // What a type of H.245 fails with stays in it, but a type of H.225.0 that holds one passes on what it can see.
+  // A failure in an H.245 type stays in it, but an enclosing H.225.0 type propagates the status that it returns.
   template <class T>
   [[gnu::always_inline]] Status Value(T& record, asn1::DefinedTypeKind) {
     if constexpr (kReports && !kReportsFailures<T>) {
@@ -257,7 +257,7 @@ class ValueReader {
     return ReadTyped(list, PerReadNumber<uint32_t>(r, kind.low, kind.high), kind.element);
   }
 
-  // A CHOICE of NULLs asks on entry wherever it stands, and its decoder is small.
+  // A CHOICE of NULLs has a small decoder, which does its own entry check.
   template <class T>
   [[gnu::always_inline]] Status DecodeDefined(T& record) {
     if constexpr (kIsNullChoice<T>) {
@@ -287,13 +287,13 @@ class ValueReader {
     return kTypeOfElements<Element, Kind>;
   }
 
-  // An element of a type that is decoded in place elsewhere, apart from the frame of its list.
+  // Decodes an element of a kDecodedInPlace type outside the stack frame of its list.
   template <class Element>
   [[gnu::noinline]] static void DecodeApart(R& r, Element& element) {
     static_cast<void>(DecodeType(element, r));
   }
 
-  // A list whose elements are read by their kind; otherwise like ReadOpenSequenceOf.
+  // Reads a list with its own element code; otherwise like ReadOpenSequenceOf.
   template <class Element, class Count, class Kind>
   Status ReadTyped(ListView<Element, Count> list, uint32_t count, Kind kind) {
     list.SetSize(count);
@@ -321,7 +321,7 @@ class ValueReader {
   R& r;
 };
 
-// Open types of which nothing is known.
+// Skips unknown open types.
 template <class R>
 [[gnu::always_inline]] inline void SkipOpenTypes(R& r, int32_t count) {
   PerSkipOpenTypes(r, count);
@@ -330,7 +330,7 @@ template <class R>
 
 // --- SEQUENCE ---
 
-// What a pass over a description does where it has nothing to do.
+// The default for what a pass over a description ignores.
 struct IdlePass {
   template <class Place, class Kind>
   [[gnu::always_inline]] bool Member(const char*, Place&&, Kind) {
@@ -348,15 +348,14 @@ struct IdlePass {
   [[gnu::always_inline]] bool Versions(int32_t, int32_t) const { return true; }
 };
 
-// Counts the flags of a SEQUENCE, and notes which of its components are BOOLEANs: those that follow one another are
-// read at once.
+// Counts the flags of a SEQUENCE, and notes which components are BOOLEANs: consecutive ones are read at once.
 struct FlagCount : IdlePass {
   uint32_t optionals = 0;
   uint32_t extensionBits = 0;
   uint32_t additions = 0;
   bool isGated = false;
   uint32_t components = 0;
-  uint64_t booleans = 0;  // the bit of each component
+  uint64_t booleans = 0;  // one bit per component
 
   template <class Place, class Kind>
   [[gnu::always_inline]] bool Member(const char*, Place&&, Kind) {
@@ -385,7 +384,7 @@ struct FlagCount : IdlePass {
     return true;
   }
 
-  // How many BOOLEANs follow one another from component `index` on.
+  // How many consecutive components from `index` are BOOLEANs.
   [[gnu::always_inline]] uint32_t BooleansFrom(uint32_t index) const {
     const uint64_t others = ~(booleans >> index);
     return static_cast<uint32_t>(__builtin_ctzll(others));
@@ -449,7 +448,7 @@ struct RootPass : IdlePass {
   }
 };
 
-// Additions that do not belong to the version of the sender are unknown ones to it.
+// Additions that the sender's version does not define count as unknown.
 template <class R>
 struct AdditionPresencePass : IdlePass {
   R& r;
@@ -499,8 +498,8 @@ template <class T, class R>
   static_cast<void>(T::Describe(m, presence));
   int32_t unknown = PerCountUnknownAdditions(r, bitmap);
   if (count.isGated) unknown += presence.flags.CountLeft();
-  // All SEQUENCEs of an H.225.0 message share one counter. One that was decoded among these additions has
-  // overwritten it, and must: peers are read by the count that was written last.
+  // All SEQUENCEs of an H.225.0 message share one counter. A SEQUENCE decoded among these additions overwrites it, and
+  // must: the last count written decides how many additions are skipped.
   if constexpr (kReports) r.extensionPresentCount = unknown;
   AdditionPass<kReports, R> additions(r);
   if (!T::Describe(m, additions)) return additions.status;
@@ -534,7 +533,7 @@ template <class T, class R>
 
 // --- CHOICE ---
 
-// Decodes the alternative of a number (asn1::AlternativeNumber).
+// Decodes the alternative with a given number (asn1::AlternativeNumber).
 template <bool kReports, class R>
 struct AlternativePass {
   R& r;
@@ -570,7 +569,7 @@ struct AlternativePass {
   }
 };
 
-// The header of a CHOICE: extension bit and index, those of a root alternative at once.
+// The header of a CHOICE: extension bit and index, read at once for a root alternative.
 template <class R>
 [[gnu::always_inline]] inline uint32_t ReadChoiceHeader(R& r, const asn1::ChoiceIndex& choice, bool& isExtension) {
   isExtension = false;
@@ -593,7 +592,7 @@ template <class R>
   return index;
 }
 
-// A type may say that the index of an extension alternative is not kept: its tag is 0 then.
+// A type may declare that the index of an extension alternative is not kept: the tag is then 0.
 template <class T, class = void>
 inline constexpr bool kKeepsExtensionIndex = true;
 template <class T>
@@ -647,7 +646,7 @@ Status DecodeNull(R& r, uint32_t index, bool isExtension) {
   return kDecoded;
 }
 
-// Depends on the numbers of alternatives only, so that CHOICEs of as many share their decoder.
+// Depends only on the numbers of alternatives, so CHOICEs with equal numbers share a decoder.
 template <uint32_t kRoots, uint32_t kExtensions, class R>
 Status DecodeNulls(R& r, asn1::Scalar<uint8_t> tag, asn1::Flag extension) {
   bool isExtension = false;
@@ -688,14 +687,14 @@ template <class Names, class R>
 
 // --- Types ---
 
-// A decoder that is written by hand (h225/decoders_by_hand.h, h245/decoders_by_hand.h).
+// Whether a type has a hand-written decoder (h225/decoders_by_hand.h, h245/decoders_by_hand.h).
 template <class T, class R, class = void>
 inline constexpr bool kIsDecodedByHand = false;
 template <class T, class R>
 inline constexpr bool
     kIsDecodedByHand<T, R, std::void_t<decltype(DecodeByHand(std::declval<T&>(), std::declval<R&>()))>> = true;
 
-// Types that can hold themselves say so; each level is counted.
+// Recursive types declare themselves; each level is counted.
 template <class T, class = void>
 inline constexpr bool kIsRecursive = false;
 template <class T>

@@ -1,5 +1,4 @@
-// The decoder of a type with a name of its own. Only the units that instantiate decoders include this, so that each
-// decoder is compiled once.
+// The decoder of a named type. Only the units that instantiate decoders include this, so each decoder is compiled once.
 #pragma once
 
 #include "per/decoder.h"

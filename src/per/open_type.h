@@ -1,4 +1,4 @@
-// Open types (X.691 10.2) and the extension additions of a SEQUENCE (18.7 to 18.9) that travel in them.
+// Open types (X.691 10.2) and the extension additions of a SEQUENCE (18.7 to 18.9), which they contain.
 #pragma once
 
 #include <stdint.h>
@@ -8,7 +8,7 @@
 
 namespace kelvra {
 
-// Enters an open type: its length and the place of its first octet go into the next slot of the ring.
+// Enters an open type: stores its length and the address of its first octet in the next slot of the ring.
 inline void OpenTypeBegin(PerReader& reader) {
   PerAlign(reader);
   OpenTypeRing& ring = reader.openTypes;
@@ -17,8 +17,8 @@ inline void OpenTypeBegin(PerReader& reader) {
   ring.starts[ring.index] = reader.position;
 }
 
-// Leaves the innermost open type: the reader resumes past it, whatever was consumed, unless the message
-// has had too much read again.
+// Leaves the innermost open type: the reader resumes past it, whatever was consumed, unless too much of the message
+// has been reread.
 inline void OpenTypeEnd(PerReader& reader) {
   OpenTypeRing& ring = reader.openTypes;
   const uint8_t* behind = PerAdvance(ring.starts[ring.index], ring.lengths[ring.index]);
@@ -29,11 +29,11 @@ inline void OpenTypeEnd(PerReader& reader) {
   reader.position = behind;
 }
 
-// Passes over `count` open types. A length past the end leaves the reader beyond it.
+// Skips `count` open types. A length past the end leaves the reader beyond the end.
 void PerSkipOpenTypes(PerReader& reader, int32_t count);
 
-// Passes over an open type that is known to hold nothing, as a NULL. It is entered like any other and takes a
-// slot of the ring, which one that is not known does not.
+// Skips the open type of a known NULL. Unlike an unknown one, it is entered like any other and takes a slot of the
+// ring.
 inline void PerPassOverOpenType(PerReader& reader) {
   OpenTypeBegin(reader);
   OpenTypeEnd(reader);
@@ -44,8 +44,8 @@ inline void PerPassOverOpenType(PerReader& reader) {
 // How many presence bits the bitmap holds, 1 or more in a conforming message.
 inline int32_t PerReadBitmapLength(PerReader& reader) { return static_cast<int32_t>(PerReadNormallySmall(reader) + 1); }
 
-// The presence bits of the next `known` additions, 1 to 32, absent where the bitmap holds no more. `additions`
-// counts down the bits that are left: what is left after the known ones is by construction unknown.
+// The presence bits of the next `known` additions, 1 to 32; those past the bitmap are 0. `additions` counts down the
+// bits left: the bits after the known ones belong to unknown additions.
 [[gnu::always_inline]] inline PerFlags PerReadKnownAdditions(PerReader& reader, int32_t& additions, int32_t known) {
   const int32_t count = additions < known ? additions : known;
   if (count <= 0) return PerFlags(0);
@@ -53,10 +53,10 @@ inline int32_t PerReadBitmapLength(PerReader& reader) { return static_cast<int32
   return PerReadFlags(reader, static_cast<uint32_t>(count), static_cast<uint32_t>(known));
 }
 
-// Reads the bits that are left and returns how many of them are set.
+// Reads the remaining bits and returns how many are set.
 int32_t PerCountUnknownAdditions(PerReader& reader, int32_t additions);
-// The additions of a SEQUENCE of which none is known. How many there are is kept in the counter that all SEQUENCEs of
-// an H.225.0 message share.
+// Skips the additions of a SEQUENCE with no known ones. Their number is stored in the counter that all SEQUENCEs of an
+// H.225.0 message share.
 void PerSkipExtensionAdditions(PerReader& reader);
 
 // Counts a level of a recursive type while it lives.

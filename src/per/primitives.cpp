@@ -10,14 +10,14 @@ enum RefusalLine : int32_t { kBlockRefused = 192, kFragmented = 275 };
 
 uint32_t Minimum(uint32_t a, uint32_t b) { return a < b ? a : b; }
 
-// Whether nothing is left for a value that takes bits.
+// Whether nothing is left for a value of at least one bit.
 inline bool IsMissing(PerReader& reader) {
   if (!PerAtEnd(reader)) return false;
   PerNoteCause(reader, PerCause::kEndOfMessage);
   return true;
 }
 
-// Whether a string of `count` units has all of the octets that it needs, and any unit at all.
+// Whether a string of `count` units is not empty and has all the octets that it needs.
 inline bool HasString(PerReader& reader, uint32_t count, bool hasOctets) {
   if (count == 0 || IsMissing(reader)) return false;
   if (!hasOctets) PerMoveToEnd(reader, PerCause::kLengthPastEnd);
@@ -30,7 +30,7 @@ uint64_t LoadWord(const uint8_t* octets) {
   return word;
 }
 
-// `word` with all but its first 1 to 8 octets in memory zero.
+// Keeps the first `count` octets in memory, 1 to 8, and clears the rest.
 uint64_t KeepFirstOctets(uint64_t word, uint32_t count) {
   const uint32_t dropped = 64 - count * 8;
 #if __BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__
@@ -40,7 +40,7 @@ uint64_t KeepFirstOctets(uint64_t word, uint32_t count) {
 #endif
 }
 
-// Copies 1 or more octets. Most strings are short, and a call for each costs more than its octets.
+// Copies 1 or more octets. Most strings are short, and copying these is cheaper than a call.
 inline void CopyString(uint8_t* to, const uint8_t* from, uint32_t count) {
   if (count > 16) {
     CodecCopy(to, from, count);
@@ -54,7 +54,7 @@ inline void CopyString(uint8_t* to, const uint8_t* from, uint32_t count) {
   }
 }
 
-// The same of `count` octets of which some lie outside the caller's buffer, those as zero.
+// Takes `count` octets; those outside the caller's buffer are left zero.
 [[gnu::noinline]] void TakeOctetsAtEdge(PerReader& reader, uint8_t* octets, uint32_t count) {
   if (count == 0) return;
   CodecCopy(octets, reader.position, Minimum(count, PerReadableOctets(reader)));
@@ -71,7 +71,7 @@ inline void TakeOctets(PerReader& reader, uint8_t* octets, uint32_t count) {
   }
 }
 
-// The character of kWidth bits with that index in a run that begins at `octets`.
+// The character of kWidth bits at `index` in a run that begins at `octets`.
 template <uint32_t kWidth>
 uint32_t CharacterAt(const uint8_t* octets, uint32_t index) {
   if constexpr (kWidth == 4) return octets[index / 2] >> (index % 2 == 0 ? 4 : 0) & 15;
@@ -79,8 +79,7 @@ uint32_t CharacterAt(const uint8_t* octets, uint32_t index) {
   if constexpr (kWidth == 16) return PerLoad16(octets + uint64_t{index} * 2);
 }
 
-// `count` characters of kWidth bits, each mapped before it is stored. Characters that the input does
-// not reach stay 0.
+// Reads `count` characters of kWidth bits and stores each mapped. Characters past the end of the input stay 0.
 template <class Character, uint32_t kWidth, class Map>
 Character* ReadCharacters(PerReader& reader, uint32_t count, Map map) {
   auto* characters = static_cast<Character*>(PerAllocate(reader, uint64_t{count} * sizeof(Character)));
@@ -114,11 +113,11 @@ uint32_t PrintableCharacter(uint32_t index) {
   return ' ';
 }
 
-// How many of `count` octets end a subidentifier. `inside` says how many can be read.
+// How many of `count` octets end a subidentifier. `inside` octets can be read.
 uint32_t CountSubidentifiers(const uint8_t* octets, uint32_t count, uint32_t inside) {
   uint32_t subidentifiers = 0;
   uint32_t done = 0;
-  // Eight at a time: the octets whose high bit is clear, each as a 1, are summed into the uppermost.
+  // Eight at a time: each octet with a clear high bit becomes a 1, and the multiplication sums them in the top octet.
   for (; done < count && inside - done >= 8; done += 8) {
     const uint32_t beyond = count - done < 8 ? 8 - (count - done) : 0;
     const uint64_t last = ~LoadWord(octets + done) >> 7 & 0x0101010101010101;
@@ -128,7 +127,7 @@ uint32_t CountSubidentifiers(const uint8_t* octets, uint32_t count, uint32_t ins
   return subidentifiers;
 }
 
-// The `count` arcs, 2 or more, of as many subidentifiers less one; returns where they end.
+// Reads `count` arcs, 2 or more, from `count` - 1 subidentifiers; returns where they end.
 const uint8_t* TakeArcs(uint32_t* arcs, uint32_t count, const uint8_t* octets) {
   for (uint32_t i = 1; i < count; ++i) {
     uint32_t octet = *octets++;
@@ -144,11 +143,11 @@ const uint8_t* TakeArcs(uint32_t* arcs, uint32_t count, const uint8_t* octets) {
   return octets;
 }
 
-// The arcs of an object identifier wherever the reader stands.
+// Reads the arcs of an object identifier at any position.
 void ReadArcs(PerReader& reader, uint32_t* arcs, uint32_t count) {
   const uint32_t first = PerReadSubidentifier(reader);
   arcs[0] = first / 40;
-  // Contents without a final octet count a single arc, so there is no room for the second.
+  // Contents in which no subidentifier ends count as one arc, so there is no room for the second.
   if (count > 1) arcs[1] = first % 40;
   for (uint32_t i = 2; i < count && !PerAtEnd(reader); ++i) arcs[i] = PerReadSubidentifier(reader);
 }
@@ -168,7 +167,7 @@ uint32_t PerReadConstrainedWholeNumberAtEdge(PerReader& reader, uint32_t range) 
   }
   const uint32_t octets = PerReadBits(reader, 2) + 1;
   PerAlign(reader);
-  // A fourth octet cannot occur in a range of three; the number reads as 0 and no octet is consumed.
+  // A range of three octets cannot have a fourth; the number reads as 0 and no octet is consumed.
   if (range <= 1U << 24 && octets == 4) return 0;
   return PerReadBits(reader, octets * 8);
 }
@@ -278,7 +277,7 @@ uint32_t PerReadSubidentifier(PerReader& reader) {
   uint32_t value = 0;
   uint32_t octet = 0;
   do {
-    octet = PerReadBits(reader, 8);  // 0 at the end, which ends the subidentifier as a last octet does
+    octet = PerReadBits(reader, 8);  // 0 at the end, which ends the subidentifier
     value = value << 7 | (octet & 0x7F);
   } while ((octet & 0x80) != 0);
   return value;
@@ -291,8 +290,8 @@ void PerReadObjectIdentifier(ObjectIdentifierValue& value, PerReader& reader) {
     value.count = 0;
     return;
   }
-  // The contents are counted before their length is checked, as far as the caller's buffer goes. Octets before
-  // the end but outside that buffer read as zero, and so each of them ends a subidentifier.
+  // The contents are counted, as far as the caller's buffer goes, before their length is checked. Octets before the end
+  // but outside that buffer read as zero, so each ends a subidentifier.
   const uint32_t left = PerOctetsLeft(reader);
   const uint32_t readable = PerReadableOctets(reader);
   const uint32_t counted = Minimum(length, readable > left ? readable : left);
@@ -316,7 +315,7 @@ void PerReadObjectIdentifier(ObjectIdentifierValue& value, PerReader& reader) {
   } else {
     ReadArcs(reader, arcs, count);
   }
-  // Octets after the last subidentifier that ends were only looked at.
+  // Octets after the last complete subidentifier were only counted.
   if (reader.position < behind) PerCountRereading(reader, static_cast<uint32_t>(behind - reader.position));
 }
 

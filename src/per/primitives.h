@@ -1,9 +1,8 @@
 // One primitive for each PER construct (X.691, aligned variant).
 //
-// Each looks at the reader first and, where it stands at its end, reads nothing and yields 0 or null.
-// None reports an error: what it cannot decode (a fragmented length, a length past the end, a refused
-// block) moves the reader to its end. A pointer that is returned is a zeroed block that the caller
-// owns and keeps in its record.
+// At the reader's end a primitive reads nothing and yields 0 or null. No primitive reports an error: what it cannot
+// decode (a fragmented length, a length past the end, a refused block) moves the reader to its end. A returned pointer
+// is a block that the caller owns and keeps in its record.
 #pragma once
 
 #include <stddef.h>
@@ -15,13 +14,13 @@
 
 namespace kelvra {
 
-// The range that stands for 2^32 values.
+// The range that represents 2^32 values.
 inline constexpr uint32_t kFullRange = 0xFFFFFFFF;
 
-// Reports that a block of `size` octets was refused; the reader moves to its end.
+// Traces the refusal of a block of `size` octets and moves the reader to its end.
 [[gnu::cold]] void PerRefuseBlock(PerReader& reader, uint64_t size);
 
-// A zeroed block of `size` octets against the message's allowance; refused, the reader moves to its end.
+// A zeroed block of `size` octets, charged to the message's allowance. If refused: null, and the reader at its end.
 inline void* PerAllocate(PerReader& reader, uint64_t size) {
   void* block = nullptr;
   if (size <= reader.allowance) [[likely]]
@@ -34,18 +33,18 @@ inline void* PerAllocate(PerReader& reader, uint64_t size) {
   return block;
 }
 
-// --- Numbers. ...AtEdge reads the same wherever the reader stands. ---
+// --- Numbers. ...AtEdge reads the same at any position. ---
 
 uint32_t PerReadConstrainedWholeNumberAtEdge(PerReader& reader, uint32_t range);  // of 256 values or more
 uint32_t PerReadLengthAtEdge(PerReader& reader);
 uint32_t PerReadNormallySmallAtEdge(PerReader& reader);
 
-// The bits of a constrained whole number of `range` values, fewer than 256.
+// The bits of a constrained whole number with a range below 256.
 constexpr uint32_t PerBitsOfRange(uint32_t range) {
   return range < 2 ? 0 : 32 - static_cast<uint32_t>(__builtin_clz(range - 1));
 }
 
-// Constrained whole number of `range` values (10.5), less its lower bound.
+// Constrained whole number of `range` values (10.5), minus its lower bound.
 [[gnu::always_inline]] inline uint32_t PerReadConstrainedWholeNumber(PerReader& reader, uint32_t range) {
   if (range < 2) return 0;
   if (range < 256) return PerReadBits(reader, PerBitsOfRange(range));
@@ -83,17 +82,17 @@ inline uint32_t PerReadNormallySmall(PerReader& reader) {
   return PerReadNormallySmallAtEdge(reader);
 }
 
-// Semi-constrained whole number (10.7) with lower bound 0, up to 32 bits. No decoder has one; the long form of a
-// normally small number is read without, because one that is too wide is not reported there.
+// Semi-constrained whole number (10.7) with lower bound 0, up to 32 bits. No decoder uses it, not even for the long
+// form of a normally small number, because it does not report a number that is too wide.
 uint32_t PerReadUnsignedWithLength(PerReader& reader);
 // Unconstrained whole number (10.8), up to 32 bits.
 int32_t PerReadInteger(PerReader& reader);
 
 // OCTET STRING (16) of `count` octets, always aligned.
 uint8_t* PerReadOctets(PerReader& reader, uint32_t count);
-// OCTET STRING with a length determinant. `length` may be null; it is stored even where the octets are missing.
+// OCTET STRING with a length determinant. `length` may be null; it is stored even if the octets are missing.
 uint8_t* PerReadOctetString(PerReader& reader, uint32_t* length);
-// OCTET STRING whose length is constrained to `range` values from `lowerBound` on.
+// OCTET STRING whose length is constrained to `range` values from `lowerBound`.
 inline uint8_t* PerReadSizedOctets(PerReader& reader, uint32_t* length, uint32_t range, uint32_t lowerBound) {
   if (PerAtEnd(reader)) return nullptr;
   const uint32_t octets = PerReadConstrainedWholeNumber(reader, range) + lowerBound;
@@ -102,14 +101,14 @@ inline uint8_t* PerReadSizedOctets(PerReader& reader, uint32_t* length, uint32_t
 }
 // OCTET STRING with a length determinant; a length past the end leaves an empty value.
 void PerReadClearedOctetString(OctetStringValue& value, PerReader& reader);
-// BIT STRING (15) of `count` bits, aligned when longer than 16.
+// BIT STRING (15) of `count` bits, aligned if longer than 16.
 uint8_t* PerReadBitString(PerReader& reader, uint32_t count);
 
 // Strings of 4-bit characters, `count` of them: the codes as sent; NumericString; TBCD-STRING.
 uint8_t* PerReadNibbles(PerReader& reader, uint32_t count);
 uint8_t* PerReadNumericString(PerReader& reader, uint32_t count);
 uint8_t* PerReadTBCDString(PerReader& reader, uint32_t count);
-// PrintableString from its canonical index, 8 bits a character. The capitals A to S become spaces.
+// PrintableString by canonical index, 8 bits per character. The capitals A to S become spaces.
 uint8_t* PerReadPrintableString(PerReader& reader, uint32_t count);
 // BMPString of `count` 16-bit characters.
 uint16_t* PerReadBMPString(PerReader& reader, uint32_t count);

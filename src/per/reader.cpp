@@ -5,7 +5,7 @@
 namespace kelvra {
 namespace {
 
-// The lines by which the refusals of the reader are told apart.
+// The trace lines that distinguish the reader's refusals.
 enum RefusalLine : int32_t { kSkipAtEnd = 85, kSkipPastEnd = 101, kReadPastEnd = 127, kReadTooWide = 134 };
 
 [[gnu::cold]] void TraceRefusal(RefusalLine line) {

@@ -1,32 +1,30 @@
 // The cursor over one message, read most significant bit first (X.691, aligned variant).
 //
-// Reads are inline where the octets they may touch are there; at the edges of the message each goes
-// through one function that is not, and which alone decides what happens there.
+// Reads are inline if all octets they may touch are present. At the edges of the message each goes through one
+// out-of-line function, which alone decides what happens there.
 #pragma once
 
 #include <stdint.h>
 
 namespace kelvra {
 
-// How deep recursive types (GenericParameter, DataType under itself, ...) are followed. A message
-// that nests deeper is malformed.
+// The nesting limit of recursive types (GenericParameter, DataType in itself, ...). A message that nests deeper is
+// malformed.
 inline constexpr uint32_t kMaximumDepth = 32;
 
-// What the blocks of one message may claim in all: so many octets for each of its own beside the first
-// megabyte, up to the maximum. A block past that is refused as if the heap had refused it. The maximum is
-// what can be obtained, cleared and given back in a few milliseconds; what calls exchange stays far below
-// it, though lawful messages could be made that do not.
+// The memory that the blocks of one message may claim: 1 MiB plus kMessageMemoryForEachOctet per message octet, up to
+// the maximum. A block past that is refused as if by the heap. The maximum can be allocated, cleared and freed in a few
+// milliseconds; messages of real calls stay far below it, though conforming messages that exceed it can be constructed.
 inline constexpr uint32_t kMaximumMessageMemory = 8U << 20;
 inline constexpr uint32_t kLeastMessageMemory = 1U << 20;
 inline constexpr uint32_t kMessageMemoryForEachOctet = 2048;
 
-// How many octets of one message may be read, or looked at, a second time: those that leaving an open
-// type moves the reader back over, and those that were counted but not read. Past it the reader moves to its
-// end and stays there.
+// How many octets of one message may be reread: those that the reader moves back over when it leaves an open type, and
+// those that were counted but not read. Past this limit the reader moves to its end and stays there.
 //
-// Conforming messages have some read again where a GSM-UIM holds a `tmsi`, which is read as digits, so that what
-// follows is read out of place, and where more than kOpenTypeLevels open types lie in each other. The longest
-// registration of such aliases has 65,506 octets read again.
+// In conforming messages two things cause rereading: a `tmsi` in a GSM-UIM, which is read as digits, so that what
+// follows is misaligned; and more than kOpenTypeLevels nested open types. The longest registration with such aliases
+// rereads 65,506 octets.
 inline constexpr uint32_t kMaximumRereading = 128U << 10;
 
 inline constexpr uint32_t kOpenTypeLevels = 10;
@@ -38,26 +36,26 @@ struct OpenTypeRing {
   const uint8_t* starts[kOpenTypeLevels];
 };
 
-// Of a type that no record has, so that the compiler knows a reader's offset to survive a store to a record.
+// A type that no record uses: the compiler then knows that stores to a record do not change a reader's offset.
 using BitOffset = unsigned long;
 
-// Why a read failed, for those who ask afterwards; no decode does.
+// Why a read failed, for diagnosis only; no decode depends on it.
 enum class PerCause : uint8_t {
   kNone,
-  kEndOfMessage,      // the bits are not there
-  kLengthPastEnd,     // a length announces more than there is
-  kFragmentedLength,  // a length comes in fragments
+  kEndOfMessage,      // the bits are missing
+  kLengthPastEnd,     // a length announces more than is left
+  kFragmentedLength,  // a length is fragmented
   kNumberTooWide,     // a number of more than 32 bits, or a length past its bound
   kUndefinedIndex,    // an index past the alternatives of a CHOICE
   kRefusedBlock,      // the heap refused a block
-  kTooMuchMemory,     // the message claims more memory than it may
-  kTooDeep,           // types nest deeper than they may
-  kTooMuchRereading,  // the message has more read again than it may
-  kUnknownVersion,    // a registration names a version that is not known
+  kTooMuchMemory,     // the message claims more memory than allowed
+  kTooDeep,           // types nest too deep
+  kTooMuchRereading,  // more octets are reread than allowed
+  kUnknownVersion,    // a registration names an unknown version
 };
 
-// There is no error flag: a read that fails moves `position` to `end`, and from then on every read
-// yields 0. An open type's length can carry `position` beyond `end`, which counts as exhausted.
+// There is no error flag: a failed read moves `position` to `end`, and every later read yields 0. An open type's length
+// can carry `position` beyond `end`, which counts as exhausted.
 struct PerReader {
   static constexpr bool kObserves = false;
 
@@ -67,60 +65,60 @@ struct PerReader {
 
   const uint8_t* readable;  // end of the caller's octets; those from here to `end` read as zero
 
-  // The nearer of both: octets before it can be read without looking further.
+  // The nearer of `end` and `readable`: octets before it can be read without another check.
   const uint8_t* octetLimit;
 
-  // State that belongs to the decoding of this one message.
+  // State of this message's decode.
   OpenTypeRing openTypes;
-  int32_t extensionPresentCount;  // unknown additions to skip, as the last bitmap left it
+  int32_t extensionPresentCount;  // unknown additions to skip, from the last bitmap
   PerCause cause;                 // of the first failure
-  int32_t senderVersion;          // the version that the message names, where it decides which additions follow
+  int32_t senderVersion;          // the version that the message names, if it decides which additions follow
   uint32_t depth;                 // recursive types entered
   uint32_t allowance;             // octets that blocks may still claim
-  uint32_t reread;                // octets read or looked at a second time so far
-  const uint8_t* stoppedAt;       // at the end only: the octet boundary it had read to before it moved; null: the end
+  uint32_t reread;                // octets reread so far
+  const uint8_t* stoppedAt;       // at the end only: the octet boundary reached before the move there; null: the end
 };
 
-// Over `length` octets at `buffer`, with fresh decoding state.
+// Sets up a reader of `length` octets at `buffer`, with fresh decoding state.
 void PerReaderInit(PerReader& reader, const uint8_t* buffer, uint32_t length);
-// The same where the caller's buffer holds `available` octets from there on, fewer or more than `length`.
+// The same for a caller's buffer that holds `available` octets from `buffer`, fewer or more than `length`.
 void PerReaderInit(PerReader& reader, const uint8_t* buffer, uint32_t length, uint32_t available);
 
-// Over a message of RAS or H.245, of whose length the low 16 bits count.
+// A reader of a RAS or H.245 message; only the low 16 bits of the length are used.
 inline PerReader PerReaderOver(const uint8_t* buffer, uint32_t length) {
   PerReader reader;
   PerReaderInit(reader, buffer, static_cast<uint16_t>(length));
   return reader;
 }
 
-// `pointer` plus `count`, held at the last address instead of wrapping round.
+// `pointer` plus `count`, limited to the last address instead of wrapping.
 inline const uint8_t* PerAdvance(const uint8_t* pointer, uint32_t count) {
   const auto address = reinterpret_cast<uintptr_t>(pointer);
-  // An address past the buffer is only compared, which the arithmetic of pointers does not allow for.
+  // An address past the buffer is only compared, but pointer arithmetic does not allow it.
   // NOLINTNEXTLINE(performance-no-int-to-ptr)
   return reinterpret_cast<const uint8_t*>(count > UINTPTR_MAX - address ? UINTPTR_MAX : address + count);
 }
 
 inline bool PerAtEnd(const PerReader& reader) { return reader.position >= reader.end; }
 
-// Whole octets from the position on, the one that is partly consumed included.
+// Octets from the position to the end, including a partly consumed one.
 inline uint32_t PerOctetsLeft(const PerReader& reader) {
   return PerAtEnd(reader) ? 0
                           : static_cast<uint32_t>(reinterpret_cast<uintptr_t>(reader.end) -
                                                   reinterpret_cast<uintptr_t>(reader.position));
 }
 
-// Octets that can be read from the position on.
+// Octets from the position that can be read.
 inline uint32_t PerOctetsInside(const PerReader& reader) {
   return reader.position >= reader.octetLimit ? 0 : static_cast<uint32_t>(reader.octetLimit - reader.position);
 }
 
-// Octets of the caller's buffer from the position on, those past the end included.
+// Octets of the caller's buffer from the position, including those past the end.
 inline uint32_t PerReadableOctets(const PerReader& reader) {
   return reader.position >= reader.readable ? 0 : static_cast<uint32_t>(reader.readable - reader.position);
 }
 
-// The next octet boundary after the position and `offset`, the reader's own; the position itself where it is one.
+// The next octet boundary from the position and `offset`, the reader's own; the position itself if it is one.
 inline const uint8_t* PerBoundary(const PerReader& reader, BitOffset offset) {
   return reader.position + (offset + 7) / 8;
 }
@@ -138,11 +136,10 @@ inline void PerMoveToEnd(PerReader& reader, PerCause cause) {
   reader.bitOffset = 0;
 }
 
-// Counts octets that are read or looked at a second time. Returns false, and the reader is at its end for
-// good, once they are too many.
+// Counts reread octets. Once there are too many, moves the reader to its end for good and returns false.
 bool PerCountRereading(PerReader& reader, uint32_t octets);
 
-// Moves the reader back to `octet`, which an open type ends at.
+// Moves the reader back to `octet`, the end of an open type.
 [[gnu::noinline]] void PerMoveBack(PerReader& reader, const uint8_t* octet);
 
 // The octet at `position` plus `index`, zero outside the caller's buffer.
@@ -151,12 +148,12 @@ uint8_t PerPeekOctet(const PerReader& reader, uint32_t index);
 // Advances by `count` bits; past the end the reader stops there.
 void PerSkipBits(PerReader& reader, uint32_t count);
 
-// PerReadBits wherever the reader stands.
+// PerReadBits at any position.
 [[gnu::noinline]] uint32_t PerReadBitsAtEdge(PerReader& reader, uint32_t count);
 
-// --- Where octets can be read without looking further ---
+// --- Octets that can be read without another check ---
 
-// Whether there are `count` of them from the position on, which may stand anywhere.
+// Whether there are `count` of them from the position, which may be anywhere.
 inline bool PerHasOctets(const PerReader& reader, int32_t count) {
   return reader.octetLimit - reader.position >= count;
 }
@@ -165,15 +162,14 @@ inline bool PerHasOctets(const PerReader& reader, int32_t count) {
 inline uint32_t PerLoad16(const uint8_t* octets) { return uint32_t{octets[0]} << 8 | octets[1]; }
 inline uint32_t PerLoad32(const uint8_t* octets) { return PerLoad16(octets) << 16 | PerLoad16(octets + 2); }
 
-// How many octets PerTakeBits loads for `count` bits: as many as these span from any offset.
+// How many octets PerTakeBits loads for `count` bits, enough for any offset.
 [[gnu::always_inline]] inline int32_t PerOctetsTaken(uint32_t count) {
   if (!__builtin_constant_p(count)) return 5;
   return count <= 9 ? 2 : count <= 25 ? 4 : 5;
 }
 
-// The next 1 to 32 bits from `offset` on, the reader's own, for which `taken` octets can be read: what
-// PerOctetsTaken said when that was asked. It may answer otherwise the next time, as far as the compiler
-// knows the count.
+// The next 1 to 32 bits from `offset`, the reader's own. `taken` octets can be read: the value of PerOctetsTaken at the
+// check. Another call may return a different value, depending on whether the compiler knows `count` there.
 [[gnu::always_inline]] inline uint32_t PerTakeBits(PerReader& reader, BitOffset offset, uint32_t count, int32_t taken) {
   const uint8_t* octets = reader.position;
   uint32_t bits = taken == 2 ? PerLoad16(octets) << 16 : PerLoad32(octets);
@@ -196,10 +192,10 @@ inline void PerMoveTo(PerReader& reader, const uint8_t* octet) {
 
 // --- Reading ---
 //
-// The offset is loaded before it is looked whether the octets are there: then the compiler keeps it in a register
-// from one read to the next, where each would wait for what the one before it stored.
+// Load the offset before the bounds check: the compiler then keeps it in a register from read to read instead of
+// reloading what it just stored.
 
-// The next `count` bits (0 to 32), or 0 and the reader at its end when there are not as many.
+// The next `count` bits (0 to 32); 0, and the reader at its end, if there are fewer.
 [[gnu::always_inline]] inline uint32_t PerReadBits(PerReader& reader, uint32_t count) {
   const int32_t taken = PerOctetsTaken(count);
   const BitOffset offset = reader.bitOffset;
@@ -218,11 +214,10 @@ inline void PerMoveTo(PerReader& reader, const uint8_t* octet) {
   return uint32_t{*octet} << offset >> 7 & 1;
 }
 
-// Flags that follow one another in the encoding (an extension bit, presence bits, BOOLEANs), read at once and
-// handed out in their order.
+// Consecutive flags (an extension bit, presence bits, BOOLEANs), read at once and returned in order.
 class PerFlags {
  public:
-  // The first flag is the uppermost bit.
+  // The first flag is the top bit.
   explicit PerFlags(uint32_t bits) : bits_(bits) {}
 
   uint32_t Next() {
@@ -230,18 +225,17 @@ class PerFlags {
     bits_ <<= 1;
     return flag;
   }
-  // How many of those that were not handed out are set.
+  // How many of the remaining flags are set.
   int32_t CountLeft() const { return __builtin_popcount(bits_); }
 
  private:
   uint32_t bits_;
 };
 
-// PerReadFlags wherever the reader stands.
+// PerReadFlags at any position.
 [[gnu::noinline]] PerFlags PerReadFlagsAtEdge(PerReader& reader, uint32_t count);
 
-// The next `count` flags, 1 to 32 and at most `most`. Those that the message does not reach are 0, as if read
-// one by one.
+// The next `count` flags, 1 to 32 and at most `most`. Flags past the end of the message are 0, as if read one by one.
 [[gnu::always_inline]] inline PerFlags PerReadFlags(PerReader& reader, uint32_t count, uint32_t most) {
   const int32_t taken = PerOctetsTaken(most);
   const BitOffset offset = reader.bitOffset;
@@ -254,8 +248,8 @@ class PerFlags {
   return PerReadFlags(reader, count, count);
 }
 
-// Bounds the reader to the next `length` octets while it lives. Afterwards the reader stands past them,
-// whatever was consumed.
+// Bounds the reader to the next `length` octets while it lives. Afterwards the reader resumes past them, whatever was
+// consumed.
 class PerBounds {
  public:
   PerBounds(PerReader& reader, uint32_t length);

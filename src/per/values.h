@@ -1,4 +1,4 @@
-// Numbers and strings as records keep them. Bounds are those of the ASN.1, both inclusive.
+// Numbers and strings as records keep them. Bounds are those of the ASN.1, inclusive.
 #pragma once
 
 #include "kelvra/description.h"
@@ -8,7 +8,7 @@ namespace kelvra {
 
 // --- Numbers ---
 
-// What depends on bounds is always inline: with the bounds it folds to the one form that the number has.
+// Functions with bounds are always inline: constant bounds reduce them to the one form of the number.
 
 // INTEGER (low..high). The number is not checked against its range.
 template <class Number>
@@ -24,7 +24,7 @@ template <class Number>
   return PerReadNumber<uint32_t>(r, low, high);
 }
 
-// --- Strings: the length is kept before the units are read ---
+// --- Strings: the length is stored before the units are read ---
 
 // `count` units of a string.
 template <asn1::StringUnits kUnits>
