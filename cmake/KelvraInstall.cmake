@@ -1,4 +1,4 @@
-# What is installed, in three components: library, development, viewer (whose program tools/ installs).
+# Installs three components: library, development and viewer.
 if(KELVRA_BUILD_TOOLS)
   list(APPEND libraries kelvra_text)
 endif()
@@ -18,7 +18,7 @@ install(FILES
   ${CMAKE_CURRENT_BINARY_DIR}/kelvraConfig.cmake
   ${CMAKE_CURRENT_BINARY_DIR}/kelvraConfigVersion.cmake
   DESTINATION ${package_dir} COMPONENT development)
-# The file finds its installation from where it lies itself.
+# The .pc file finds the installation from its own location.
 set(pkgconfig_dir ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 cmake_path(RELATIVE_PATH CMAKE_INSTALL_PREFIX
   BASE_DIRECTORY ${CMAKE_INSTALL_PREFIX}/${pkgconfig_dir} OUTPUT_VARIABLE pc_prefix)
@@ -35,7 +35,7 @@ endif()
 install(FILES docs/records.json DESTINATION ${CMAKE_INSTALL_DATADIR}/kelvra COMPONENT development)
 install(FILES README.md CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development)
 
-# Debian packages, made by cpack; scripts/dist.sh makes everything else.
+# Debian packages, built by cpack; scripts/dist.sh makes everything else.
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_CONTACT "The Kelvra developers")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)

@@ -1,4 +1,4 @@
-# What the targets of this build share.
+# Shared settings and functions for targets.
 
 set(kelvra_warnings -Wall -Wextra -Wconversion -Wshadow -Wpedantic -Werror)
 if(NOT PROJECT_IS_TOP_LEVEL)
@@ -7,7 +7,7 @@ endif()
 
 function(_kelvra_common target)
   target_compile_options(${target} PRIVATE ${kelvra_warnings})
-  # No folder of this machine stands in what is built.
+  # Keep paths of this machine out of the output.
   target_compile_options(${target} PRIVATE
     -ffile-prefix-map=${PROJECT_BINARY_DIR}=build -ffile-prefix-map=${PROJECT_SOURCE_DIR}=.)
   if(KELVRA_SANITIZE)
@@ -20,13 +20,13 @@ function(_kelvra_common target)
     target_compile_options(${target} PRIVATE -fsanitize=fuzzer-no-link)
   endif()
   if(WIN32)
-    # A bare Windows has none of the compiler's own libraries.
+    # A plain Windows has none of the compiler's libraries.
     target_link_options(${target} PRIVATE -static -static-libgcc -static-libstdc++)
     target_link_options(${target} PRIVATE -Wl,--no-insert-timestamp)  # the same octets from each build
   endif()
 endfunction()
 
-# Sources of the library: no exceptions leave it, so none are compiled in.
+# Sources of the library, which uses neither exceptions nor RTTI.
 function(kelvra_library_options target)
   _kelvra_common(${target})
   target_compile_options(${target} PRIVATE -fno-exceptions -fno-rtti)
@@ -35,23 +35,22 @@ function(kelvra_library_options target)
     POSITION_INDEPENDENT_CODE ON)
 endfunction()
 
-# Tools, which are tested as they ship.
+# Tools, which are tested as shipped.
 function(kelvra_tool_options target)
   _kelvra_common(${target})
 endfunction()
 
-# Tests.
+# Tests and other programs that do not ship.
 function(kelvra_program_options target)
   _kelvra_common(${target})
   if(KELVRA_BUILD_TESTS)
-    # What runs only in tests takes longer to optimize than to run. The library is tested as it ships.
+    # Test code takes longer to optimize than to run. The library is tested as shipped.
     target_compile_options(${target} PRIVATE -O0 -g1)
   endif()
 endfunction()
 
-# Exports from the shared library exactly the names that the .def file lists.
-# The linker takes the file as it is for a DLL; elsewhere a version script is
-# made from it, which also hides what the C++ runtime's templates would export.
+# Exports from the shared library exactly the names in the .def file. For a DLL the linker reads that file; elsewhere
+# it becomes a version script, which also hides what the C++ runtime's templates would export.
 function(kelvra_exports target def)
   set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${def})
   if(WIN32)
@@ -82,7 +81,7 @@ function(kelvra_exports target def)
   set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS ${map})
 endfunction()
 
-# The name and the version of a shared library that is shipped.
+# Sets the name and version of a shipped shared library.
 function(kelvra_shared_library target description)
   if(NOT WIN32)
     set_target_properties(${target} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
@@ -91,11 +90,11 @@ function(kelvra_shared_library target description)
   set(version ${CMAKE_CURRENT_BINARY_DIR}/${target}_version.rc)
   configure_file(${PROJECT_SOURCE_DIR}/cmake/version.rc.in ${version} @ONLY)
   target_sources(${target} PRIVATE ${version})
-  # Programs load it by this name.
+  # Programs load it under this name.
   set_target_properties(${target} PROPERTIES PREFIX "")
 endfunction()
 
-# The types that a header describes at its outermost level, each of which has a decoder of its own.
+# Sets <result> to the types that a header describes at its outermost level. Each has its own decoder.
 function(_kelvra_described_types result header)
   file(STRINGS ${header} lines
     REGEX "^([a-z]|  KELVRA_(SEQUENCE|CHOICE|ENUMERATED))")
@@ -119,9 +118,9 @@ function(_kelvra_described_types result header)
   set(${result} ${types} PARENT_SCOPE)
 endfunction()
 
-# Writes a unit for each header with descriptions, which instantiates the function templates of <signatures> for each of
-# its types, the TYPE of a signature, and a header by which no other unit does. Sets <result> to the units; they include
-# <definitions> and <directory>/declarations.h.
+# Writes one unit per header with descriptions. It instantiates the function templates of <signatures> for each type of
+# the header, which replaces TYPE. <directory>/declarations.h declares all instances extern, so no other unit
+# instantiates them. Sets <result> to the units; they include <definitions> and that header.
 function(kelvra_type_units result directory definitions signatures)
   set(include_dir ${PROJECT_SOURCE_DIR}/include)
   file(GLOB_RECURSE headers CONFIGURE_DEPENDS RELATIVE ${include_dir}
@@ -163,9 +162,8 @@ function(kelvra_type_units result directory definitions signatures)
   set(${result} ${units} PARENT_SCOPE)
 endfunction()
 
-# Makes header-only libraries of the build machine usable for any target. The
-# whole of its include directory would bring its C library's headers along.
-# Sets <result> to the include directory.
+# Makes header-only libraries of the build machine usable for any target, without its C library's headers. Sets <result>
+# to the include directory.
 function(kelvra_host_headers result)
   set(directory ${CMAKE_BINARY_DIR}/host-headers)
   file(MAKE_DIRECTORY ${directory})

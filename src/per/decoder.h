@@ -91,7 +91,7 @@ inline constexpr bool kIsSharedList = false;
 template <class Kind>
 inline constexpr bool kIsSharedList<asn1::SequenceOfKind<Kind>> = std::is_empty_v<Kind>;
 
-// Whether a list element after the end of the message is still read, or fails.
+// Whether a list element is read even after the end of the message: it then fails, or keeps its length.
 template <class Element, class Kind>
 inline constexpr bool kElementReports = false;
 template <class Element>

@@ -2,7 +2,7 @@
 //
 // At the reader's end a primitive reads nothing and yields 0 or null. No primitive reports an error: what it cannot
 // decode (a fragmented length, a length past the end, a refused block) moves the reader to its end. A returned pointer
-// is a block that the caller owns and keeps in its record.
+// is a block that the caller owns and keeps in its record; octets that were not read are zero.
 #pragma once
 
 #include <stddef.h>
