@@ -180,7 +180,7 @@ constexpr AliasKind<Kind> DefinedType(Kind kind) {
 }
 // A SEQUENCE or CHOICE that the ASN.1 defines inline.
 constexpr InlineTypeKind InlineType() { return {}; }
-// A defined type in a block of its own.
+// A defined type in its own block.
 constexpr IndirectKind IndirectType() { return {}; }
 // OCTET STRING (CONTAINING a defined type), decoded in place.
 constexpr ContainingKind Containing() { return {}; }
