@@ -73,15 +73,15 @@ std::optional<int> ParseOptions(int count, char** arguments, Options& options) {
   app.set_version_flag("--version", "kelvra-dump " KELVRA_VERSION);
   // Under Wine, for example, a path may start with '/'.
   app.allow_windows_style_options(false);
-  app.add_option("FILE", options.files, "what to read, one after the other; - or nothing: standard input")
-      ->type_name("");
+  app.add_option("FILE", options.files, "the files to read, in order; standard input if - or omitted")->type_name("");
 
   app.option_defaults()->group("Input");
-  AddKeyword(app, "--input", kInputs, options.input, "what the input is (auto: judged by its first octets)");
-  AddKeyword(app, "--as", kFamilies, options.family, "the family of hexadecimal or raw messages, which no port gives");
-  AddPorts(app, "--ras-port", options.ports.ras, "a UDP port of RAS in addition to 1718 and 1719");
-  AddPorts(app, "--call-port", options.ports.call_signalling, "a TCP port of call signalling in addition to 1720");
-  AddPorts(app, "--h245-port", options.ports.h245, "a TCP port of H.245");
+  AddKeyword(app, "--input", kInputs, options.input, "the kind of input (auto: detected from its first octets)");
+  AddKeyword(app, "--as", kFamilies, options.family, "the message family of hexadecimal or raw input");
+  AddPorts(app, "--ras-port", options.ports.ras, "an additional UDP port for RAS (default 1718 and 1719)");
+  AddPorts(app, "--call-port", options.ports.call_signalling,
+           "an additional TCP port for call signalling (default 1720)");
+  AddPorts(app, "--h245-port", options.ports.h245, "a TCP port for H.245");
 
   app.option_defaults()->group("Output");
   AddKeyword(app, "--format", kFormats, options.format,
@@ -95,14 +95,15 @@ std::optional<int> ParseOptions(int count, char** arguments, Options& options) {
   app.add_flag("--octets", options.formatting.showsOctets,
                "the tree shows the octets and bits of each member, octet.bit-octet.bit, and the message's octets");
   AddKeyword(app, "--color", kColors, options.color, "colours (auto: on a terminal, unless NO_COLOR is set)");
-  app.add_flag("-l", options.flushesLines, "print each message at once; always so where the input is no regular file");
+  app.add_flag("-l", options.flushesLines, "print each message at once; always on unless the input is a regular file");
 
   app.option_defaults()->group("Filters");
   AddFilter(app, options.filter);
 
   app.option_defaults()->group("Times");
   const auto setTimes = [&options](TimeStyle style) { return [&options, style] { options.formatting.times = style; }; };
-  auto* local = app.add_flag_callback("--local", setTimes(TimeStyle::kLocal), "times of this machine's zone, not UTC");
+  auto* local =
+      app.add_flag_callback("--local", setTimes(TimeStyle::kLocal), "times in the local time zone instead of UTC");
   app.add_flag_callback("--relative", setTimes(TimeStyle::kRelative), "seconds since the first message")
       ->excludes(local);
 
