@@ -32,6 +32,7 @@ std::string TableText(const std::vector<std::vector<std::string>>& rows) {
 
 std::string CountsText(const std::map<std::string, uint64_t>& counts) {
   std::vector<std::vector<std::string>> rows;
+  rows.reserve(counts.size());
   for (const auto& [name, count] : counts) rows.push_back({Printable(name), std::to_string(count)});
   return TableText(rows);
 }

@@ -188,7 +188,7 @@ void CaptureFile::AddInterface(std::span<const uint8_t> body) {
     if (code == 0) break;
     if (size > body.size() - at) Fail("an option of an interface is too long");
     TakeOption(code, body.subspan(at, size), interface);
-    at = std::min(body.size(), at + (size + 3U) / 4 * 4);
+    at = std::min(body.size(), at + (size_t{size} + 3) / 4 * 4);
   }
   interfaces_.push_back(interface);
 }
