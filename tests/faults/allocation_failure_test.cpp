@@ -1,9 +1,9 @@
 // What refused allocations leave in addition to the record.
 #include "faults/channel_writer.h"
 #include "faults/fault_test.h"
-#include "record/release.h"
 #include "kelvra/h245/messages/h245_message.h"
 #include "per/decoder.h"
+#include "record/release.h"
 
 namespace kelvra::test {
 namespace {
