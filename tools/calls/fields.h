@@ -12,16 +12,11 @@ std::optional<Guid> ToGuid(Node octets);
 // The callIdentifier of a message, or of an element of perCallInfo.
 std::optional<Guid> CallIdentifierOf(Node body);
 
-// Without the flag bit that shows which side allocated it.
 std::optional<uint16_t> CallReferenceOf(Node body);
 
-// Without the NUL characters with which some equipment pads identifiers.
 std::string AliasText(Node alias);
 void AddAliases(Node list, Party& party);
 void AddAddress(const std::optional<Endpoint>& address, Party& party);
-
-// The digits of a Q.931 party number element, without octet 3a.
-std::string PartyNumberText(Node element);
 
 // The alternative of a CHOICE or the identifier of an ENUMERATED; other values as text.
 std::string ReasonText(Node reason);

@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "calls/call.h"
+#include "decode/values.h"
 #include "text/concat.h"
 
 namespace {
@@ -18,12 +19,10 @@ void Collect(Node node, MediaFields& fields) {
   }
 }
 
-// For a generic capability, its identifier.
 std::string CodecText(Node capability) {
-  const Node application = capability["application"];
-  const Node choice = application ? application : capability;
-  const Node identifier = choice.Chosen()["capabilityIdentifier"].Chosen();
-  return Concat({choice.Alternative(), identifier ? " " : "", identifier.Text()});
+  const Codec codec = CodecOf(capability);
+  const Node identifier = codec.identifier.Chosen();
+  return Concat({codec.name, identifier ? " " : "", identifier.Text()});
 }
 
 std::string_view DirectionOf(std::string_view capability) {

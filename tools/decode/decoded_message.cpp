@@ -1,6 +1,7 @@
 #include "decode/decoded_message.h"
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 #include <limits>
 #include <utility>

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "decode/tree.h"
+#include "decode/values.h"
 #include "text/concat.h"
 #include "text/names.h"
 #include "text/utf8.h"
@@ -28,10 +29,7 @@ class DetailList {
   std::string text_;
 };
 
-// Drops the NUL characters with which some equipment pads identifiers.
-std::string Quoted(std::string_view text) {
-  return Concat({"\"", text.substr(0, text.find_last_not_of('\0') + 1), "\""});
-}
+std::string Quoted(std::string_view text) { return Concat({"\"", WithoutPadding(text), "\""}); }
 
 bool IsText(Node node) {
   switch (node.Kind()) {
@@ -44,21 +42,12 @@ bool IsText(Node node) {
   }
 }
 
-// The digits of an alias that is a PartyNumber.
-std::string PartyDigits(Node alias) {
-  const Node number = alias["partyNumber"].Chosen();
-  for (const Node digits : {number, number["publicNumberDigits"], number["privateNumberDigits"]}) {
-    if (IsText(digits)) return Quoted(digits.Text());
-  }
-  return {};
-}
-
 // A number, a string, yes or no, an address, or the chosen alternative.
 std::string ValueText(Node value) {
   if (IsText(value)) return Quoted(value.Text());
   if (value.Is(NodeKind::kNumber)) return value.Text();
   if (value.Is(NodeKind::kBoolean)) return *value.Number() != 0 ? "yes" : "no";
-  if (std::string digits = PartyDigits(value); !digits.empty()) return digits;
+  if (const Node digits = PartyDigits(value["partyNumber"]); IsText(digits)) return Quoted(digits.Text());
   if (const auto endpoint = ToEndpoint(value)) return ToText(*endpoint);
   return IsText(value.Chosen()) ? Quoted(value.Chosen().Text()) : std::string(value.Alternative());
 }
@@ -146,12 +135,10 @@ std::string CauseText(Node octet) {
   return Concat({std::to_string(cause), name.empty() ? "" : " ", name});
 }
 
-// The codec of a capability; for a generic one, its identifier.
 std::string CodecText(Node capability) {
-  const Node application = capability["application"];
-  const Node choice = application ? application : capability;
-  const std::string identifier = FirstOf(choice.Chosen(), {"capabilityIdentifier"});
-  return Concat({choice.Alternative(), identifier.empty() ? "" : " ", identifier});
+  const Codec codec = CodecOf(capability);
+  const std::string identifier = ValueText(codec.identifier);
+  return Concat({codec.name, identifier.empty() ? "" : " ", identifier});
 }
 
 // The codec of a DataType or ModeElementType, or the kind of data.
@@ -207,29 +194,14 @@ std::string ModesText(Node requestedModes) {
   return Joined(modes, ", ");
 }
 
-// Without the flag bit that shows which side allocated it, so that both sides of a call show the same value.
-std::string CallReferenceText(Node value) {
-  const auto number = value.Number();
-  return number ? std::to_string(*number & 0x7FFF) : std::string();
-}
-
-// Octet 3a of Q.931 may precede the digits.
-std::string PartyNumber(Node element) {
-  const auto octets = element.Octets();
-  if (octets.empty()) return element ? Quoted("") : std::string();
-  std::string text;
-  AppendLatin1(text, octets.front() >= 0x80 ? octets.subspan(1) : octets);
-  return Quoted(text);
-}
-
 void AddQ931(const DecodedMessage& message, DetailList& details) {
   const Node root = message.Root();
   const Node body = message.Body();
   const auto party = [&](std::string_view element, std::string_view member) {
-    const std::string number = PartyNumber(root[element]);
-    return number.empty() ? FirstOf(body, {member}) : number;
+    return root[element] ? Quoted(PartyNumberText(root[element])) : FirstOf(body, {member});
   };
-  details.Add("crv", CallReferenceText(root["callReferenceValue"]));
+  const auto reference = CallReference(root["callReferenceValue"]);
+  details.Add("crv", reference ? std::to_string(*reference) : std::string());
   details.Add("from", party("callingPartyNumber", "sourceAddress"));
   details.Add("to", party("calledPartyNumber", "destinationAddress"));
   details.Add("reason", FirstOf(body, {"reason"}));
