@@ -11,10 +11,13 @@ namespace kelvra::test {
 
 class ExactBuffer {
  public:
+  // `spare` zero octets follow those given, or the first `count` of them.
+  explicit ExactBuffer(const std::vector<uint8_t>& octets, size_t spare = 0)
+      : ExactBuffer(octets, octets.size(), spare) {}
   // Not inlined: with a sanitizer, GCC takes the copy of zero octets for one past the block.
-  [[gnu::noinline]] explicit ExactBuffer(const std::vector<uint8_t>& octets)
-      : size_(static_cast<uint32_t>(octets.size())), octets_(new uint8_t[octets.size()]) {
-    std::copy(octets.begin(), octets.end(), octets_.get());
+  [[gnu::noinline]] ExactBuffer(const std::vector<uint8_t>& octets, size_t count, size_t spare)
+      : size_(static_cast<uint32_t>(count + spare)), octets_(new uint8_t[count + spare]()) {
+    std::copy_n(octets.begin(), count, octets_.get());
   }
 
   const uint8_t* Data() const { return octets_.get(); }

@@ -98,7 +98,7 @@ struct Ras {
   using Record = kelvra::h225::RasMessageRecord;
   static constexpr size_t kSpare = 1;
   static void Decode(Record& record, const ExactBuffer& buffer) {
-    KelvraDecodeRASMessage(&record, buffer.octets(), buffer.size());
+    KelvraDecodeRASMessage(&record, buffer.Data(), buffer.Size());
   }
   static void Free(Record& record) { KelvraFreeRASMessage(&record); }
 };
@@ -106,7 +106,7 @@ struct Q931 {
   using Record = kelvra::h225::Q931MessageRecord;
   static constexpr size_t kSpare = 0;
   static void Decode(Record& record, const ExactBuffer& buffer) {
-    KelvraDecodeQ931Message(&record, buffer.octets(), static_cast<int32_t>(buffer.size()));
+    KelvraDecodeQ931Message(&record, buffer.Data(), static_cast<int32_t>(buffer.Size()));
   }
   static void Free(Record& record) { KelvraFreeQ931Message(&record); }
 };
@@ -114,7 +114,7 @@ struct H245 {
   using Record = kelvra::h245::H245MessageRecord;
   static constexpr size_t kSpare = 0;
   static void Decode(Record& record, const ExactBuffer& buffer) {
-    KelvraDecodeH245Message(&record, buffer.octets(), buffer.size());
+    KelvraDecodeH245Message(&record, buffer.Data(), buffer.Size());
   }
   static void Free(Record& record) { KelvraFreeH245Message(&record); }
 };
