@@ -16,7 +16,7 @@ size_t RecordSize(Family family) {
   return 0;
 }
 
-// Keeps the compiler from removing the work behind the value, or an allocation.
+// Keeps the compiler from removing the work that makes the value, or an allocation.
 template <class Value>
 void Use(const Value& value) {
   __asm__ volatile("" : : "g"(value) : "memory");

@@ -151,7 +151,7 @@ bool RunFile(const std::string& file, const Options& options, CaptureReader& cap
   }
   if (options.family) {
     throw std::runtime_error(
-        "--as does not go with a capture, whose ports tell the families; see the "
+        "--as does not go with a capture, whose ports give the families; see the "
         "options --ras-port, --call-port and --h245-port");
   }
   captures.Read(source);

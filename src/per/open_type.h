@@ -21,12 +21,12 @@ inline void OpenTypeBegin(PerReader& reader) {
 // has been reread.
 inline void OpenTypeEnd(PerReader& reader) {
   OpenTypeRing& ring = reader.openTypes;
-  const uint8_t* behind = PerAdvance(ring.starts[ring.index], ring.lengths[ring.index]);
+  const uint8_t* after = PerAdvance(ring.starts[ring.index], ring.lengths[ring.index]);
   ring.index = ring.index == 0 ? kOpenTypeLevels - 1 : ring.index - 1;
-  if (behind < PerBoundary(reader)) [[unlikely]]
-    return PerMoveBack(reader, behind);
+  if (after < PerBoundary(reader)) [[unlikely]]
+    return PerMoveBack(reader, after);
   if (reader.position <= reader.end) reader.bitOffset = 0;
-  reader.position = behind;
+  reader.position = after;
 }
 
 // Skips `count` open types. A length past the end leaves the reader beyond the end.

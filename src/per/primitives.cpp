@@ -309,14 +309,14 @@ void PerReadObjectIdentifier(ObjectIdentifierValue& value, PerReader& reader) {
     return;
   }
   value.arcs = arcs;
-  const uint8_t* behind = PerAdvance(reader.position, length);
+  const uint8_t* after = PerAdvance(reader.position, length);
   if (count > 1 && inside == length) [[likely]] {
     reader.position = TakeArcs(arcs, count, reader.position);
   } else {
     ReadArcs(reader, arcs, count);
   }
   // Octets after the last complete subidentifier were only counted.
-  if (reader.position < behind) PerCountRereading(reader, static_cast<uint32_t>(behind - reader.position));
+  if (reader.position < after) PerCountRereading(reader, static_cast<uint32_t>(after - reader.position));
 }
 
 }  // namespace kelvra

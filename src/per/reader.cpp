@@ -37,13 +37,13 @@ void PerReaderInit(PerReader& reader, const uint8_t* buffer, uint32_t length, ui
 }
 
 PerBounds::PerBounds(PerReader& reader, uint32_t length)
-    : reader_(reader), outerEnd_(reader.end), behind_(PerAdvance(reader.position, length)) {
-  SetEnd(reader, behind_);
+    : reader_(reader), outerEnd_(reader.end), after_(PerAdvance(reader.position, length)) {
+  SetEnd(reader, after_);
 }
 
 PerBounds::~PerBounds() {
   SetEnd(reader_, outerEnd_);
-  PerMoveTo(reader_, behind_);
+  PerMoveTo(reader_, after_);
   reader_.stoppedAt = nullptr;
   if (reader_.reread > kMaximumRereading) PerMoveToEnd(reader_, PerCause::kTooMuchRereading);
 }

@@ -260,7 +260,7 @@ class PerBounds {
  private:
   PerReader& reader_;
   const uint8_t* outerEnd_;
-  const uint8_t* behind_;
+  const uint8_t* after_;
 };
 
 // Advances to the next octet boundary.

@@ -81,7 +81,7 @@ TEST(NullArguments, LeaveTheRecordUntouched) {
   EXPECT_EQ(KelvraDecodeH245Message(nullptr, buffer.Data(), buffer.Size()), -1);
 }
 
-TEST(RasFrame, ReturnsTheAddressBehindTheMessage) {
+TEST(RasFrame, ReturnsTheAddressAfterTheMessage) {
   const Buffer buffer(With(Hex(kReject), {0xEE, 0xEE}));
   Ras ras;
   EXPECT_EQ(DecodeRas(ras, buffer), AddressIn(buffer, 12));

@@ -29,7 +29,7 @@ TEST_F(AllocationFailureTest, H245LeavesEveryOpenTypeThatItEnters) {
 }
 
 // A message that needs no block also decodes with an empty heap.
-TEST_F(AllocationFailureTest, AMessageThatNeedsNoBlockNeedsNoMemory) {
+TEST_F(AllocationFailureTest, MessageWithoutBlocksNeedsNoMemory) {
   heap_.RefuseFrom(1);
   const std::vector<uint8_t> octets = OpenLogicalChannelMessage(WriteNullDataType);
   DecodedMessage message(Family::kH245, octets);

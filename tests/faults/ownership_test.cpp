@@ -37,7 +37,7 @@ TEST_F(OwnershipTest, EachFamilyReleasesUnderItsOwnPath) {
 
 // With 64-bit pointers, such an address matches a source route that lost its tag in everything except the route count,
 // if its octets lie at an address like this one.
-TEST_F(OwnershipTest, ANonStandardAddressIsNotTakenForASourceRoute) {
+TEST_F(OwnershipTest, NonStandardAddressIsNoSourceRoute) {
   if constexpr (sizeof(void*) == 8) {
     h225::TransportAddress address{};
     address.choiceTag = 6;

@@ -99,7 +99,7 @@ TEST(Q931FrameTest, SingleOctetElementsAreNeverFound) {
   Frame frame(Q931Builder().Octets({0xA1, 0x90, 0xFF}).Element(0x08, {0x80, 0x90}).UserUser().Octets({0xA1}).Done());
   EXPECT_EQ(frame.result, kQ931Decoded);
   EXPECT_FALSE(frame.Has(kSendingCompletePresent));
-  EXPECT_EQ(+frame.m.causeValue, 0x90) << "an element behind a shift is found all the same";
+  EXPECT_EQ(+frame.m.causeValue, 0x90) << "an element after a shift is found all the same";
   EXPECT_TRUE(frame.Has(kUserInformationPresent));
 }
 
@@ -229,7 +229,7 @@ TEST(Q931FrameTest, ElementLongerThanTheFrameIsPassedOver) {
   EXPECT_EQ(+beyond.m.callIdentityLength, 0);
 }
 
-TEST(Q931FrameTest, UserInformationMayEndWithItsElementButNotTwoOctetsBehind) {
+TEST(Q931FrameTest, UserInformationMayEndWithItsElementButNotTwoOctetsLater) {
   const Octets information = EmptyBodyInformation();
   const auto exact = static_cast<int>(information.size()) + 1;
   EXPECT_EQ(Frame(Q931Builder().UserUser(information, exact).Done()).result, kQ931Decoded);

@@ -153,7 +153,7 @@ TEST(NonStandardMessageTest, DataBeyondTheEndReadsAsZero) {
   EXPECT_EQ(input.Bit(), 8U * (6 + 20));
 }
 
-TEST(NonStandardMessageTest, ClassWithoutPrivateMessagesStopsBehindTheLength) {
+TEST(NonStandardMessageTest, ClassWithoutPrivateMessagesStopsAfterTheLength) {
   BitWriter w;
   Input input(PrivateIdentifier(w, true).OpenType({0x00, 1}));
   Owned<H245NonStandardMessageRecord> m;

@@ -42,9 +42,9 @@ Octets RewoundVideoCapabilities(size_t size) {
   Octets octets = ExtendedVideoChannel();
   octets.insert(octets.end(), std::begin(kList), std::end(kList));
   for (int level = 0; level < 32; ++level) Append(octets, wide);
-  const size_t behind = octets.size() + 6 + kLongestLength;
+  const size_t after = octets.size() + 6 + kLongestLength;
   for (int i = 0; i < 255; ++i) Append(octets, back);
-  octets.resize(behind < size ? behind : size);
+  octets.resize(after < size ? after : size);
   for (int i = 0; i < 256 && octets.size() + bits.size() <= size; ++i) Append(octets, bits);
   octets.resize(octets.size() + 6404 < size ? octets.size() + 6404 : size, 0xFF);
   octets.resize(size);

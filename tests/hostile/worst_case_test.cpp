@@ -35,7 +35,7 @@ TEST_F(WorstCases, ClaimNoMoreThanTheBoundAndStopWhereTheyReadTooMuchAgain) {
   EXPECT_GE(stopped, 9U) << "messages that used to take seconds";
 }
 
-TEST_F(WorstCases, ARegistrationOfAliasesThatAreReadAgainIsAccepted) {
+TEST_F(WorstCases, RegistrationWithRereadAliasesIsAccepted) {
   std::vector<uint8_t> octets = RegistrationOfAliases(kLongest);
   EXPECT_EQ(CostOf(Family::kRas, octets).reread, 10 * AliasesOfRegistration(kLongest) - 4);
   static Ras::Record record;
@@ -60,7 +60,7 @@ TEST_F(WorstCases, LeaveARecordThatReleasesCleanly) {
   for (const Message& message : HostileMessages(kLongest)) ExpectSafe(message.family, message.octets, message.name);
 }
 
-TEST_F(WorstCases, AreFarFromWhatCarriedMessagesNeed) {
+TEST_F(WorstCases, ExceedWhatTestMessagesNeed) {
   double ratio = 0;
   for (const Message& message : Corpus()) {
     const MessageCost cost = CostOf(message.family, WithSpare(message.family, message.octets));

@@ -23,7 +23,7 @@ Octets Nested(uint32_t level, uint32_t levels) {
 
 uint32_t ReadOctet(PerReader& reader) { return PerReadBits(reader, 8); }
 
-TEST(OpenType, ResumesBehindAValueThatIsLongerThanItsDecoderReads) {
+TEST(OpenType, ResumesAfterAValueLongerThanItsDecoderReads) {
   Input input(BitWriter().Bits(1, 1).OpenType({1, 2, 3, 4}).Bits(0x5A, 8));
   PerReadBit(input.reader);
   OpenTypeBegin(input.reader);
@@ -33,7 +33,7 @@ TEST(OpenType, ResumesBehindAValueThatIsLongerThanItsDecoderReads) {
   EXPECT_TRUE(input.AtExactEnd());
 }
 
-TEST(OpenType, ResumesBehindAValueThatIsShorterThanItsDecoderReads) {
+TEST(OpenType, ResumesAfterAValueShorterThanItsDecoderReads) {
   Input input(BitWriter().OpenType({1}).Octets({0x5A, 2, 3}));
   OpenTypeBegin(input.reader);
   EXPECT_EQ(PerReadBits(input.reader, 21), 0x01u << 13 | 0x5Au << 5);

@@ -97,7 +97,7 @@ TEST(PerReadConstrainedWholeNumber, CutShortIsZeroAtTheEnd) {
                {kFullRange, {0xFF}, 7},
                {kFullRange, {0xFF}, 8}};
   for (const auto& test : cases) {
-    SCOPED_TRACE(testing::Message() << "range " << test.range << " behind " << test.skipped << " bits");
+    SCOPED_TRACE(testing::Message() << "range " << test.range << " after " << test.skipped << " bits");
     Input input(test.octets);
     PerSkipBits(input.reader, test.skipped);
     EXPECT_EQ(PerReadConstrainedWholeNumber(input.reader, test.range), 0u);
@@ -241,7 +241,7 @@ TEST(PerReadOctets, OfNoneIsNullAndMovesNothing) {
   EXPECT_EQ(input.Bit(), 1u);
 }
 
-TEST(PerReadOctets, ReadsZerosBehindTheCallersOctets) {
+TEST(PerReadOctets, ReadsZerosPastTheCallersOctets) {
   Input input({1, 2});
   input.reader.end = PerAdvance(input.reader.position, 5);
   EXPECT_EQ(Taken(PerReadOctets(input.reader, 4), 4), (Numbers{1, 2, 0, 0}));
@@ -510,7 +510,7 @@ TEST(PerReadObjectIdentifier, AlignsFirst) {
   EXPECT_EQ(Taken(static_cast<uint32_t*>(value.arcs), 2), (Numbers{1, 3}));
 }
 
-TEST(PerReadObjectIdentifier, ReadsZerosBehindTheCallersOctets) {
+TEST(PerReadObjectIdentifier, ReadsZerosPastTheCallersOctets) {
   Input input({0x04, 0x2B, 0x06}, 5);
   ObjectIdentifierValue value{};
   PerReadObjectIdentifier(value, input.reader);

@@ -155,7 +155,7 @@ TEST(PerReadBit, ReadsBitByBit) {
 }
 
 // Every count from every offset, in messages with all, some or none of the flags.
-TEST(PerReadFlags, AreThoseThatAreReadOneByOne) {
+TEST(PerReadFlags, MatchSingleReads) {
   const std::vector<uint8_t> octets = {0x9C, 0x3A, 0x5F, 0x17, 0xE2, 0xB4};
   for (size_t size = 1; size <= octets.size(); ++size) {
     for (uint32_t offset = 0; offset < 8; ++offset) {
@@ -267,7 +267,7 @@ TEST(PerPeekOctet, LooksAheadWithoutMoving) {
 }
 
 // An element of a frame may claim more octets than the caller's buffer holds.
-TEST(PerReader, ReadsZerosBehindTheCallersOctets) {
+TEST(PerReader, ReadsZerosPastTheCallersOctets) {
   Input input({0xAB, 0xCD});
   input.reader.end = PerAdvance(input.reader.position, 8);
   EXPECT_EQ(PerReadBits(input.reader, 4), 0xAu);

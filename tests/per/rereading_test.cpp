@@ -23,7 +23,7 @@ TEST(Rereading, IsNoneWhereEachValueEndsWithItsOpenType) {
   EXPECT_EQ(input.reader.reread, 0U);
 }
 
-TEST(Rereading, CountsTheOctetsReadBehindAnOpenType) {
+TEST(Rereading, CountsOctetsReadPastAnOpenType) {
   Input input(BitWriter().OpenType({1}).Octets(std::vector<uint8_t>(20, 7)));
   ReadInOpenType(input.reader, 6);
   EXPECT_EQ(input.reader.reread, 5U);
@@ -109,7 +109,7 @@ class TooMuchRereading : public testing::Test {
   Input input{std::vector<uint8_t>(2 * kOctets, 0)};
 };
 
-TEST_F(TooMuchRereading, BeginsBehindTheBound) {
+TEST_F(TooMuchRereading, BeginsPastTheBound) {
   for (uint32_t i = 0; i < kTimes; ++i) ReadInOpenType(input.reader, kOctets);
   EXPECT_EQ(input.reader.reread, kMaximumRereading);
   EXPECT_EQ(input.Bit(), kTimes * 8);
@@ -141,7 +141,7 @@ TEST(Rereading, OfAnObjectIdentifierEndsTheMessageToo) {
   CodecFree(&value.arcs, "test", 0);
 }
 
-TEST(PerBounds, EndsTheReaderThereAndResumesBehind) {
+TEST(PerBounds, EndsTheReaderThereAndResumesAfter) {
   Input input(BitWriter().Octets({1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12}));
   input.Next();
   {

@@ -32,7 +32,7 @@ class Memory {
     std::memcpy(&number, octets_.data() + offset, sizeof number);
     return number;
   }
-  void ExpectNothingBehind() const {
+  void ExpectNothingLeft() const {
     EXPECT_EQ(Octets(octets_.end() - 32, octets_.end()), Octets(32, kDirt));
     EXPECT_NE(octets_[size_ - 1], kDirt);
   }
@@ -47,7 +47,7 @@ TEST(SharedLibrary, DecodesAndReleasesRas) {
   const Octets octets = Hex(kReject);
   const intptr_t end = KelvraDecodeRASMessage(memory.Get(), octets.data(), static_cast<uint32_t>(octets.size()));
   EXPECT_EQ(end, reinterpret_cast<intptr_t>(octets.data() + octets.size()));
-  memory.ExpectNothingBehind();
+  memory.ExpectNothingLeft();
   EXPECT_EQ(memory.At<uint8_t>(0), 2u);
   EXPECT_EQ(memory.At<uint16_t>(1), 33143u);
   EXPECT_EQ(memory.At<uint32_t>(3), 6u);
@@ -65,7 +65,7 @@ TEST(SharedLibrary, KeepsTheExtensionFlagOfRasLast) {
   Memory<h225::RasMessageRecord> memory(kRasSize);
   const Octets octets = Hex("8902aabb00");
   EXPECT_NE(KelvraDecodeRASMessage(memory.Get(), octets.data(), 5), 0);
-  memory.ExpectNothingBehind();
+  memory.ExpectNothingLeft();
   EXPECT_EQ(memory.At<uint8_t>(0), 9u);
   EXPECT_EQ(memory.At<uint32_t>(kLayoutIsFixed ? 906 : sizeof(h225::RasMessageRecord) - 4), 1u);
   KelvraFreeRASMessage(memory.Get());
@@ -76,7 +76,7 @@ TEST(SharedLibrary, DecodesAndReleasesQ931) {
   const Octets octets =
       Hex("03000032080225eb7d701f813537322a3332373037353338303532363933303534352a2a3834363837357e00050508100100");
   EXPECT_EQ(KelvraDecodeQ931Message(memory.Get(), octets.data(), static_cast<int32_t>(octets.size())), 0);
-  memory.ExpectNothingBehind();
+  memory.ExpectNothingLeft();
   // calledPartyNumber and user information present.
   EXPECT_EQ(memory.At<uint32_t>(0), 0x9u);
   EXPECT_EQ(memory.At<uint8_t>(4), 8u);
@@ -99,7 +99,7 @@ TEST(SharedLibrary, DecodesAndReleasesH245) {
   Memory<h245::H245MessageRecord> memory(kH245Size);
   const Octets octets = Hex(kChannel);
   EXPECT_EQ(KelvraDecodeH245Message(memory.Get(), octets.data(), static_cast<uint32_t>(octets.size())), 1);
-  memory.ExpectNothingBehind();
+  memory.ExpectNothingLeft();
   EXPECT_EQ(memory.At<uint32_t>(0), 0u);
   EXPECT_EQ(memory.At<uint8_t>(4), 0u);
   EXPECT_EQ(memory.At<uint32_t>(5), 0u);

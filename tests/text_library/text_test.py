@@ -61,7 +61,7 @@ class Arguments(unittest.TestCase):
 
 
 class Captures(unittest.TestCase):
-    def assert_says_what_the_viewer_says(self, octets, ports=(), options=()):
+    def assert_same_as_viewer(self, octets, ports=(), options=()):
         with tempfile.TemporaryDirectory() as folder:
             file = pathlib.Path(folder) / "a.pcap"
             file.write_bytes(octets)
@@ -76,11 +76,11 @@ class Captures(unittest.TestCase):
         return lines, errors
 
     def test_the_sample(self):
-        lines, _ = self.assert_says_what_the_viewer_says(SAMPLE.read_bytes())
+        lines, _ = self.assert_same_as_viewer(SAMPLE.read_bytes())
         self.assertEqual(json.loads(lines[0])["frame"], 1)
 
     def test_a_capture_that_ends_within_a_packet_fails_after_its_messages(self):
-        lines, errors = self.assert_says_what_the_viewer_says(SAMPLE.read_bytes()[:-7])
+        lines, errors = self.assert_same_as_viewer(SAMPLE.read_bytes()[:-7])
         self.assertIn("-3 ", errors)
         self.assertGreater(len(lines), 1)
 
@@ -88,21 +88,21 @@ class Captures(unittest.TestCase):
         octets = SAMPLE.read_bytes()
         start = octets.index(b"\x03\x00\x00")
         octets = octets[:start] + b"\x09" + octets[start + 1:]  # no TPKT header
-        _, errors = self.assert_says_what_the_viewer_says(octets)
+        _, errors = self.assert_same_as_viewer(octets)
         self.assertIn("loss: ", errors)
 
     def test_a_message_that_waits_for_its_end_is_a_loss_at_the_end(self):
         octets = SAMPLE.read_bytes()
         start = octets.rindex(b"\x03\x00\x00")
         octets = octets[:start + 2] + b"\x7f" + octets[start + 3:]  # these octets never arrive
-        _, errors = self.assert_says_what_the_viewer_says(octets)
+        _, errors = self.assert_same_as_viewer(octets)
         self.assertIn("loss: ", errors)
 
     def test_further_ports(self):
         # 1719 becomes 1819, which only the option reveals.
         octets = SAMPLE.read_bytes().replace((1719).to_bytes(2, "big"), (1819).to_bytes(2, "big"))
-        without, _ = self.assert_says_what_the_viewer_says(octets)
-        lines, _ = self.assert_says_what_the_viewer_says(octets, ["ras:1819"], ["--ras-port", "1819"])
+        without, _ = self.assert_same_as_viewer(octets)
+        lines, _ = self.assert_same_as_viewer(octets, ["ras:1819"], ["--ras-port", "1819"])
         self.assertGreater(len(lines), len(without))
 
     def test_what_is_no_capture_is_refused(self):

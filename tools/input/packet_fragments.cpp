@@ -46,7 +46,7 @@ std::optional<std::vector<uint8_t>> FragmentedPackets::Whole(const Packet& packe
 
 uint64_t FragmentedPackets::Incomplete() const {
   const auto may_hold_ras = [](const Packet& packet) { return packet.may_hold_ras; };
-  return given_up_ + static_cast<uint64_t>(std::count_if(waiting_.begin(), waiting_.end(), may_hold_ras));
+  return abandoned_ + static_cast<uint64_t>(std::count_if(waiting_.begin(), waiting_.end(), may_hold_ras));
 }
 
 FragmentedPackets::Packets::iterator FragmentedPackets::Find(const Fragment& fragment) {
@@ -61,7 +61,7 @@ void FragmentedPackets::Forget(Packets::iterator packet) {
 
 void FragmentedPackets::KeepBounds() {
   while (fragments_ > kMostFragments) {
-    given_up_ += waiting_.front().may_hold_ras ? 1 : 0;
+    abandoned_ += waiting_.front().may_hold_ras ? 1 : 0;
     Forget(waiting_.begin());
   }
 }

@@ -48,5 +48,5 @@ class FragmentedPackets {
   const CapturePorts& ports_;
   Packets waiting_;       // oldest first
   size_t fragments_ = 0;  // of all waiting packets
-  uint64_t given_up_ = 0;
+  uint64_t abandoned_ = 0;
 };

@@ -13,7 +13,7 @@
 namespace {
 
 // Gives the caller a copy of the text; if memory is short, no text and another status.
-int HandOver(int status, std::string_view text, char** to) noexcept {
+int PassOn(int status, std::string_view text, char** to) noexcept {
   char* copy = new (std::nothrow) char[text.size() + 1];
   if (copy == nullptr) return KELVRA_TEXT_OUT_OF_MEMORY;
   *std::copy(text.begin(), text.end(), copy) = '\0';
@@ -31,11 +31,11 @@ int Guard(char** text, Run run) noexcept {
   } catch (const std::bad_alloc&) {
     return KELVRA_TEXT_OUT_OF_MEMORY;
   } catch (const InputError& error) {
-    return HandOver(KELVRA_TEXT_UNREADABLE, error.what(), text);
+    return PassOn(KELVRA_TEXT_UNREADABLE, error.what(), text);
   } catch (const std::exception& error) {
-    return HandOver(KELVRA_TEXT_INTERNAL, error.what(), text);
+    return PassOn(KELVRA_TEXT_INTERNAL, error.what(), text);
   } catch (...) {
-    return HandOver(KELVRA_TEXT_INTERNAL, "an unknown exception", text);
+    return PassOn(KELVRA_TEXT_INTERNAL, "an unknown exception", text);
   }
 }
 
@@ -73,8 +73,8 @@ struct kelvra_text_capture final : MessageSink {
   int Next(char** text) {
     has_begun_ = true;
     while (waiting_.empty() && !is_over_) ReadOn();
-    if (waiting_.empty()) return end_.text.empty() ? end_.status : HandOver(end_.status, end_.text, text);
-    const int status = HandOver(waiting_.front().status, waiting_.front().text, text);
+    if (waiting_.empty()) return end_.text.empty() ? end_.status : PassOn(end_.status, end_.text, text);
+    const int status = PassOn(waiting_.front().status, waiting_.front().text, text);
     if (*text != nullptr) waiting_.pop_front();
     return status;
   }
@@ -130,7 +130,7 @@ int KELVRA_TEXT_CALL kelvra_text_decode(int family, const uint8_t* octets, size_
   return Guard(json, [&] {
     if (!IsFamily(family) || (octets == nullptr && length > 0)) return int{KELVRA_TEXT_BAD_ARGUMENT};
     const Message message{static_cast<Family>(family), {octets, octets + length}, std::nullopt};
-    return HandOver(KELVRA_TEXT_OK, ToJson(message, DecodeMessage(message.family, message.octets)), json);
+    return PassOn(KELVRA_TEXT_OK, ToJson(message, DecodeMessage(message.family, message.octets)), json);
   });
 }
 
