@@ -5,9 +5,11 @@
 #include <string>
 #include <vector>
 
+#include "families.h"
+
 namespace kelvra::bench {
 
-enum class Family : uint8_t { kRas, kQ931, kH245 };
+using test::Family;
 
 inline constexpr const char* kFamilyNames[] = {"ras", "q931", "h245"};
 

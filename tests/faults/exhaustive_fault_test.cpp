@@ -9,10 +9,10 @@
 #include <string>
 
 #include "exact_buffer.h"
+#include "families.h"
 #include "faults/heap_double.h"
 #include "faults/known_digests.h"
 #include "faults/message_corpus.h"
-#include "faults/message_family.h"
 #include "faults/record_digest.h"
 #include "per/reader.h"
 #ifdef KELVRA_PRINT_RECORDS

@@ -7,12 +7,11 @@
 #include <vector>
 
 #include "exact_buffer.h"
+#include "families.h"
 #include "faults/record_digest.h"
 #include "kelvra/kelvra.h"
 
 namespace kelvra::test {
-
-enum class Family { kRas, kQ931, kH245 };
 
 struct Message {
   Family family;

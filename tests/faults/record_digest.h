@@ -53,4 +53,16 @@ BlockCollector BlocksOf(h225::RasMessageRecord& record);
 BlockCollector BlocksOf(h225::Q931MessageRecord& record);
 BlockCollector BlocksOf(h245::H245MessageRecord& record);
 
+// A digest of the result, the record and what is left after the release.
+template <class MessageFamily>
+uint64_t DigestOf(const std::vector<uint8_t>& octets) {
+  typename MessageFamily::Record record;
+  Digest digest;
+  digest.AddWord(static_cast<uint64_t>(MessageFamily::Decode(&record, octets.data(), octets.size())));
+  BlocksOf(record).AddTo(digest, &record, sizeof record);
+  MessageFamily::Release(&record);
+  digest.AddWord(BlocksOf(record).Blocks().size());
+  return digest.Value();
+}
+
 }  // namespace kelvra::test

@@ -3,8 +3,8 @@
 #include <set>
 
 #include "codec/memory.h"
+#include "families.h"
 #include "faults/fault_test.h"
-#include "faults/message_family.h"
 #include "h225/common/protocol_version.h"
 
 namespace kelvra::test {

@@ -4,8 +4,8 @@
 
 #include <algorithm>
 
+#include "families.h"
 #include "faults/fault_test.h"
-#include "faults/message_family.h"
 #include "hostile/hostile_messages.h"
 
 // A sanitizer's frames are larger, and partly outside the stack.

@@ -3,8 +3,8 @@
 
 #include <algorithm>
 
+#include "families.h"
 #include "faults/fault_test.h"
-#include "faults/message_family.h"
 #include "hostile/hostile_messages.h"
 #include "hostile/message_cost.h"
 #include "per/reader.h"

@@ -4,8 +4,8 @@
 
 #include <thread>
 
+#include "families.h"
 #include "faults/message_corpus.h"
-#include "faults/message_family.h"
 
 namespace kelvra::test {
 namespace {

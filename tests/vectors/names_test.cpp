@@ -10,11 +10,16 @@
 #include <typeindex>
 #include <utility>
 
+#include "families.h"
 #include "kelvra/kelvra.h"
 #include "kelvra/text.h"
 #include "vectors/vectors.h"
 
 namespace {
+
+using kelvra::test::H245;
+using kelvra::test::Q931;
+using kelvra::test::Ras;
 
 template <class T>
 concept HasAlternatives = requires(const T& record) {
@@ -94,39 +99,21 @@ class NameCheck : public kelvra::EmptyVisitor {
   const Json* element_ = nullptr;
 };
 
-struct Ras {
-  using Record = kelvra::h225::RasMessageRecord;
-  static constexpr size_t kSpare = 1;
-  static void Decode(Record& record, const ExactBuffer& buffer) {
-    KelvraDecodeRASMessage(&record, buffer.Data(), buffer.Size());
-  }
-  static void Free(Record& record) { KelvraFreeRASMessage(&record); }
-};
-struct Q931 {
-  using Record = kelvra::h225::Q931MessageRecord;
-  static constexpr size_t kSpare = 0;
-  static void Decode(Record& record, const ExactBuffer& buffer) {
-    KelvraDecodeQ931Message(&record, buffer.Data(), static_cast<int32_t>(buffer.Size()));
-  }
-  static void Free(Record& record) { KelvraFreeQ931Message(&record); }
-};
-struct H245 {
-  using Record = kelvra::h245::H245MessageRecord;
-  static constexpr size_t kSpare = 0;
-  static void Decode(Record& record, const ExactBuffer& buffer) {
-    KelvraDecodeH245Message(&record, buffer.Data(), buffer.Size());
-  }
-  static void Free(Record& record) { KelvraFreeH245Message(&record); }
-};
+// Decodes a buffer of exactly the first `count` octets and what the family wants after them.
+template <class Family>
+void DecodeStart(typename Family::Record& record, const Vector& vector, size_t count) {
+  const ExactBuffer buffer(vector.octets, count, Family::kSpareOctets);
+  Family::Decode(&record, buffer.Data(), buffer.Size());
+}
 
 template <class Family>
 void CheckNames(const std::string& file, std::set<NameTable::key_type>& seen) {
   const auto record = std::make_unique<typename Family::Record>();
   for (const Vector& vector : LoadVectors(file)) {
     SCOPED_TRACE(vector.name);
-    Family::Decode(*record, ExactBuffer(vector.octets, Family::kSpare));
+    DecodeStart<Family>(*record, vector, vector.octets.size());
     NameCheck(seen).Check(*record, vector.expected);
-    Family::Free(*record);
+    Family::Release(record.get());
   }
 }
 
@@ -176,9 +163,9 @@ size_t TextOfCutMessages(const std::string& file) {
   const auto record = std::make_unique<typename Family::Record>();
   for (const Vector& vector : LoadVectors(file)) {
     for (size_t count = 0; count <= vector.octets.size(); ++count) {
-      Family::Decode(*record, ExactBuffer(vector.octets, count, Family::kSpare));
+      DecodeStart<Family>(*record, vector, count);
       visitor.Record(nullptr, *record);
-      Family::Free(*record);
+      Family::Release(record.get());
       const size_t before = visitor.octets;
       visitor.Record(nullptr, *record);
       EXPECT_EQ(visitor.octets, before) << vector.name << " shows text after its release";

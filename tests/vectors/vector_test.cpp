@@ -9,6 +9,7 @@
 
 #include "decode/decoded_message.h"
 #include "decode/tree_builder.h"
+#include "families.h"
 #include "formats/json.h"
 #include "kelvra/kelvra.h"
 #include "vectors/vectors.h"
@@ -57,55 +58,28 @@ void ExpectReadWhole(const Vector& vector, Family family) {
   EXPECT_TRUE(differences.empty()) << vector.name << differences;
 }
 
-// Decodes with the export and releases. For RAS the result is the number of octets up to the address.
-template <class Record, class Decode, class Free>
-int64_t ResultOf(Decode decode, Free release) {
-  const auto record = std::make_unique<Record>();
-  const int64_t result = decode(record.get());
-  release(record.get());
-  return result;
-}
-
-int64_t ExportedResult(Family family, const ExactBuffer& buffer) {
-  const uint8_t* octets = buffer.Data();
-  const uint32_t size = buffer.Size();
-  switch (family) {
-    case Family::kRas:
-      return ResultOf<kelvra::h225::RasMessageRecord>(
-          [=](auto* record) {
-            const intptr_t end = KelvraDecodeRASMessage(record, octets, size);
-            return int64_t{end == 0 ? 0 : end - reinterpret_cast<intptr_t>(octets)};
-          },
-          KelvraFreeRASMessage);
-    case Family::kQ931:
-      return ResultOf<kelvra::h225::Q931MessageRecord>(
-          [=](auto* record) { return int64_t{KelvraDecodeQ931Message(record, octets, static_cast<int32_t>(size))}; },
-          KelvraFreeQ931Message);
-    case Family::kH245: break;
-  }
-  return ResultOf<kelvra::h245::H245MessageRecord>(
-      [=](auto* record) { return int64_t{KelvraDecodeH245Message(record, octets, size)}; }, KelvraFreeH245Message);
-}
-
 // The viewer takes the result of a message from its observed decode if nothing stopped that.
+template <class TestedFamily>
 void ExpectResultsOfTheExport(const std::string& file, Family family) {
   constexpr size_t kStep = 3;
-  const size_t spare = family == Family::kRas ? 1 : 0;
+  const auto record = std::make_unique<typename TestedFamily::Record>();
   for (const Vector& vector : LoadVectors(file)) {
     for (size_t cut = 0; cut < vector.octets.size(); cut += kStep) {
       const size_t count = vector.octets.size() - cut;
+      const ExactBuffer buffer(vector.octets, count, TestedFamily::kSpareOctets);
       const DecodedMessage decoded = DecodeMessage(family, std::span(vector.octets).first(count));
-      EXPECT_EQ(decoded.result, ExportedResult(family, ExactBuffer(vector.octets, count, spare)))
+      EXPECT_EQ(decoded.result, TestedFamily::Decode(record.get(), buffer.Data(), buffer.Size()))
           << vector.name << ", " << count << " octets";
+      TestedFamily::Release(record.get());
     }
   }
 }
 
 TEST(Vectors, ViewerShowsTheResultsOfTheExports) {
-  ExpectResultsOfTheExport("ras.jsonl", Family::kRas);
-  ExpectResultsOfTheExport("q931.jsonl", Family::kQ931);
-  ExpectResultsOfTheExport("h245.jsonl", Family::kH245);
-  ExpectResultsOfTheExport("private-h245.jsonl", Family::kH245);
+  ExpectResultsOfTheExport<kelvra::test::Ras>("ras.jsonl", Family::kRas);
+  ExpectResultsOfTheExport<kelvra::test::Q931>("q931.jsonl", Family::kQ931);
+  ExpectResultsOfTheExport<kelvra::test::H245>("h245.jsonl", Family::kH245);
+  ExpectResultsOfTheExport<kelvra::test::H245>("private-h245.jsonl", Family::kH245);
 }
 
 TEST(Vectors, RasMessagesHoldTheirValues) {

@@ -13,7 +13,7 @@
 #include <fstream>
 #include <iterator>
 
-#include "faults/message_family.h"
+#include "families.h"
 #include "hostile/hostile_messages.h"
 #include "hostile/message_cost.h"
 
