@@ -4,7 +4,7 @@
 #   scripts/setup.sh demo   build tools and the viewer's libraries (native x64)
 #   scripts/setup.sh lint   the above, clang-format and clang-tidy
 #   scripts/setup.sh test   the above, the cross compilers, GoogleTest and Wine
-#   scripts/setup.sh bench  build tools, Google Benchmark and valgrind
+#   scripts/setup.sh bench  build tools, Google Benchmark, valgrind and gnuplot
 #
 # It does nothing if nothing is missing. If Wine cannot be installed, it reports that but does not fail: scripts/test.sh
 # then lists the Windows targets as skipped, and fails in CI.
@@ -22,7 +22,7 @@ test_packages=(
   chromium chromium-driver
   python3-pip python3-setuptools python3-wheel jq sqlite3
 )
-bench_packages=(cmake ninja-build make g++ libbenchmark-dev valgrind python3)
+bench_packages=(cmake ninja-build make g++ libbenchmark-dev valgrind gnuplot-nox python3)
 wine_packages=(wine wine64 wine32:i386)
 lint_packages=(clang-format clang-tidy)
 
