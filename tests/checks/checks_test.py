@@ -45,7 +45,7 @@ class ExportsTest(ChecksTest):
         self.assert_passes("check-exports.sh", LIBRARY, DEF, "6")
         self.assert_refuses("does not export what", "check-exports.sh", LIBRARY, other, "6")
 
-    def test_a_list_of_no_names_is_refused(self):
+    def test_empty_list_of_names_is_refused(self):
         nothing = self.write("nothing.def", "LIBRARY kelvra\nEXPORTS\n")
         self.assert_refuses("does not list 6 names", "check-exports.sh", LIBRARY, nothing, "6")
 
@@ -94,7 +94,7 @@ class HeadersTest(ChecksTest):
             else:
                 self.assert_refuses(reason, "check-headers.sh", self.folder)
 
-    def test_what_each_warning_is_for_is_refused(self):
+    def test_code_with_a_warning_is_refused(self):
         self.assert_header(None, "inline int F(int x) { return x; }")
         for text in ("inline int F(int x) { if (x = 1) return 1; return 0; }",
                      "inline int F(int unused) { return 1; }",
@@ -112,13 +112,13 @@ class HeadersTest(ChecksTest):
                                   ("defined(_WIN32) && !defined(_WIN64)", "i686-pc-windows-msvc")):
             self.assert_header(f"some.h does not compile alone for {target}", f"#if {condition}\n#error\n#endif")
 
-    def test_the_c_library_is_memcpy_for_windows(self):
+    def test_c_library_for_windows_has_only_memcpy(self):
         self.assert_header(None, "#include <string.h>\ninline void F(int* x, int* y) { memcpy(x, y, sizeof *x); }")
         self.assert_header("for x86_64-pc-windows-msvc", "#include <stdio.h>")
         self.assert_header("for x86_64-pc-windows-msvc",
                            '#include <string.h>\ninline bool F(const char* x) { return strchr(x, 1) != nullptr; }')
 
-    def test_words_of_one_compiler_are_refused(self):
+    def test_compiler_extensions_are_refused(self):
         self.assert_header(None, "#define A(...) F(__VA_ARGS__)\n#undef A\n"
                                  "[[maybe_unused]] inline constexpr int kClass = 1;  // no __is_class here")
         for text in ("inline int F(unsigned x) { return __builtin_ctz(x); }",
@@ -133,29 +133,29 @@ class HeadersTest(ChecksTest):
                      "_Static_assert(true, \"\");"):
             self.assert_header("not standard C++", text)
 
-    def test_words_of_a_compiler_that_is_asked_for_pass(self):
+    def test_guarded_compiler_extensions_pass(self):
         self.assert_header(None, "#if defined(__GNUC__)\n#define A __attribute__((always_inline)) inline\n"
                                  "#elif defined(_MSC_VER)\n#define A __forceinline\n#else\n#define A inline\n#endif\n"
                                  "A int F() { return 1; }\n#undef A")
 
-    def test_a_macro_that_is_left_is_refused(self):
+    def test_macro_left_defined_is_refused(self):
         for text in ("#define KELVRA_MEMBER", "#define KELVRA_MEMBER(member, ...) member",
                      "#if defined(_WIN64)\n#define OTHER 1\n#endif"):
             self.assert_header("leaves other macros", text)
 
-    def test_a_documented_macro_that_is_missing_is_refused(self):
+    def test_missing_documented_macro_is_refused(self):
         self.assert_header(None, "struct A {};")
         self.write("kelvra/kelvra.h", "#pragma once\n#define KELVRA_API\n")
         self.assert_refuses("leaves other macros", "check-headers.sh", self.folder)
 
-    def test_a_header_of_c_that_is_not_c99_is_refused(self):
+    def test_c_header_that_is_not_c99_is_refused(self):
         self.assert_header(None, "struct A {};")
         for text in ("enum A : int { kB };", "struct B { int x; union { int y; int z; }; };"):
             self.write("kelvra/kelvra_c.h", self.C_HEADER + "#ifndef G\n#define G\n" + text + "\n#endif\n")
             with self.subTest(text):
                 self.assert_refuses("does not compile as C99", "check-headers.sh", self.folder)
 
-    def test_a_header_of_c_that_stands_before_that_of_cpp_is_refused(self):
+    def test_c_header_before_the_cpp_header_is_refused(self):
         self.assert_header(None, "struct A {};")
         self.write("kelvra/kelvra.h", "#pragma once\n" + self.MACROS)
         self.assert_refuses("is not refused before", "check-headers.sh", self.folder)
@@ -167,7 +167,7 @@ class HeadersTest(ChecksTest):
 
 
 class RecordsTest(ChecksTest):
-    def test_made_files_that_differ_from_the_headers_are_refused(self):
+    def test_generated_file_that_does_not_match_the_headers_is_refused(self):
         for folder in ("include", "docs", "scripts"):
             shutil.copytree(SCRIPTS.parent / folder, self.folder / folder, ignore=shutil.ignore_patterns("__pycache__"))
         made = [self.folder / name for name in ("docs/records.md", "docs/records.json", "include/kelvra/names.h",
@@ -180,7 +180,7 @@ class RecordsTest(ChecksTest):
         run = subprocess.run([self.folder / "scripts" / "records.py", "check"], capture_output=True, text=True)
         self.assertEqual(run.returncode, 1)
         for path in made:
-            self.assertIn(f"the headers differ from {path.relative_to(self.folder)};", run.stderr)
+            self.assertIn(f"{path.relative_to(self.folder)} does not match the headers", run.stderr)
 
 
 if __name__ == "__main__":
