@@ -1,30 +1,8 @@
 #include "text/utf8.h"
 
+#include "kelvra/text.h"
+
 namespace {
-
-constexpr uint32_t kReplacement = 0xFFFD;
-
-void Append(std::string& text, uint32_t point) {
-  const auto tail = [&text, point](unsigned shift) { text += static_cast<char>(0x80 | (point >> shift & 0x3F)); };
-  if (point < 0x80) {
-    text += static_cast<char>(point);
-  } else if (point < 0x800) {
-    text += static_cast<char>(0xC0 | point >> 6);
-    tail(0);
-  } else if (point < 0x10000) {
-    text += static_cast<char>(0xE0 | point >> 12);
-    tail(6);
-    tail(0);
-  } else {
-    text += static_cast<char>(0xF0 | point >> 18);
-    tail(12);
-    tail(6);
-    tail(0);
-  }
-}
-
-bool IsHighSurrogate(uint32_t unit) { return unit >= 0xD800 && unit < 0xDC00; }
-bool IsLowSurrogate(uint32_t unit) { return unit >= 0xDC00 && unit < 0xE000; }
 
 void AppendEscape(std::string& text, unsigned unit) {
   static const char digits[] = "0123456789abcdef";
@@ -93,18 +71,11 @@ void AppendEscaped(std::string& escaped, std::string_view text, AppendShort appe
 }  // namespace
 
 void AppendLatin1(std::string& text, std::span<const uint8_t> characters) {
-  for (const uint8_t character : characters) Append(text, character);
+  text += kelvra::Latin1Text(characters.data(), static_cast<uint32_t>(characters.size()));
 }
 
 void AppendUtf16(std::string& text, std::span<const uint16_t> units) {
-  for (size_t i = 0; i < units.size(); ++i) {
-    const uint32_t unit = units[i];
-    if (IsHighSurrogate(unit) && i + 1 < units.size() && IsLowSurrogate(units[i + 1])) {
-      Append(text, 0x10000 + ((unit - 0xD800) << 10) + (units[++i] - 0xDC00U));
-    } else {
-      Append(text, IsHighSurrogate(unit) || IsLowSurrogate(unit) ? kReplacement : unit);
-    }
-  }
+  text += kelvra::Utf16Text(units.data(), static_cast<uint32_t>(units.size()));
 }
 
 void AppendJsonString(std::string& json, std::string_view text) {
