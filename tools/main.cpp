@@ -30,9 +30,9 @@ std::unique_ptr<Formatter> MakeMessageFormatter(Format format, const FormatOptio
 std::unique_ptr<CallFormatter> MakeCallFormatter(const Options& options) {
   switch (options.format) {
     case Format::kCallTable: return MakeCallTable(options.formatting);
-    case Format::kCalls: return MakeCallBlocks();
-    case Format::kLadder: return MakeLadder(options.filter);
-    case Format::kHtml: return MakeHtml(options.filter);
+    case Format::kCalls: return MakeCallBlocks(options.formatting);
+    case Format::kLadder: return MakeLadder(options.filter, options.formatting);
+    case Format::kHtml: return MakeHtml(options.filter, options.formatting);
     default: return nullptr;
   }
 }

@@ -12,25 +12,23 @@ using OptionList = std::vector<const CLI::Option*>;
 using Section = std::pair<std::string_view, std::string_view>;
 
 constexpr std::string_view kExitStatus =
-    "0 all messages are complete; 1 some are not, or data was found where a message was expected; 2 bad usage, input "
-    "that cannot be read, or output that cannot be written.";
+    "0 if all messages are complete; 1 if some are not, if data was found where a message was expected, or if the "
+    "capture lacks a part; 2 for bad usage, or if the input cannot be read or the output written.";
 
 // Sections that --help leaves out.
 constexpr Section kSections[] = {
     {"MESSAGES",
-     "What was read of a message is printed, and what is wrong with it: where it ends early, claims more than there is "
-     "or leaves octets over. A registration of a later version is read as one of version 4.\n"
-     "The viewer hands a RAS message to the library with one spare zero octet after it, counted in the length. A "
-     "caller "
-     "of the library should do the same: success is judged by the reader standing before the end of the buffer, so a "
-     "message that ends exactly with it is refused."},
+     "The viewer prints what it read of each message, and what is wrong with it: that it ends early, claims more than "
+     "there is, or has octets left over. A registration that names a later version is read by the rules of version 4.\n"
+     "The viewer passes a RAS message to the library with one spare zero octet, counted in the length, as every caller "
+     "should: the library refuses a message that fills its buffer exactly."},
     {"INPUT",
-     "In a capture the ports give the families; further connections are found by the addresses that messages "
-     "announce.\n"
-     "Hexadecimal text holds one message per line; blanks and colons may stand between the octets, and a number sign "
-     "starts a comment. Dumps with offsets (xxd, hexdump -C, packet tools) and arrays of C are read too, one message "
-     "for each. Raw input is one message. Input that gzip has compressed is unpacked. A call-signalling message starts "
-     "with its TPKT header, an H.245 message does not."},
+     "In a capture the ports give the family of a message; further connections are found through the addresses that "
+     "messages announce.\n"
+     "Hexadecimal text has one message per line; blanks and colons may separate the octets, and a number sign starts a "
+     "comment. Dumps with offsets (xxd, hexdump -C, packet tools) and C arrays are read too, one message each. Raw "
+     "input is one message. Gzip input is unpacked. A call-signalling message starts with its TPKT header; an H.245 "
+     "message does not."},
     {"EXIT STATUS", kExitStatus},
     {"EXAMPLES",
      "kelvra-dump samples/call.pcap\n"

@@ -56,8 +56,8 @@ void AddTimeBound(CLI::App& app, const char* name, std::optional<TimeBound>& bou
 }
 
 void AddFilter(CLI::App& app, Filter& filter) {
-  app.add_option("--call", filter.call, "only this call: its number, or the beginning of its identifier");
-  app.add_option("--party", filter.party, "only calls with a party whose alias, number or address holds this text");
+  app.add_option("--call", filter.call, "only this call: its number, or the start of its identifier");
+  app.add_option("--party", filter.party, "only calls with a party whose alias, number or address contains this text");
   app.add_option("--message", filter.message, "only messages of this name or Q.931 type, and calls with one");
   AddKeyword(app, "--family", kFamilies, filter.family, "only messages of this family, and calls with one");
   AddTimeBound(app, "--since", filter.since, "only messages from this UTC time or time of day on, and calls with one");
@@ -85,15 +85,15 @@ std::optional<int> ParseOptions(int count, char** arguments, Options& options) {
 
   app.option_defaults()->group("Output");
   AddKeyword(app, "--format", kFormats, options.format,
-             "one line per message (summary), every member (tree), or one object per line (json); of whole calls all "
-             "facts (calls), a diagram (ladder) or a page (html)");
+             "messages: one line each (summary), every member (tree), or one JSON object per line (json); calls: all "
+             "facts (calls), a diagram (ladder), or one page (html)");
   app.add_flag_callback(
       "--calls", [&options] { options.format = Format::kCallTable; }, "one line per call");
   app.add_flag_callback(
       "--stats", [&options] { options.format = Format::kStatistics; },
       "messages by kind, faults by cause, and how RAS requests were answered");
   app.add_flag("--octets", options.formatting.showsOctets,
-               "the tree shows the octets and bits of each member, octet.bit-octet.bit, and the message's octets");
+               "in the tree, the octets and bits of each member (octet.bit-octet.bit) and the octets of the message");
   AddKeyword(app, "--color", kColors, options.color, "colours (auto: on a terminal, unless NO_COLOR is set)");
   app.add_flag("-l", options.flushesLines, "print each message at once; always on unless the input is a regular file");
 

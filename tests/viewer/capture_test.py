@@ -133,7 +133,7 @@ class Captures(unittest.TestCase):
         data = segments((0, b"", SYN), (1, CALL), (52, CALL[:20]), (103, CALL))
         self.assertEqual(self.names(data, status=1), ["releaseComplete"] * 2)
 
-    def test_out_of_step(self):
+    def test_connection_out_of_step_is_dropped(self):
         for wrong in (b"\x04\0\0\x33", b"\x03\0\0\x05", b"\x03\0\0\x00"):
             data = segments((0, b"", SYN), (1, CALL + wrong + CALL), (107, CALL), (158, CALL))
             result = run("--format", "json", "-", data=data)
@@ -152,13 +152,13 @@ class Captures(unittest.TestCase):
             self.assertEqual(result.returncode, 1 if cut_off else 0, longest)
             self.assertEqual(b"cut off by the capture: %d\n" % cut_off in result.stderr, cut_off > 0, result.stderr)
 
-    def test_either_port_tells_the_family(self):
+    def test_either_port_gives_the_family(self):
         for source, destination in ((40000, 1718), (1718, 40000), (40000, 1719), (1719, 40000)):
             datagram = struct.pack(">HHHH", source, destination, 8 + len(RAS), 0) + RAS
             self.assertEqual(self.names(capture([ethernet(ipv4(17, datagram))])), ["gatekeeperConfirm"],
                              (source, destination))
 
-    def test_ports_stand_beside_the_usual_ones(self):
+    def test_given_ports_add_to_the_usual_ones(self):
         data = capture([ethernet(ipv4(17, udp(RAS))), ethernet(ipv4(6, tcp(1, CALL)))])
         self.assertEqual(self.names(data, "--ras-port", "5000", "--call-port", "5001"),
                          ["gatekeeperConfirm", "releaseComplete"])
@@ -225,12 +225,12 @@ class Captures(unittest.TestCase):
                         answer(1000 + len(CALL), CALL), answer(1000, CALL)])
         self.assertEqual(self.names(data), ["releaseComplete"] * 2)
 
-    def test_ports_used_again(self):
+    def test_ports_reused(self):
         self.assertEqual(self.names(segments((0, b"", SYN), (1, CALL), (500, b"", SYN), (501, CALL))),
                          ["releaseComplete"] * 2)
         self.assertEqual(self.names(segments((1, CALL), (0x40000000, CALL))), ["releaseComplete"] * 2)
 
-    def test_payload_of_an_opening(self):
+    def test_payload_of_a_syn(self):
         start, rest = CALL[:20], CALL[20:]
         for first in (0, END - 1):
             at = (first + 1) % END
@@ -243,13 +243,13 @@ class Captures(unittest.TestCase):
         self.assertEqual((result.returncode, objects(result)), (1, []))
         self.assertIn(b"out of step", result.stderr)
 
-    def test_opening_seen_again_or_late(self):
+    def test_syn_seen_again_or_late(self):
         opening, start, rest = (0, b"", SYN), (1, CALL[:20]), (21, CALL[20:])
         for pieces in ((opening, start, opening, rest), (start, opening, rest), (start, rest, opening)):
             with self.subTest(pieces=pieces):
                 self.assertEqual(self.names(segments(*pieces)), ["releaseComplete"])
 
-    def test_gap_is_waited_for_a_minute(self):
+    def test_gap_is_abandoned_after_a_minute(self):
         def call(sequence):
             return ethernet(ipv4(6, tcp(sequence, CALL)))
         ras = ethernet(ipv4(17, udp(RAS)))
@@ -269,7 +269,7 @@ class Captures(unittest.TestCase):
         data = segments((0, b"", SYN), (1, tpkt(long) + CALL))
         self.assertEqual(self.names(data), ["releaseComplete"] * 2)
 
-    def test_step_is_looked_for_until_a_message_was_found(self):
+    def test_resynchronises_until_a_message_is_found(self):
         self.assertEqual(self.names(segments((1, b"\x03"), (2, b"\0\0\1"), (5, CALL)), status=1), ["releaseComplete"])
         self.assertEqual(self.names(segments((1, CALL + b"\x04..."), (56, CALL)), status=1), ["releaseComplete"])
 
@@ -304,7 +304,7 @@ class Captures(unittest.TestCase):
             result = run("--format", "json", "--h245-port", "5002", data=data)
             self.assertEqual((len(objects(result)), b"out of step" in result.stderr), (1, False), port)
 
-    def test_late_opening_after_the_middle_of_a_packet(self):
+    def test_late_syn_in_the_middle_of_a_packet(self):
         for pieces in (((21, CALL[20:]), (0, b"", SYN), (1, CALL[:20])),
                        ((41, CALL[40:]), (21, CALL[20:40]), (0, b"", SYN), (1, CALL[:20])),
                        ((21, CALL[20:]), (0, CALL[:20], SYN))):
@@ -333,7 +333,7 @@ class Captures(unittest.TestCase):
         data = capture_at((1000, call(1)), (1001, call(103)), (1050, call(52)), (1062, call(205)), (1070, call(154)))
         self.assertEqual(self.names(data), ["releaseComplete"] * 5)
 
-    def test_ports_used_again_without_an_opening(self):
+    def test_ports_reused_without_a_syn(self):
         for first, second in ((1, 0x40000000), (0x40000000, 1)):
             data = segments((first, CALL[:20]), (second, CALL))
             self.assertEqual(self.names(data, status=1), ["releaseComplete"])
@@ -498,7 +498,7 @@ class Bounds(unittest.TestCase):
         segment = struct.pack(">HHIIBBHHH", 1024 + number, 5003, sequence, 1, 0x50, flags, 8192, 0, 0) + payload
         return ethernet(ipv4(6, segment))
 
-    def test_least_recently_used_connections_are_given_up(self):
+    def test_least_recently_used_connections_are_dropped(self):
         others = [self.other(n) for n in range(8192)]
         self.assertTrue(self.is_kept(others[:-1]))
         self.assertFalse(self.is_kept(others))
@@ -506,7 +506,7 @@ class Bounds(unittest.TestCase):
         again = ethernet(ipv4(6, tcp(1, CALL[:20])))
         self.assertTrue(self.is_kept([*others[:half], again, *others[half:]]))
 
-    def test_octets_that_are_held_are_counted(self):
+    def test_waiting_octets_are_counted(self):
         much = b"\x03\0\xff\xff" + bytes(60_000)
         self.assertTrue(self.is_kept(self.other(n, much) for n in range(1100)))
         self.assertFalse(self.is_kept(self.other(n, much) for n in range(1130)))

@@ -61,6 +61,11 @@ class Golden(unittest.TestCase):
     @unittest.skipIf(EMULATED, "has no TZ")
     def test_local_times(self):
         self.check("call.local", "--local", SAMPLE)
+        self.check("call.local.ladder", "--local", "--format", "ladder", SAMPLE)
+        for arguments in (["--format", "calls"], ["--format", "html"], ["--format", "tree"]):
+            printed = run("--local", *arguments, SAMPLE).stdout.decode()
+            self.assertRegex(printed, r"\d{4}-\d\d-\d\dT\d\d:\d\d:\d\d\.\d{6}\+03:30")
+            self.assertNotRegex(printed, r"T\d\d:\d\d:\d\d\.\d{6}Z")
 
 
 if __name__ == "__main__":

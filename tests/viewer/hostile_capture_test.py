@@ -150,7 +150,7 @@ class HostileCaptures(unittest.TestCase):
         frames = [ethernet(ipv4(17, bytes(1000), i & 0xFFFF, 0x2000)) for i in range(60_000)]
         self.assert_bounded(frames)
 
-    def test_endless_fine_messages(self):
+    def test_endless_valid_messages(self):
         self.assert_bounded([ethernet(ipv4(17, udp(RAS)))] * 10_000)
 
 
@@ -164,7 +164,7 @@ class HostileText(unittest.TestCase):
         self.assertEqual(result.returncode, 0)
         return result.stdout.decode("utf-8")
 
-    def test_characters_that_would_act_on_a_terminal(self):
+    def test_characters_that_would_control_a_terminal(self):
         texts = ("\x1b[2J", "\x9b1A ", "\r\n\x07\x08", "a\u202eb\u2069", "\u2028\u2029\x7f\x00",
                  "\u200e\u200f\u061cx")
         for form in ("summary", "tree", "json"):

@@ -93,14 +93,14 @@ class Page(unittest.TestCase):
         self.assertEqual(shown[:3], ["192.0.2.11", "192.0.2.1", "192.0.2.12"])
         self.assertIn("Release Complete (releaseComplete)", shown)
 
-    def test_nothing_of_the_capture_is_taken_for_html(self):
+    def test_text_of_the_capture_is_escaped(self):
         self.show(hostile_capture())
         self.browser.run("document.querySelectorAll('tr, details').forEach((e) => { e.hidden = false; e.open = true; })")
         self.assertEqual(self.browser.find("b"), [])
         self.assertIn("<b>x'\"&</b>", self.browser.texts(".row td:nth-child(3)")[1])
         self.assertGreater(self.browser.run("return document.body.textContent.split('<b>x').length"), 20)
 
-    def test_page_asks_the_network_for_nothing(self):
+    def test_page_loads_nothing_from_the_network(self):
         self.assertEqual(self.browser.run("return performance.getEntriesByType('resource').length"), 0)
         self.assertNotIn("http:", self.browser.run("return document.head.innerHTML"))
 

@@ -134,7 +134,7 @@ class Files(unittest.TestCase):
             self.assertIn(complaint, result.stderr)
 
     @unittest.skipIf(EMULATED or SANITIZED, "the memory of Wine or of a sanitizer would be measured")
-    def test_what_unpacks_to_much_takes_no_memory(self):
+    def test_gzip_bomb_takes_no_memory(self):
         import resource
         limit = lambda: resource.setrlimit(resource.RLIMIT_DATA, (64 << 20, 64 << 20))
         frame = next(iter([ethernet(ipv4(17, udp(bytes(1400), 5004)))]))
@@ -213,7 +213,7 @@ class HexadecimalText(unittest.TestCase):
             with self.subTest(program=name):
                 self.check(write(CALL) * 3, self.expected * 3)
 
-    def test_characters_that_look_like_octets_are_none(self):
+    def test_text_column_is_not_read_as_octets(self):
         data = bytes.fromhex("0300003308021267") + b"a" * 16 + b"ab cd ef"
         expected = objects(self.read(data.hex()))
         for name, write in DUMPS.items():
@@ -221,7 +221,7 @@ class HexadecimalText(unittest.TestCase):
                 with self.subTest(program=name):
                     self.assertEqual(objects(self.read(write(data))), expected)
 
-    def test_a_hole_is_named(self):
+    def test_gap_in_a_dump_is_reported(self):
         for name, write in DUMPS.items():
             lines = write(CALL).splitlines()
             for wrong in (lines[:1] + lines[2:], lines[:2] + lines[1:], lines[:1] + ["*"] + lines[3:]):
@@ -230,14 +230,14 @@ class HexadecimalText(unittest.TestCase):
                     self.assertEqual((result.returncode, result.stdout), (2, b""))
                     self.assertRegex(result.stderr, b"line [23]: (the dump goes on at|not a line of a dump)")
 
-    def test_wrong_arrays_are_named(self):
+    def test_malformed_arrays_are_reported(self):
         for text, line in (("x[] = {\n0x03, 0x100\n};", 2), ("x[] = {\n0x03,\n3\n};", 3), ("x[] = {\n0x03, 0x00", 3),
                            ("0x", 1), ("hello 0x03", 1), ("/* 0x03", 2), ('"\\x03" no', 1)):
             result = self.read(text, how="hex")
             self.assertEqual((result.returncode, result.stdout), (2, b""), text)
             self.assertIn(b"line %d: " % line, result.stderr, text)
 
-    def test_plain_text_with_zeros_at_its_start_is_no_dump(self):
+    def test_plain_text_that_starts_with_zeros_is_not_a_dump(self):
         request = "00000001060008914a000410c000020106b7010a00000182010000000000"
         for group in (2, 4):
             text = spaced(bytes.fromhex(request), group)

@@ -34,7 +34,7 @@ class FailedCalls(unittest.TestCase):
         readme = file_of(failed_calls.README).decode()
         self.assertEqual(readme, failed_calls.with_table(readme, STORY))
 
-    def test_exchanged_values_change_the_message_in_nothing_else(self):
+    def test_exchanged_values_change_nothing_else(self):
         for family in ("ras", "q931", "h245"):
             messages = [m for m in STORY.messages if m.family == family]
 

@@ -152,14 +152,14 @@ class SingleMessages(unittest.TestCase):
         self.assertEqual(result.returncode, 1)
         self.assertEqual([(o["ok"], o["result"]) for o in objects(result)], [(True, 27), (False, 0), (True, 27)])
 
-    def test_line_that_is_no_hexadecimal(self):
+    def test_line_that_is_not_hexadecimal(self):
         for line in ("0g", "123", "1 2"):
             result = decode_hex("ras", f"{GATEKEEPER_CONFIRM}\n{line}\n")
             self.assertEqual(result.returncode, 2, line)
             self.assertIn(b"line 2", result.stderr)
             self.assertEqual(len(objects(result)), 1)
 
-    def test_message_longer_than_any(self):
+    def test_message_above_the_largest_size(self):
         result = decode_hex("ras", "00" * 70000)
         self.assertEqual(result.returncode, 1)
         self.assertEqual([(o["ok"], o["result"]) for o in objects(result)], [(False, None)])
@@ -182,7 +182,7 @@ class SingleMessages(unittest.TestCase):
         self.assertIn(b"Release Complete (releaseComplete), 51 octets", result.stdout)
         self.assertIn(b"\n  callReferenceValue: 4711\n", result.stdout)
 
-    def test_summary_of_what_is_no_message(self):
+    def test_summary_of_octets_that_are_no_message(self):
         result = run("--as", "q931", data=b"0300000508")
         self.assertRegex(result.stdout, rb"Q\.931 +\(nothing decoded\) +"
                          rb"\[octet 5: h323-UserInformation: there is no user-user element\]")

@@ -49,8 +49,8 @@ std::string LegTimes(const Call& call, const Leg& leg) {
   return text;
 }
 
-std::vector<std::string> Times(const Call& call) {
-  std::vector<std::string> lines{Concat({"start ", IsoTime(call.first)})};
+std::vector<std::string> Times(const Call& call, TimeZone zone) {
+  std::vector<std::string> lines{Concat({"start ", IsoTime(call.first, zone)})};
   for (const Leg& leg : call.legs) lines.push_back(LegTimes(call, leg));
   return lines;
 }
@@ -124,10 +124,10 @@ std::string Heading(const Call& call) {
   return Concat({"outside calls  ", PartyText(call.caller), "  ", EndText(call)});
 }
 
-std::vector<Section> SectionsOf(const Call& call) {
+std::vector<Section> SectionsOf(const Call& call, TimeZone zone) {
   std::vector<Section> sections{{"identifiers", Identifiers(call)},
                                 {"parties", Parties(call)},
-                                {"times", Times(call)},
+                                {"times", Times(call, zone)},
                                 {"end", Ends(call)},
                                 {"RAS", Ras(call)},
                                 {"call signalling", Signalling(call)},

@@ -9,7 +9,7 @@ std::string TextOf(const MessageFault& fault) {
   std::string text = "octet " + std::to_string(fault.bit / 8) + ": ";
   if (!fault.member.empty()) text += fault.member + ": ";
   text += fault.cause;
-  if (fault.resumed) text += "; read on after its open type";
+  if (fault.resumed) text += "; resumed after its open type";
   return text;
 }
 

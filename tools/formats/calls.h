@@ -22,10 +22,10 @@ class CallFormatter {
 // One line per call.
 std::unique_ptr<CallFormatter> MakeCallTable(const FormatOptions& options);
 // One block per call with every fact.
-std::unique_ptr<CallFormatter> MakeCallBlocks();
-std::unique_ptr<CallFormatter> MakeLadder(const Filter& filter);
+std::unique_ptr<CallFormatter> MakeCallBlocks(const FormatOptions& options);
+std::unique_ptr<CallFormatter> MakeLadder(const Filter& filter, const FormatOptions& options);
 // One page.
-std::unique_ptr<CallFormatter> MakeHtml(const Filter& filter);
+std::unique_ptr<CallFormatter> MakeHtml(const Filter& filter, const FormatOptions& options);
 
 // Prints calls instead of messages, in order of their start or each as soon as it ends.
 enum class CallOrder : uint8_t { kByBeginning, kByEnd };

@@ -3,9 +3,9 @@
 
 #include "calls/words.h"
 #include "formats/calls.h"
+#include "formats/console_text.h"
 #include "text/column.h"
 #include "text/concat.h"
-#include "text/time_text.h"
 #include "text/utf8.h"
 
 namespace {
@@ -50,7 +50,7 @@ class CallTable : public CallFormatter {
   }
 
   std::string StartText(const Call& call) const {
-    const TimeZone zone = options_.times == TimeStyle::kLocal ? TimeZone::kLocal : TimeZone::kUtc;
+    const TimeZone zone = ZoneOf(options_.times);
     return Concat({DateText(call.first, zone), " ", ClockTime(call.first, zone)});
   }
 

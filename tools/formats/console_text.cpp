@@ -1,12 +1,8 @@
 #include "formats/console_text.h"
 
-#include "text/time_text.h"
-
 namespace {
 
 constexpr int64_t kDay = 24LL * 60 * 60 * 1'000'000;
-
-TimeZone ZoneOf(TimeStyle style) { return style == TimeStyle::kLocal ? TimeZone::kLocal : TimeZone::kUtc; }
 
 std::string_view StartOf(Color color) {
   switch (color) {
@@ -20,6 +16,8 @@ std::string_view StartOf(Color color) {
 
 }  // namespace
 
+TimeZone ZoneOf(TimeStyle style) { return style == TimeStyle::kLocal ? TimeZone::kLocal : TimeZone::kUtc; }
+
 std::string TimeColumn::Clock(int64_t microseconds) {
   if (style_ != TimeStyle::kRelative) return ClockTime(microseconds, ZoneOf(style_));
   if (!first_) first_ = microseconds;
@@ -27,9 +25,7 @@ std::string TimeColumn::Clock(int64_t microseconds) {
 }
 
 std::string TimeColumn::Full(int64_t microseconds) {
-  if (style_ == TimeStyle::kUtc) return IsoTime(microseconds);
-  if (style_ == TimeStyle::kRelative) return Clock(microseconds);
-  return DateText(microseconds, TimeZone::kLocal) + " " + ClockTime(microseconds, TimeZone::kLocal);
+  return style_ == TimeStyle::kRelative ? Clock(microseconds) : IsoTime(microseconds, ZoneOf(style_));
 }
 
 std::string TimeColumn::NewDate(int64_t microseconds) {

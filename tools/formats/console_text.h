@@ -7,6 +7,10 @@
 #include <string_view>
 
 #include "formats/formats.h"
+#include "text/time_text.h"
+
+// For dates and clock times; relative times have none.
+TimeZone ZoneOf(TimeStyle style);
 
 // Times in one style; relative times start at the first one shown.
 class TimeColumn {
@@ -15,7 +19,7 @@ class TimeColumn {
 
   // "23:59:59.000001" or "+12.000001"
   std::string Clock(int64_t microseconds);
-  // With the date, in UTC: "2024-01-31T23:59:59.000001Z".
+  // With the date and the offset from UTC: "2024-01-31T23:59:59.000001Z".
   std::string Full(int64_t microseconds);
   // The date if it differs from the previous one; otherwise empty.
   std::string NewDate(int64_t microseconds);

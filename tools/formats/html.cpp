@@ -3,18 +3,19 @@
 #include "calls/sections.h"
 #include "calls/words.h"
 #include "formats/calls.h"
+#include "formats/console_text.h"
 #include "formats/html_ladder.h"
 #include "formats/html_page.h"
 #include "formats/html_text.h"
 #include "text/concat.h"
 #include "text/hex.h"
-#include "text/time_text.h"
 
 namespace {
 
 class Html : public CallFormatter {
  public:
-  explicit Html(const Filter& filter) : filter_(filter) {}
+  Html(const Filter& filter, TimeStyle times)
+      : filter_(filter), zone_(ZoneOf(times)), trees_(MakeTree({.times = times, .showsOctets = true})) {}
 
   bool NeedsMessages() const override { return true; }
   void Begin(std::string& html) override { html += kPageBegin; }
@@ -27,7 +28,7 @@ class Html : public CallFormatter {
                 " data-identifier=\"", IdentifierAttribute(call), "\">\n"});
     AppendRow(call, faults, html);
     html += Concat({"<tr id=\"", DetailId(call), "\" hidden><td colspan=\"8\">\n"});
-    for (const Section& section : SectionsOf(call)) AppendSection(section, html);
+    for (const Section& section : SectionsOf(call, zone_)) AppendSection(section, html);
     const auto events = LadderEventsOf(call, filter_);
     AppendSvgLadder(call, events, html);
     html += "<h2>messages</h2>\n";
@@ -56,13 +57,13 @@ class Html : public CallFormatter {
                    span ? Seconds(*span) : "-", "</td>"});
   }
 
-  static void AppendRow(const Call& call, const std::vector<std::string>& faults, std::string& html) {
+  void AppendRow(const Call& call, const std::vector<std::string>& faults, std::string& html) const {
     const Leg* leg = call.FirstLeg();
     const bool is_call = call.subject == Subject::kCall;
     html += Concat({"<tr class=\"row\"><td data-value=\"", std::to_string(call.number),
                     "\"><button class=\"open\" aria-expanded=\"false\" aria-controls=\"", DetailId(call), "\">",
                     is_call ? std::to_string(call.number) : "RAS", "</button></td>"});
-    html += Concat({Cell(IsoTime(call.first)), Cell(PartyText(call.caller)), Cell(PartyText(call.called))});
+    html += Concat({Cell(IsoTime(call.first, zone_)), Cell(PartyText(call.caller)), Cell(PartyText(call.called))});
     html += TimeCell(leg != nullptr ? leg->SetupTime() : std::nullopt);
     html += TimeCell(leg != nullptr ? leg->Duration() : std::nullopt);
     html += Concat({Cell(EndText(call)), "<td class=\"fault\">", Escaped(Joined(faults, "; ")), "</td></tr>\n"});
@@ -75,7 +76,7 @@ class Html : public CallFormatter {
     html += "</ul>\n";
   }
 
-  static void AppendMessage(const Call& call, const LadderEvent& event, std::string& html) {
+  void AppendMessage(const Call& call, const LadderEvent& event, std::string& html) {
     const auto index = static_cast<size_t>(event.message - call.messages.data());
     html += Concat({"<details id=\"", MessageAnchor(call, index), "\"><summary",
                     event.isMalformed ? " class=\"fault\"" : "", ">",
@@ -87,21 +88,20 @@ class Html : public CallFormatter {
     html += "</pre></details>\n";
   }
 
-  static void AppendTree(const Message& message, std::string& html) {
-    FormatOptions options;
-    options.showsOctets = true;
-    std::string tree;
-    MakeTree(options)->Print(message, DecodeMessage(message.family, message.octets), tree);
-    for (size_t start = 0; start < tree.size();) {
-      const size_t end = std::min(tree.find('\n', start), tree.size());
-      html += Concat({Escaped(std::string_view(tree).substr(start, end - start)), "\n"});
-      start = end + 1;
-    }
+  void AppendTree(const Message& message, std::string& html) {
+    tree_.clear();
+    trees_->Print(message, DecodeMessage(message.family, message.octets), tree_);
+    AppendMarkupEscaped(html, tree_);
   }
 
   const Filter& filter_;
+  TimeZone zone_;
+  std::unique_ptr<Formatter> trees_;
+  std::string tree_;
 };
 
 }  // namespace
 
-std::unique_ptr<CallFormatter> MakeHtml(const Filter& filter) { return std::make_unique<Html>(filter); }
+std::unique_ptr<CallFormatter> MakeHtml(const Filter& filter, const FormatOptions& options) {
+  return std::make_unique<Html>(filter, options.times);
+}

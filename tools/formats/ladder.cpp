@@ -5,8 +5,8 @@
 #include "calls/sections.h"
 #include "calls/words.h"
 #include "formats/calls.h"
+#include "formats/console_text.h"
 #include "text/concat.h"
-#include "text/time_text.h"
 #include "text/utf8.h"
 
 namespace {
@@ -99,12 +99,12 @@ class Diagram {
 
 class Ladder : public CallFormatter {
  public:
-  explicit Ladder(const Filter& filter) : filter_(filter) {}
+  Ladder(const Filter& filter, TimeZone zone) : filter_(filter), zone_(zone) {}
 
   bool NeedsMessages() const override { return true; }
 
   void Print(const Call& call, std::string& text) override {
-    text += Concat({Printable(Heading(call)), "\n", IsoTime(call.first), "\n"});
+    text += Concat({Printable(Heading(call)), "\n", IsoTime(call.first, zone_), "\n"});
     Diagram(call, LadderEventsOf(call, filter_)).Append(text);
     if (call.subject == Subject::kCall) text += Concat({"end: ", Printable(EndText(call)), "\n"});
     text += '\n';
@@ -112,8 +112,11 @@ class Ladder : public CallFormatter {
 
  private:
   const Filter& filter_;
+  TimeZone zone_;
 };
 
 }  // namespace
 
-std::unique_ptr<CallFormatter> MakeLadder(const Filter& filter) { return std::make_unique<Ladder>(filter); }
+std::unique_ptr<CallFormatter> MakeLadder(const Filter& filter, const FormatOptions& options) {
+  return std::make_unique<Ladder>(filter, ZoneOf(options.times));
+}

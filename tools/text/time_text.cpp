@@ -52,6 +52,15 @@ void AppendClock(std::string& text, int64_t microseconds) {
   AppendPadded(text, clock.subseconds().count(), 6);
 }
 
+// "+01:00"
+void AppendOffset(std::string& text, int64_t minutes) {
+  const int64_t length = minutes < 0 ? -minutes : minutes;
+  text += minutes < 0 ? '-' : '+';
+  AppendPadded(text, length / 60, 2);
+  text += ':';
+  AppendPadded(text, length % 60, 2);
+}
+
 }  // namespace
 
 int64_t InZone(int64_t microseconds, TimeZone zone) {
@@ -60,12 +69,17 @@ int64_t InZone(int64_t microseconds, TimeZone zone) {
   return microseconds + OffsetAt(second) * kSecond;
 }
 
-std::string IsoTime(int64_t microseconds) {
+std::string IsoTime(int64_t microseconds, TimeZone zone) {
+  const int64_t shown = InZone(microseconds, zone);
   std::string text;
-  AppendDate(text, microseconds);
+  AppendDate(text, shown);
   text += 'T';
-  AppendClock(text, microseconds);
-  text += 'Z';
+  AppendClock(text, shown);
+  if (zone == TimeZone::kUtc) {
+    text += 'Z';
+  } else {
+    AppendOffset(text, (shown - microseconds) / (60 * kSecond));
+  }
   return text;
 }
 
