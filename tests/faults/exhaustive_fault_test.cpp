@@ -103,7 +103,7 @@ class ExhaustiveFaults : public testing::Test {
     EXPECT_TRUE(MessageFamily::MayReturn(decode.Result())) << decode.Result();
     EXPECT_TRUE(decode.GuardsHold());
     EXPECT_LE(heap_.OctetsGranted(), kMaximumMessageMemory);
-    const BlockCollector blocks = BlocksOf(decode.Get());
+    const RecordBlocks blocks = BlocksOf(decode.Get());
     ExpectOwned(blocks, MessageFamily::MayOwnBlocks(decode.Result()));
     Digest digest;
     digest.AddWord(static_cast<uint64_t>(decode.Result()));
@@ -113,7 +113,7 @@ class ExhaustiveFaults : public testing::Test {
     return digest.Value();
   }
 
-  void ExpectOwned(const BlockCollector& blocks, bool mayOwn) {
+  void ExpectOwned(const RecordBlocks& blocks, bool mayOwn) {
     const std::vector<const void*> owned = blocks.Addresses();
     EXPECT_EQ(owned, heap_.LiveBlocks());
     EXPECT_TRUE(mayOwn || owned.empty());

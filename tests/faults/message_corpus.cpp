@@ -78,7 +78,7 @@ DecodedMessage::DecodedMessage(Family family, const std::vector<uint8_t>& octets
   }
 }
 
-BlockCollector DecodedMessage::Blocks() {
+RecordBlocks DecodedMessage::Blocks() {
   return std::visit([](auto& record) { return BlocksOf(record); }, record_);
 }
 

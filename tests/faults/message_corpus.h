@@ -42,7 +42,7 @@ class DecodedMessage {
 
   // The blocks that the record reaches. The user information of a Q.931 message is walked whether or not it is marked
   // as present.
-  BlockCollector Blocks();
+  RecordBlocks Blocks();
 
   const h245::H245MessageRecord& H245() const { return std::get<h245::H245MessageRecord>(record_); }
 

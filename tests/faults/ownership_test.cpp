@@ -46,9 +46,7 @@ TEST_F(OwnershipTest, NonStandardAddressIsNoSourceRoute) {
     address.nonStandardAddress.data.length = 3;
     const auto* const octets = reinterpret_cast<const void*>(uintptr_t{1} << 32 | 0x1230);
     std::memcpy(&address.nonStandardAddress.data.data, &octets, sizeof octets);
-    BlockCollector blocks;
-    h225::TransportAddress::Walk(address, blocks);
-    EXPECT_EQ(blocks.Addresses(), std::vector<const void*>{octets});
+    EXPECT_EQ(BlocksOf(address).Addresses(), std::vector<const void*>{octets});
   }
 }
 

@@ -6,7 +6,6 @@
 #include <cstdint>
 #include <vector>
 
-#include "block_visitor.h"
 #include "kelvra/kelvra.h"
 
 namespace kelvra::test {
@@ -21,22 +20,17 @@ class Digest {
   uint64_t value_ = 0xCBF29CE484222325;
 };
 
-// Finds the blocks of a record and the slots with their addresses.
-class BlockCollector : public BlockVisitor<BlockCollector> {
+// The blocks of a record and the slots with their addresses.
+class RecordBlocks {
  public:
-  struct FoundBlock {
+  struct Block {
     const void* address;
     size_t size;
   };
 
-  template <class T>
-  void Block(Slot<T> slot, uint32_t count) {
-    if (slot.Get() == nullptr) return;
-    slots_.push_back(slot.Address());
-    blocks_.push_back({slot.Get(), count * sizeof(T)});
-  }
+  void Add(void* slot, const void* address, size_t size);
 
-  const std::vector<FoundBlock>& Blocks() const { return blocks_; }
+  const std::vector<Block>& Blocks() const { return blocks_; }
   // Sorted; a block in two slots appears twice.
   std::vector<const void*> Addresses() const;
 
@@ -45,13 +39,15 @@ class BlockCollector : public BlockVisitor<BlockCollector> {
 
  private:
   std::vector<void*> slots_;
-  std::vector<FoundBlock> blocks_;
+  std::vector<Block> blocks_;
 };
 
 // For a Q.931 message these are the blocks of the user information, whether or not it is marked as present.
-BlockCollector BlocksOf(h225::RasMessageRecord& record);
-BlockCollector BlocksOf(h225::Q931MessageRecord& record);
-BlockCollector BlocksOf(h245::H245MessageRecord& record);
+RecordBlocks BlocksOf(h225::RasMessageRecord& record);
+RecordBlocks BlocksOf(h225::Q931MessageRecord& record);
+RecordBlocks BlocksOf(h225::H323UserInformation& record);
+RecordBlocks BlocksOf(h225::TransportAddress& record);
+RecordBlocks BlocksOf(h245::H245MessageRecord& record);
 
 // A digest of the result, the record and what is left after the release.
 template <class MessageFamily>

@@ -24,10 +24,8 @@ struct Outcome {
   Outcome& operator=(const Outcome&) = delete;
 
   uint64_t DigestOfRecord() {
-    BlockCollector blocks;
-    Record::Walk(record, blocks);
     Digest digest;
-    blocks.AddTo(digest, &record, sizeof record);
+    BlocksOf(record).AddTo(digest, &record, sizeof record);
     return digest.Value();
   }
 };
