@@ -74,7 +74,8 @@ install_wine() {
 
   # The i386 list of security updates can lag behind that of amd64. Packages that need the same version on both
   # architectures then resolve only without the security updates, hence the pin for this one call.
-  say "retrying Wine at the versions of the release itself"
+  say "retrying Wine without the security updates, which can downgrade libraries"
+  say "after apt-get update can fetch all lists, apt-get upgrade updates them again"
   local pins status=0
   pins=$(mktemp)
   chmod 644 "$pins"
