@@ -16,7 +16,7 @@ all:
 	cmake --preset linux-x64 -DKELVRA_BUILD_TESTS=OFF -DKELVRA_BUILD_BENCH=OFF
 	cmake --build --preset linux-x64 --parallel
 
-# Decodes a recorded call: one line per message, then all contents.
+# Decodes a recorded call: one line per message, then the contents of the first.
 demo:
 	scripts/setup.sh demo
 	cmake --preset linux-x64 -DKELVRA_BUILD_TESTS=OFF -DKELVRA_BUILD_BENCH=OFF
@@ -24,6 +24,7 @@ demo:
 	$(DUMP) samples/call.pcap
 	@echo
 	$(DUMP) --format tree samples/call.pcap | sed -n 1,60p
+	@printf '\nThese are the first 60 lines. docs/viewer.md is the guide; %s --help lists the options.\n' $(DUMP)
 
 test:
 	scripts/setup.sh test
