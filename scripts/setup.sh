@@ -15,7 +15,7 @@ demo_packages=(
   libcli11-dev nlohmann-json3-dev zlib1g-dev
 )
 test_packages=(
-  googletest pkg-config binutils clang libclang-rt-14-dev python3 python3-jsonschema valgrind man-db
+  googletest libbenchmark-dev pkg-config binutils clang libclang-rt-14-dev python3 python3-jsonschema valgrind man-db
   g++-multilib lib32z1-dev
   g++-mingw-w64-i686-posix g++-mingw-w64-x86-64-posix libz-mingw-w64-dev
   dpkg-dev lld llvm unzip zip
