@@ -3,6 +3,7 @@
 #include "calls/fields.h"
 #include "calls/media_fields.h"
 #include "decode/message_text.h"
+#include "decode/values.h"
 #include "text/concat.h"
 #include "text/hex.h"
 #include "text/names.h"
