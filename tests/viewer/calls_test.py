@@ -10,6 +10,7 @@ import os
 import sys
 import unittest
 
+from captures import rare_calls
 from viewer_test import TOP, objects, run
 
 GOLDEN = os.path.join(os.path.dirname(os.path.abspath(__file__)), "golden", "calls")
@@ -31,8 +32,8 @@ def calls(*arguments):
 class Golden(unittest.TestCase):
     maxDiff = None
 
-    def check(self, name, *arguments):
-        printed = run(*arguments).stdout.decode()
+    def check(self, name, *arguments, data=b""):
+        printed = run(*arguments, data=data).stdout.decode()
         path = os.path.join(GOLDEN, name)
         if "KELVRA_UPDATE" in os.environ:
             with open(path, "w", encoding="utf-8") as golden:
@@ -46,6 +47,9 @@ class Golden(unittest.TestCase):
     def test_blocks(self):
         self.check("failed-calls.calls.txt", "--format", "calls", FAILED)
         self.check("call.calls.txt", "--format", "calls", CALL)
+
+    def test_rare_calls(self):
+        self.check("rare-calls.calls.txt", "--format", "calls", data=rare_calls.tell())
 
     def test_ladder(self):
         self.check("failed-calls.ladder.txt", "--format", "ladder", "--faulty", FAILED)
@@ -96,7 +100,7 @@ class Filters(unittest.TestCase):
         self.assertEqual(calls("--since", "2026-03-11"), [])
         self.assertEqual(calls("--since", "09:11", "--until", "09:11:00.0"), [6])
         self.assertEqual(calls("--since", "09:11:00.015", "--until", "09:11:00.025"), [6])
-        for wrong in ("9:17", "09:60", "2026-02-30", "09:17:00x", "", "2026-03-10T"):
+        for wrong in ("9:17", "-1:17", "24:00", "09:60", "09:17:60", "2026-02-30", "09:17:00x", "", "2026-03-10T"):
             self.assertEqual(run("--since", wrong, FAILED).returncode, 2, wrong)
 
     def test_faulty(self):

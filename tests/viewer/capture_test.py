@@ -476,6 +476,8 @@ class PcapngBlocks(unittest.TestCase):
             (self.block(5, b"", 13), "wrong length"), (self.block(5, b"", 1000), "ends within"),
             (self.block(6, b"", 0xFFFFFFF0), "longer than any"), (self.interface((9, b"\x14")), "too finely"),
             (self.interface((9, b"\xc0")), "too finely"), (self.block(1, b""), "no link type"),
+            (self.block(1, struct.pack("<HHIHH", 1, 0, 0, 2, 5) + b"eth0"), "too long"),
+            (self.interface() * 0x10000, "too many"),
             (self.interface(link_type=147) + self.enhanced(0, 1), "link type 147"),
             (self.section()[:8] + bytes(20), "byte order"))
         for wrong, complaint in wrong_blocks:

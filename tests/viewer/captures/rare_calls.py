@@ -1,0 +1,147 @@
+"""Makes a capture of what the calls of samples/ do not show. calls_test.py compares the calls that the viewer finds."""
+import os
+import struct
+import sys
+
+from viewer_test import TOP
+
+sys.path.insert(0, os.path.join(TOP, "samples"))
+import failed_calls as base  # noqa: E402
+from failed_calls import ALICE, BRUNO, CALLED, CALLING, CALL_SIGNALLING, CARLA, GATEKEEPER, H245, Connection  # noqa: E402
+
+SETUP, CONNECT = (base.without_fast_start(message) for message in (base.SETUP, base.CONNECT))
+
+# RAS messages: their octets, their own requestSeqNum and the octets before it. These are of tests/data.
+ADMISSION_REJECT = ("2c000030", 1, 1)
+BANDWIDTH_REQUEST = ("3100fffe00004120ea7f5c5baa1f82305d5ed5dfb294d8441738b4b38dc6", 65535, 2)
+BANDWIDTH_REJECT = ("3800003000", 1, 1)
+BANDWIDTH_CONFIRM = ("36fffe0000098001000100", 65535, 1)
+IN_PROGRESS = ("800c60fffe40ff003ad70000fffe", 65535, 3)
+LOCATION_REQUEST = ("4800fffe0383031020788303000288830330029810c000020d06b70040", 65535, 2)
+LOCATION_REJECT = ("50fffe40", 65535, 1)
+RESPONSE_TO_ANSWER = ("5a40000001824e2dfffdfffd1038c95b19000000400001800000f0966b114a3d94cf6e8e573e86e173eb01600ffb524203"
+                      "820001000e7808042b06017f0f9c44018001000100", 1, 2)
+RESPONSE = ("5a00fffe018404164e2d00e900414e2d0042ffc52290c60240b14aa233e5fdf71b1989b239d1daf47c30caeaea1746541868271a45f2cd88"
+            "2ec400000f2a010001000340e3100100", 65535, 2)
+# These are of the sample call.
+REGISTRATION, ADMISSION, ADMITTED = (base.RRQ.hex(), 2, 2), (base.ARQ.hex(), 3, 2), (base.ACF.hex(), 3, 2)
+DISENGAGE = (base.DRQ.hex(), 4, 1)
+
+
+def swap(old, new):
+    return base.Change([(old, new)], [])
+
+
+def ras(call, message, sequence, *changes, answer=False):
+    octets, own, head = message
+    call.ras(bytes.fromhex(octets), sequence, *changes, own=own, head=head, answer=answer)
+    call.wait(5)
+
+
+def signal(call, connection, side, message, *changes, turned=False):
+    call.send(connection, side, base.patched("q931", message, *call.changes(turned), *changes).octets)
+    call.wait(20)
+
+
+def routed(call):
+    """The gatekeeper routes the call, so it has two legs; Bruno asks for admission too."""
+    call.admit()
+    to_gatekeeper = Connection(call.capture, call.client, (GATEKEEPER, CALL_SIGNALLING))
+    onward = Connection(call.capture, (GATEKEEPER, 40000), (BRUNO.host, CALL_SIGNALLING))
+    for message, side in ((SETUP, CALLING), (base.ALERTING, CALLED), (CONNECT, CALLED), (base.RELEASE_COMPLETE, CALLED)):
+        for connection, reference in ((to_gatekeeper, 0x1001), (onward, 0x2001)):
+            call.reference = reference
+            signal(call, connection, side, message, turned=message == base.RELEASE_COMPLETE)
+        if message == SETUP:
+            call.caller = ALICE._replace(host=BRUNO.host)
+            asked = struct.pack(">H", base.BASE_REFERENCE) + base.BASE_CONFERENCE + b"\x08"
+            answering = struct.pack(">H", call.reference) + call.conference + b"\x48"  # answerCall
+            ras(call, ADMISSION, 500, swap(asked, answering))
+            ras(call, ADMITTED, 500, answer=True)
+            call.caller = ALICE
+    call.reference = 0x1001
+    call.disengage()
+
+
+def old(call):
+    """Without call identifiers, the reference and the conference name the call; the next Setup begins another."""
+    call.identifier = base.NO_CALL_IDENTIFIER
+    call.admit()
+    call.dial()
+    for _ in range(2):
+        signal(call, call.connection, CALLING, SETUP)
+        signal(call, call.connection, CALLED, CONNECT)
+        signal(call, call.connection, CALLING, base.RELEASE_COMPLETE)
+    conference = bytes.fromhex("20ea7f5c5baa1f82305d5ed5dfb294d8")
+    ras(call, BANDWIDTH_REQUEST, 600, swap(conference, call.conference))
+    ras(call, BANDWIDTH_REJECT, 600, answer=True)
+    call.disengage()
+
+
+def answers(call):
+    """An answer belongs to the latest request of its name and number."""
+    ras(call, ADMISSION, 700)
+    ras(call, IN_PROGRESS, 700, answer=True)
+    ras(call, ADMITTED, 700, answer=True)
+    ras(call, ADMISSION_REJECT, 700, answer=True)  # comes too late
+    ras(call, BANDWIDTH_CONFIRM, 700, answer=True)  # answers something else
+    ras(call, DISENGAGE, 701)
+    ras(call, IN_PROGRESS, 701, answer=True)
+
+
+def repeats(call):
+    """Some messages want an answer. Up to a minute after a request, the same one is a repeated request."""
+    ras(call, LOCATION_REQUEST, 710)
+    ras(call, LOCATION_REJECT, 710, answer=True)
+    for sequence, response in ((712, RESPONSE_TO_ANSWER), (713, RESPONSE)):
+        ras(call, response, sequence)
+    for milliseconds in (60_000, 60_001, 0):
+        ras(call, REGISTRATION, 711)
+        call.wait(milliseconds - 5)
+
+
+def odd(call):
+    """Identifiers differ, a connection for H.245 is refused, and RTP has two payload types."""
+    call.admit()
+    call.dial()
+    signal(call, call.connection, CALLING, SETUP)
+    signal(call, call.connection, CALLED, base.ALERTING, swap(base.BASE_CALL, b"\xDD" * 16))
+    signal(call, call.connection, CALLED, base.CONNECT)
+    Connection(call.capture, (ALICE.host, 50900), (BRUNO.host, H245)).refused(call.time)
+    call.wait(20)
+    for payload_type, count in ((0, 1), (8, 2)):
+        for n in range(count):
+            rtp = struct.pack(">BBHII", 0x80, payload_type, n, 160 * n, 1) + bytes(160)
+            call.capture.udp(call.wait(20), (ALICE.host, ALICE.media), (BRUNO.host, BRUNO.media), rtp)
+    call.hang_up(CALLING, 16)
+
+
+def channels(call):
+    """Both sides open channels under one number; one is opened again and closed twice."""
+    call.dial()
+    signal(call, call.connection, CALLING, SETUP)
+    signal(call, call.connection, CALLED, CONNECT)
+    call.negotiate()
+    acknowledge = base.FRAMES[34]
+    close = base.FRAMES[43]
+    for side in (CALLING, CALLED, CALLING):
+        call.control(side, base.OPEN_CHANNEL)
+        call.control(1 - side, acknowledge)
+    call.control(CALLING, close)
+    call.control(CALLING, close)
+    call.end_session(CALLED)
+
+
+def refused(call):
+    """Nothing was said about the connection that a host refuses again and again."""
+    for port in (50910, 50911):
+        Connection(call.capture, (CARLA.host, port), (BRUNO.host, CALL_SIGNALLING)).refused(call.wait(1000))
+
+
+def tell():
+    story = base.Story()
+    parts = ((routed, ALICE, BRUNO), (old, ALICE, BRUNO), (answers, ALICE, BRUNO), (repeats, CARLA, None),
+             (odd, ALICE, BRUNO), (channels, CARLA, BRUNO), (refused, CARLA, BRUNO))
+    for minute, (part, caller, called) in enumerate(parts):
+        part(story.call("", "", (8, 5 * minute, 0), caller, called))
+    return b"".join(story.capture.octets())
