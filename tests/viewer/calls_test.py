@@ -49,7 +49,10 @@ class Golden(unittest.TestCase):
         self.check("call.calls.txt", "--format", "calls", CALL)
 
     def test_rare_calls(self):
-        self.check("rare-calls.calls.txt", "--format", "calls", data=rare_calls.tell())
+        capture = rare_calls.tell()
+        self.check("rare-calls.calls.txt", "--format", "calls", data=capture)
+        self.check("rare-calls.ladder.txt", "--format", "ladder", "--call", "ca06", data=capture)
+        self.check("rare-calls.stats.txt", "--stats", data=capture)
 
     def test_ladder(self):
         self.check("failed-calls.ladder.txt", "--format", "ladder", "--faulty", FAILED)

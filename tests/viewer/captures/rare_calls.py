@@ -17,8 +17,8 @@ BANDWIDTH_REQUEST = ("3100fffe00004120ea7f5c5baa1f82305d5ed5dfb294d8441738b4b38d
 BANDWIDTH_REJECT = ("3800003000", 1, 1)
 BANDWIDTH_CONFIRM = ("36fffe0000098001000100", 65535, 1)
 IN_PROGRESS = ("800c60fffe40ff003ad70000fffe", 65535, 3)
-LOCATION_REQUEST = ("4800fffe0383031020788303000288830330029810c000020d06b70040", 65535, 2)
-LOCATION_REJECT = ("50fffe40", 65535, 1)
+LOCATION_REQUEST = ("4800fffe0383031020788303000288830330029810c000020d071c0040", 65535, 2)
+LOCATION_REJECT = bytes.fromhex("5002c540")
 RESPONSE_TO_ANSWER = ("5a40000001824e2dfffdfffd1038c95b19000000400001800000f0966b114a3d94cf6e8e573e86e173eb01600ffb524203"
                       "820001000e7808042b06017f0f9c44018001000100", 1, 2)
 RESPONSE = ("5a00fffe018404164e2d00e900414e2d0042ffc52290c60240b14aa233e5fdf71b1989b239d1daf47c30caeaea1746541868271a45f2cd88"
@@ -92,7 +92,8 @@ def answers(call):
 def repeats(call):
     """Some messages want an answer. Up to a minute after a request, the same one is a repeated request."""
     ras(call, LOCATION_REQUEST, 710)
-    ras(call, LOCATION_REJECT, 710, answer=True)
+    call.capture.udp(call.time, (GATEKEEPER, base.RAS), (CARLA.host, 1820), LOCATION_REJECT)  # to its replyAddress
+    call.wait(5)
     for sequence, response in ((712, RESPONSE_TO_ANSWER), (713, RESPONSE)):
         ras(call, response, sequence)
     for milliseconds in (60_000, 60_001, 0):
@@ -101,12 +102,13 @@ def repeats(call):
 
 
 def odd(call):
-    """Identifiers differ, a connection for H.245 is refused, and RTP has two payload types."""
+    """Connect comes twice, identifiers differ, H.245 is refused, RTP has two types, and the disengage request is late."""
     call.admit()
     call.dial()
     signal(call, call.connection, CALLING, SETUP)
     signal(call, call.connection, CALLED, base.ALERTING, swap(base.BASE_CALL, b"\xDD" * 16))
-    signal(call, call.connection, CALLED, base.CONNECT)
+    for _ in range(2):
+        signal(call, call.connection, CALLED, base.CONNECT)
     Connection(call.capture, (ALICE.host, 50900), (BRUNO.host, H245)).refused(call.time)
     call.wait(20)
     for payload_type, count in ((0, 1), (8, 2)):
@@ -114,6 +116,17 @@ def odd(call):
             rtp = struct.pack(">BBHII", 0x80, payload_type, n, 160 * n, 1) + bytes(160)
             call.capture.udp(call.wait(20), (ALICE.host, ALICE.media), (BRUNO.host, BRUNO.media), rtp)
     call.hang_up(CALLING, 16)
+    call.wait(290_000)
+    call.ask_disengage()
+
+
+def without_setup(call):
+    """The capture lacks the Setup; the caller is at its gatekeeper's address."""
+    call.admit()
+    call.dial()
+    call.signal(CALLING, SETUP, captured=False)
+    signal(call, call.connection, CALLED, base.ALERTING)
+    call.hang_up(CALLED, 17)
 
 
 def channels(call):
@@ -140,8 +153,9 @@ def refused(call):
 
 def tell():
     story = base.Story()
+    gateway = ALICE._replace(host=GATEKEEPER)
     parts = ((routed, ALICE, BRUNO), (old, ALICE, BRUNO), (answers, ALICE, BRUNO), (repeats, CARLA, None),
-             (odd, ALICE, BRUNO), (channels, CARLA, BRUNO), (refused, CARLA, BRUNO))
+             (odd, ALICE, BRUNO), (without_setup, gateway, BRUNO), (channels, CARLA, BRUNO), (refused, CARLA, BRUNO))
     for minute, (part, caller, called) in enumerate(parts):
         part(story.call("", "", (8, 5 * minute, 0), caller, called))
     return b"".join(story.capture.octets())
