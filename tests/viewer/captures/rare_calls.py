@@ -21,6 +21,7 @@ LOCATION_REQUEST = ("4800fffe0383031020788303000288830330029810c000020d071c0040"
 LOCATION_REJECT = bytes.fromhex("5002c540")
 RESPONSE_TO_ANSWER = ("5a40000001824e2dfffdfffd1038c95b19000000400001800000f0966b114a3d94cf6e8e573e86e173eb01600ffb524203"
                       "820001000e7808042b06017f0f9c44018001000100", 1, 2)
+REPORT = ("5a40b9d90840070008914a00027f0265644080fffd4e2d64ff002e40055d7c1a8c0300{}0e2801000160", 47578, 2)
 RESPONSE = ("5a00fffe018404164e2d00e900414e2d0042ffc52290c60240b14aa233e5fdf71b1989b239d1daf47c30caeaea1746541868271a45f2cd88"
             "2ec400000f2a010001000340e3100100", 65535, 2)
 # These are of the sample call.
@@ -41,6 +42,14 @@ def ras(call, message, sequence, *changes, answer=False):
 def signal(call, connection, side, message, *changes, turned=False):
     call.send(connection, side, base.patched("q931", message, *call.changes(turned), *changes).octets)
     call.wait(20)
+
+
+def report(*calls):
+    """An infoRequestResponse whose perCallInfo lists these calls."""
+    octets, own, head = REPORT
+    listed = (b"\x80" + struct.pack(">H", call.reference) + call.conference + bytes.fromhex("00000043c0001100") +
+              call.identifier for call in calls)
+    return octets.format(f"{len(calls):02x}" + b"".join(listed).hex()), own, head
 
 
 def routed(call):
@@ -120,9 +129,10 @@ def odd(call):
     call.ask_disengage()
 
 
-def without_setup(call):
-    """The capture lacks the Setup; the caller is at its gatekeeper's address."""
+def without_setup(call, earlier):
+    """The capture lacks the Setup; the caller is at its gatekeeper's address, and reports an earlier call too."""
     call.admit()
+    ras(call, report(earlier, call), 800)
     call.dial()
     call.signal(CALLING, SETUP, captured=False)
     signal(call, call.connection, CALLED, base.ALERTING)
@@ -130,9 +140,10 @@ def without_setup(call):
 
 
 def channels(call):
-    """Both sides open channels under one number; one is opened again and closed twice."""
+    """Both sides open channels under one number; one is opened again and closed twice. Connect has an earlier time."""
     call.dial()
     signal(call, call.connection, CALLING, SETUP)
+    call.wait(-50)
     signal(call, call.connection, CALLED, CONNECT)
     call.negotiate()
     acknowledge = base.FRAMES[34]
@@ -153,9 +164,18 @@ def refused(call):
 
 def tell():
     story = base.Story()
-    gateway = ALICE._replace(host=GATEKEEPER)
-    parts = ((routed, ALICE, BRUNO), (old, ALICE, BRUNO), (answers, ALICE, BRUNO), (repeats, CARLA, None),
-             (odd, ALICE, BRUNO), (without_setup, gateway, BRUNO), (channels, CARLA, BRUNO), (refused, CARLA, BRUNO))
-    for minute, (part, caller, called) in enumerate(parts):
-        part(story.call("", "", (8, 5 * minute, 0), caller, called))
+    story.capture.in_order = lambda: story.capture.frames  # as the messages were made
+    minutes = iter(range(0, 60, 5))
+
+    def call(caller, called=None):
+        return story.call("", "", (8, next(minutes), 0), caller, called)
+    for part in routed, old:
+        part(call(ALICE, BRUNO))
+    unreleased = call(ALICE, BRUNO)
+    answers(unreleased)
+    repeats(call(CARLA))
+    odd(call(ALICE, BRUNO))
+    without_setup(call(ALICE._replace(host=GATEKEEPER), BRUNO), unreleased)
+    channels(call(CARLA, BRUNO))
+    refused(call(CARLA, BRUNO))
     return b"".join(story.capture.octets())
