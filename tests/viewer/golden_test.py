@@ -6,13 +6,14 @@ Usage: golden_test.py KELVRA_DUMP [EMULATOR...]
 """
 import difflib
 import os
+import re
 import sys
 import unittest
 
 RENEW = "--renew" in sys.argv[1:]
 sys.argv = [a for a in sys.argv if a != "--renew"]
 
-from viewer_test import EMULATED, TOP, run  # noqa: E402
+from viewer_test import EMULATED, RELEASE_COMPLETE, TOP, run  # noqa: E402
 
 GOLDEN = os.path.join(os.path.dirname(os.path.abspath(__file__)), "golden")
 SAMPLE = os.path.join(TOP, "samples", "call.pcap")
@@ -23,18 +24,19 @@ os.environ["TZ"] = "EAST-3:30"
 class Golden(unittest.TestCase):
     maxDiff = None
 
-    def check(self, name, *arguments, data=b"", status=0):
+    def check(self, name, *arguments, data=b"", status=0, extract=lambda output: output):
         result = run(*arguments, data=data)
         self.assertEqual(result.returncode, status, result.stderr)
+        printed = extract(result.stdout)
         path = os.path.join(GOLDEN, name)
         if RENEW:
             with open(path, "wb") as file:
-                file.write(result.stdout)
+                file.write(printed)
             return
         with open(path, "rb") as file:
             wanted = file.read()
-        if wanted != result.stdout:
-            lines = (text.decode().splitlines() for text in (wanted, result.stdout))
+        if wanted != printed:
+            lines = (text.decode().splitlines() for text in (wanted, printed))
             self.fail("\n".join(difflib.unified_diff(*lines, name, "printed", lineterm="", n=1)))
 
     def check_family(self, family, prefix, formats, status):
@@ -52,6 +54,18 @@ class Golden(unittest.TestCase):
         for family in ("ras", "q931", "h245"):
             self.check_family(family, "faulty-", {"summary": [], "octets": ["--format", "tree", "--octets"],
                                                   "json": ["--format", "json"]}, 1)
+
+    def test_names_of_q931(self):
+        def names(summary):
+            types, causes = summary.splitlines()[:128], summary.splitlines()[128:]
+            for kind, lines, shown in (("type", types, r"Q\.931  (?!Type)(.+) \(rel"), ("cause", causes, r"cause \d+ (.+)")):
+                found = (re.search(shown, line) for line in lines)
+                yield from (f"{kind} 0x{n:02X}  {name[1]}\n" for n, name in enumerate(found) if name)
+
+        types = (RELEASE_COMPLETE.replace("675a", f"67{number:02x}") for number in range(128))
+        causes = (RELEASE_COMPLETE.replace("8090", f"80{number:02x}") for number in range(128, 256))
+        self.check("q931.names", "--as", "q931", "-", data="\n".join([*types, *causes]).encode(),
+                   extract=lambda summary: "".join(names(summary.decode())).encode())
 
     def test_sample_call(self):
         self.check("call.summary", SAMPLE)
