@@ -65,7 +65,7 @@ class Printer : public MessageSink {
     text_.clear();
     if (names_inputs_) {
       Message named = message;
-      named.file = input_;
+      named.file = message.origin ? message.origin->file : input_;
       formatter_->Print(named, decoded, text_);
     } else {
       formatter_->Print(message, decoded, text_);

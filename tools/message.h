@@ -18,6 +18,7 @@ struct Origin {
   int64_t microseconds = 0;  // since 1970-01-01 UTC
   Endpoint source;
   Endpoint destination;
+  std::shared_ptr<const std::string> file{};  // the name of the capture
 };
 
 struct Message {

@@ -107,6 +107,12 @@ class Files(unittest.TestCase):
                          [("releaseComplete", names[1], 1)])
         self.assertEqual((result.returncode, result.stderr), (0, b""))
 
+    def test_a_message_that_waited_in_an_earlier_file_names_that_file(self):
+        waiting = b"".join(capture_pieces(ethernet(ipv4(6, tcp(*s))) for s in ((1, CALL), (103, CALL))))
+        result, names = self.run_on(waiting, SAMPLE)
+        self.assertEqual([(o["frame"], o["file"] == names[0]) for o in objects(result) if o["name"] == "releaseComplete"],
+                         [(1, True), (48, False), (2, True)])
+
     def test_a_file_that_cannot_be_read_ends_the_run_after_those_before_it(self):
         result, names = self.run_on(SAMPLE, SAMPLE[:-1], SAMPLE)
         self.assertEqual((result.returncode, len(objects(result))), (2, 61))

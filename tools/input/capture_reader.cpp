@@ -24,7 +24,10 @@ class CaptureReader::Distributor {
   Distributor(const CapturePorts& ports, MessageSink& sink)
       : ports_(ports), sink_(sink), streams_(ports, sink), packets_(ports) {}
 
-  void StartFile() { origin_.frame = 0; }
+  void StartFile(const std::string& name) {
+    origin_.frame = 0;
+    origin_.file = std::make_shared<const std::string>(name);
+  }
   void OnPacket(const CapturedPacket& packet) {
     // A file that starts earlier does not continue the previous one.
     if (origin_.frame == 0 && packet.microseconds < origin_.microseconds) streams_.CloseAll();
@@ -88,7 +91,7 @@ void CaptureReader::Read(ByteSource& source) {
 }
 
 void CaptureReader::Open(ByteSource& source) {
-  distributor_->StartFile();
+  distributor_->StartFile(source.Name());
   file_ = std::make_unique<CaptureFile>(source);
 }
 
