@@ -9,6 +9,7 @@ import os
 import re
 import sys
 import unittest
+import unittest.mock
 
 RENEW = "--renew" in sys.argv[1:]
 sys.argv = [a for a in sys.argv if a != "--renew"]
@@ -70,6 +71,8 @@ class Golden(unittest.TestCase):
     def test_sample_call(self):
         self.check("call.summary", SAMPLE)
         self.check("call.relative", "--relative", SAMPLE)
+        later = os.path.join(TOP, "samples", "failed-calls.pcap")
+        self.assertIn(b"  -73133199.987000  192.0.2.10:1719", run("--relative", later, SAMPLE).stdout)
         self.check("call.colored", "--color", "always", SAMPLE)
 
     @unittest.skipIf(EMULATED, "has no TZ")
@@ -80,6 +83,8 @@ class Golden(unittest.TestCase):
             printed = run("--local", *arguments, SAMPLE).stdout.decode()
             self.assertRegex(printed, r"\d{4}-\d\d-\d\dT\d\d:\d\d:\d\d\.\d{6}\+03:30")
             self.assertNotRegex(printed, r"T\d\d:\d\d:\d\d\.\d{6}Z")
+        with unittest.mock.patch.dict(os.environ, {"TZ": "WEST3:30"}):
+            self.assertIn(b"2023-11-14T18:43:20.013000-03:30", run("--local", "--format", "tree", SAMPLE).stdout)
 
 
 if __name__ == "__main__":
