@@ -49,10 +49,10 @@ class Golden(unittest.TestCase):
         self.check("call.calls.txt", "--format", "calls", CALL)
 
     def test_rare_calls(self):
-        capture = rare_calls.tell()
-        self.check("rare-calls.calls.txt", "--format", "calls", data=capture)
-        self.check("rare-calls.ladder.txt", "--format", "ladder", "--call", "ca06", data=capture)
-        self.check("rare-calls.stats.txt", "--stats", data=capture)
+        for name, *arguments in (("calls", "--format", "calls"), ("ladder", "--format", "ladder", "--call", "ca06"),
+                                 ("stats", "--stats")):
+            self.check(f"rare-calls.{name}.txt", "--h245-port", str(rare_calls.UNKNOWN_H245), *arguments,
+                       data=rare_calls.tell())
 
     def test_ladder(self):
         self.check("failed-calls.ladder.txt", "--format", "ladder", "--faulty", FAILED)

@@ -9,11 +9,13 @@ sys.path.insert(0, os.path.join(TOP, "samples"))
 import failed_calls as base  # noqa: E402
 from failed_calls import ALICE, BRUNO, CALLED, CALLING, CALL_SIGNALLING, CARLA, GATEKEEPER, H245, Connection  # noqa: E402
 
+UNKNOWN_H245 = 30246
 SETUP, CONNECT = (base.without_fast_start(message) for message in (base.SETUP, base.CONNECT))
 
 # RAS messages: their octets, their own requestSeqNum and the octets before it. These are of tests/data.
 ADMISSION_REJECT = ("2c000030", 1, 1)
 BANDWIDTH_REQUEST = ("3100fffe00004120ea7f5c5baa1f82305d5ed5dfb294d8441738b4b38dc6", 65535, 2)
+DISENGAGE_REJECT = ("45fffe50f46c000000", 65535, 1)
 BANDWIDTH_REJECT = ("3800003000", 1, 1)
 BANDWIDTH_CONFIRM = ("36fffe0000098001000100", 65535, 1)
 IN_PROGRESS = ("800c60fffe40ff003ad70000fffe", 65535, 3)
@@ -79,6 +81,7 @@ def old(call):
     call.dial()
     for _ in range(2):
         signal(call, call.connection, CALLING, SETUP)
+        signal(call, call.connection, CALLING, SETUP)
         signal(call, call.connection, CALLED, CONNECT)
         signal(call, call.connection, CALLING, base.RELEASE_COMPLETE)
     conference = bytes.fromhex("20ea7f5c5baa1f82305d5ed5dfb294d8")
@@ -100,6 +103,7 @@ def answers(call):
 
 def repeats(call):
     """Some messages want an answer. Up to a minute after a request, the same one is a repeated request."""
+    ras(call, BANDWIDTH_REQUEST, 709)  # of an unknown call
     ras(call, LOCATION_REQUEST, 710)
     call.capture.udp(call.time, (GATEKEEPER, base.RAS), (CARLA.host, 1820), LOCATION_REJECT)  # to its replyAddress
     call.wait(5)
@@ -111,22 +115,24 @@ def repeats(call):
 
 
 def odd(call):
-    """Connect comes twice, identifiers differ, H.245 is refused, RTP has two types, and the disengage request is late."""
+    """Connect comes twice, identifiers differ, H.245 is refused, RTP has two types, the disengage request is late."""
     call.admit()
     call.dial()
     signal(call, call.connection, CALLING, SETUP)
     signal(call, call.connection, CALLED, base.ALERTING, swap(base.BASE_CALL, b"\xDD" * 16))
-    for _ in range(2):
-        signal(call, call.connection, CALLED, base.CONNECT)
+    signal(call, call.connection, CALLED, base.CONNECT)
+    signal(call, call.connection, CALLED, base.CONNECT, swap(base.BASE_CONFERENCE, b"\xEE" * 16))
     Connection(call.capture, (ALICE.host, 50900), (BRUNO.host, H245)).refused(call.time)
     call.wait(20)
     for payload_type, count in ((0, 1), (8, 2)):
         for n in range(count):
             rtp = struct.pack(">BBHII", 0x80, payload_type, n, 160 * n, 1) + bytes(160)
             call.capture.udp(call.wait(20), (ALICE.host, ALICE.media), (BRUNO.host, BRUNO.media), rtp)
+    released = call.time
     call.hang_up(CALLING, 16)
-    call.wait(290_000)
-    call.ask_disengage()
+    call.time = released + 300_000_000
+    ras(call, DISENGAGE, 720)
+    ras(call, DISENGAGE_REJECT, 720, answer=True)
 
 
 def without_setup(call, earlier):
@@ -136,7 +142,9 @@ def without_setup(call, earlier):
     call.dial()
     call.signal(CALLING, SETUP, captured=False)
     signal(call, call.connection, CALLED, base.ALERTING)
-    call.hang_up(CALLED, 17)
+    disconnect = base.RELEASE_COMPLETE[:8] + b"\x45" + base.RELEASE_COMPLETE[9:]
+    for message in disconnect, base.RELEASE_COMPLETE:
+        signal(call, call.connection, CALLED, message, base.release(17), turned=True)
 
 
 def channels(call):
@@ -145,7 +153,8 @@ def channels(call):
     signal(call, call.connection, CALLING, SETUP)
     call.wait(-50)
     signal(call, call.connection, CALLED, CONNECT)
-    call.negotiate()
+    call.h245 = Connection(call.capture, (CARLA.host, 50901), (BRUNO.host, H245))
+    call.control(CALLED, base.CAPABILITIES)
     acknowledge = base.FRAMES[34]
     close = base.FRAMES[43]
     for side in (CALLING, CALLED, CALLING):
@@ -154,6 +163,12 @@ def channels(call):
     call.control(CALLING, close)
     call.control(CALLING, close)
     call.end_session(CALLED)
+
+
+def control_alone(call):
+    """The capture lacks the call signalling."""
+    call.h245 = Connection(call.capture, (CARLA.host, 50902), (BRUNO.host, UNKNOWN_H245))
+    call.control(CALLING, base.END_SESSION)
 
 
 def refused(call):
@@ -165,7 +180,7 @@ def refused(call):
 def tell():
     story = base.Story()
     story.capture.in_order = lambda: story.capture.frames  # as the messages were made
-    minutes = iter(range(0, 60, 5))
+    minutes = iter(range(0, 60, 6))
 
     def call(caller, called=None):
         return story.call("", "", (8, next(minutes), 0), caller, called)
@@ -173,9 +188,10 @@ def tell():
         part(call(ALICE, BRUNO))
     unreleased = call(ALICE, BRUNO)
     answers(unreleased)
-    repeats(call(CARLA))
     odd(call(ALICE, BRUNO))
+    repeats(call(CARLA))
     without_setup(call(ALICE._replace(host=GATEKEEPER), BRUNO), unreleased)
+    control_alone(call(CARLA, BRUNO))
     channels(call(CARLA, BRUNO))
     refused(call(CARLA, BRUNO))
     return b"".join(story.capture.octets())
