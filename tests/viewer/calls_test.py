@@ -61,6 +61,8 @@ class Golden(unittest.TestCase):
     def test_statistics(self):
         self.check("failed-calls.stats.txt", "--stats", FAILED)
         self.check("call-13.stats.txt", "--stats", "--call", "13", FAILED)
+        faulty = run("--stats", "--faulty", FAILED).stdout  # as many calls as in test_faulty
+        self.assertIn(b"messages: 2, calls: 7, refused connections: 1\n", faulty)
 
     def test_calls_from_a_pipe_are_the_same_in_the_order_of_their_ends(self):
         with open(FAILED, "rb") as capture:

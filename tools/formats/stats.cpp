@@ -59,7 +59,12 @@ class StatisticsReport : public Formatter, private CallListener {
     if (filter_.WantsMessage(message, decoded)) wanted_.insert(calls.begin(), calls.end());
   }
 
+  void OnMediaPacket(const Origin& origin, uint8_t payload_type) override {
+    tracker_.OnMediaPacket(origin, payload_type);
+  }
+
   void OnRefusedConnection(const Origin& origin) override {
+    tracker_.OnRefusedConnection(origin);
     if (filter_.WantsConnection(origin)) ++refused_;
   }
 
