@@ -90,6 +90,7 @@ class Filters(unittest.TestCase):
     def test_message(self):
         self.assertEqual(frames(CALL, "--message", "Call Proceeding"), frames(CALL, "--message", "callproceeding"))
         self.assertEqual(len(frames(CALL, "--message", "setup")), 1)
+        self.assertEqual(frames(CALL, "--message", "admission") + frames(CALL, "--message", "call"), [])
         self.assertEqual(calls("--message", "openLogicalChannelReject"), [8])
         self.assertEqual(calls("--message", "terminalCapabilitySetReject"), [11])  # tunnelled
         self.assertEqual(calls("--message", "admissionReject", "--party", "2002"), [])

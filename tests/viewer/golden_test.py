@@ -18,6 +18,7 @@ from viewer_test import EMULATED, RELEASE_COMPLETE, TOP, run  # noqa: E402
 
 GOLDEN = os.path.join(os.path.dirname(os.path.abspath(__file__)), "golden")
 SAMPLE = os.path.join(TOP, "samples", "call.pcap")
+LATER_SAMPLE = os.path.join(TOP, "samples", "failed-calls.pcap")
 # Three and a half hours east of Greenwich, without summer time.
 os.environ["TZ"] = "EAST-3:30"
 
@@ -71,9 +72,15 @@ class Golden(unittest.TestCase):
     def test_sample_call(self):
         self.check("call.summary", SAMPLE)
         self.check("call.relative", "--relative", SAMPLE)
-        later = os.path.join(TOP, "samples", "failed-calls.pcap")
-        self.assertIn(b"  -73133199.987000  192.0.2.10:1719", run("--relative", later, SAMPLE).stdout)
+        self.assertIn(b"  -73133199.987000  192.0.2.10:1719", run("--relative", LATER_SAMPLE, SAMPLE).stdout)
         self.check("call.colored", "--color", "always", SAMPLE)
+
+    def test_page(self):
+        def body(page):
+            """Without the script and the trees."""
+            return re.sub(rb"(?s)^.*?(?=<tbody)|</table>.*|(?<=<pre>).*?(?=</pre>)", b"", page)
+        for call in ("ca09", "ca0e"):  # a refused connection, tunnelled messages
+            self.check(f"{call}.html", "--format", "html", "--call", call, LATER_SAMPLE, status=1, extract=body)
 
     @unittest.skipIf(EMULATED, "has no TZ")
     def test_local_times(self):
