@@ -7,11 +7,14 @@ Whole outputs are compared with the files of golden/calls/. If KELVRA_UPDATE is 
 instead; compare them with samples/README.md before you commit them.
 """
 import os
+import re
+import struct
 import sys
 import unittest
 
 from captures import rare_calls
-from viewer_test import TOP, objects, run
+from captures.rare_calls import base as failed_calls
+from viewer_test import TOP, capture, ethernet, ipv4, objects, run, udp
 
 GOLDEN = os.path.join(os.path.dirname(os.path.abspath(__file__)), "golden", "calls")
 FAILED = os.path.join(TOP, "samples", "failed-calls.pcap")
@@ -71,6 +74,24 @@ class Golden(unittest.TestCase):
         self.assertEqual(sorted(piped), sorted(lines))
 
 
+class Bounds(unittest.TestCase):
+    def calls_of(self, *messages):
+        """The number of calls among these RAS messages, which come all at once."""
+        data = capture(ethernet(ipv4(17, udp(message))) for message in messages)
+        return int(re.search(rb", calls: (\d+)", run("--stats", data=data).stdout)[1])
+
+    def test_oldest_open_call_is_dropped_but_ended_ones_before_it(self):
+        def asked(number):
+            return failed_calls.ARQ.replace(failed_calls.BASE_CALL, (number + 1).to_bytes(16, "big"))
+
+        disengage = failed_calls.DRQ.replace(failed_calls.BASE_CALL, (1).to_bytes(16, "big"))
+        most = 16384
+        self.assertEqual(self.calls_of(*map(asked, range(most)), disengage), most)
+        self.assertEqual(self.calls_of(*map(asked, range(most + 1)), disengage), most + 2)
+        registrations = (failed_calls.RRQ[:2] + struct.pack(">H", n) + failed_calls.RRQ[4:] for n in range(most + 1))
+        self.assertEqual(self.calls_of(asked(0), *registrations, disengage), 1)
+
+
 class Filters(unittest.TestCase):
     def test_call_keeps_its_ras_messages(self):
         kept = [369, 370]
@@ -106,6 +127,9 @@ class Filters(unittest.TestCase):
         self.assertEqual(calls("--since", "2026-03-11"), [])
         self.assertEqual(calls("--since", "09:11", "--until", "09:11:00.0"), [6])
         self.assertEqual(calls("--since", "09:11:00.015", "--until", "09:11:00.025"), [6])
+        # At that time a call with signalling has nothing but a refused connection.
+        refused = run("--calls", "--since", "08:18:00.1", "--until", "08:18:00.11", data=rare_calls.tell())
+        self.assertEqual(len(refused.stdout.splitlines()), 1)
         for wrong in ("9:17", "-1:17", "24:00", "09:60", "09:17:60", "2026-02-30", "09:17:00x", "", "2026-03-10T"):
             self.assertEqual(run("--since", wrong, FAILED).returncode, 2, wrong)
 

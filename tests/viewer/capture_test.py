@@ -454,6 +454,13 @@ class PcapngBlocks(unittest.TestCase):
             data = self.section() + self.interface(*options) + self.enhanced(10 ** 6)
             self.assertEqual(self.times(data), [f"1970-01-01T{second}.000000Z"])
 
+    def test_days_and_times_of_day_before_1970(self):
+        data = self.section() + self.interface((14, struct.pack("<q", -1))) + self.enhanced() + self.enhanced(10 ** 6)
+        lines = run(data=data).stdout.decode().splitlines()
+        self.assertEqual([line[:26].rstrip() for line in lines],
+                         ["1969-12-31", "   1  23:59:59.000000  192", "1970-01-01", "   2  00:00:00.000000  192"])
+        self.assertEqual(len(run("--since", "23:59", data=data).stdout.splitlines()), 2)
+
     def test_each_interface_has_its_link_type_and_units(self):
         raw = ipv4(17, udp(RAS))
         data = (self.section() + self.interface() + self.interface((9, b"\0"), link_type=101) +

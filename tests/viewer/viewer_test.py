@@ -300,7 +300,7 @@ class SingleMessages(unittest.TestCase):
 
     def test_details_of_h245(self):
         lines = run("--as", "h245", data="\n".join(v["hex"] for v in vectors("h245")).encode()).stdout
-        self.assertTrue(b"both h261VideoCapability" in lines)
+        self.assertTrue(b"both h261VideoCapability" in lines and b"seq 18  transmit g729AnnexAwAnnexB\n" in lines)
         self.assertIn(b"channel 8048  limit 100 bit/s", run("--as", "h245", data=b"70e005001f6f0001").stdout)
 
 
