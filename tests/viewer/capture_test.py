@@ -332,6 +332,9 @@ class Captures(unittest.TestCase):
             return ethernet(ipv4(6, tcp(sequence, CALL)))
         data = capture_at((1000, call(1)), (1001, call(103)), (1050, call(52)), (1062, call(205)), (1070, call(154)))
         self.assertEqual(self.names(data), ["releaseComplete"] * 5)
+        # The first gap is passed after its minute, the second is filled.
+        data = capture_at((1000, call(1)), (1000, call(103)), (1061, call(205)), (1062, call(256)), (1063, call(154)))
+        self.assertEqual(self.names(data, status=1), ["releaseComplete"] * 5)
 
     def test_ports_reused_without_a_syn(self):
         for first, second in ((1, 0x40000000), (0x40000000, 1)):
