@@ -87,6 +87,8 @@ def old(call):
     conference = bytes.fromhex("20ea7f5c5baa1f82305d5ed5dfb294d8")
     ras(call, BANDWIDTH_REQUEST, 600, swap(conference, call.conference))
     ras(call, BANDWIDTH_REJECT, 600, answer=True)
+    nameless = bytes(16) + struct.pack(">H", call.reference)
+    ras(call, BANDWIDTH_REQUEST, 601, swap(conference + b"\x44\x17", nameless), answer=True)  # of the gatekeeper
     call.disengage()
 
 
@@ -97,8 +99,8 @@ def answers(call):
     ras(call, ADMITTED, 700, answer=True)
     ras(call, ADMISSION_REJECT, 700, answer=True)  # comes too late
     ras(call, BANDWIDTH_CONFIRM, 700, answer=True)  # answers something else
-    ras(call, DISENGAGE, 701)
-    ras(call, IN_PROGRESS, 701, answer=True)
+    ras(call, DISENGAGE, 700)
+    ras(call, IN_PROGRESS, 700, answer=True)
 
 
 def repeats(call):
@@ -114,12 +116,12 @@ def repeats(call):
         call.wait(milliseconds - 5)
 
 
-def odd(call):
+def odd(call, other):
     """Connect comes twice, identifiers differ, H.245 is refused, RTP has two types, the disengage request is late."""
     call.admit()
     call.dial()
     signal(call, call.connection, CALLING, SETUP)
-    signal(call, call.connection, CALLED, base.ALERTING, swap(base.BASE_CALL, b"\xDD" * 16))
+    signal(call, call.connection, CALLED, base.ALERTING, swap(base.BASE_CALL, other.identifier))
     signal(call, call.connection, CALLED, base.CONNECT)
     signal(call, call.connection, CALLED, base.CONNECT, swap(base.BASE_CONFERENCE, b"\xEE" * 16))
     Connection(call.capture, (ALICE.host, 50900), (BRUNO.host, H245)).refused(call.time)
@@ -163,6 +165,17 @@ def channels(call):
     call.control(CALLING, close)
     call.control(CALLING, close)
     call.end_session(CALLED)
+    signal(call, call.connection, CALLED, base.RELEASE_COMPLETE, turned=True)
+
+
+def connection_reused(call, earlier):
+    """The connection of an earlier call for H.245 serves another."""
+    call.time = earlier.time
+    call.dial()
+    signal(call, call.connection, CALLING, SETUP)
+    signal(call, call.connection, CALLED, CONNECT)
+    call.h245 = earlier.h245
+    call.control(CALLED, base.END_SESSION)
 
 
 def control_alone(call):
@@ -188,10 +201,12 @@ def tell():
         part(call(ALICE, BRUNO))
     unreleased = call(ALICE, BRUNO)
     answers(unreleased)
-    odd(call(ALICE, BRUNO))
+    odd(call(ALICE, BRUNO), unreleased)
     repeats(call(CARLA))
     without_setup(call(ALICE._replace(host=GATEKEEPER), BRUNO), unreleased)
     control_alone(call(CARLA, BRUNO))
-    channels(call(CARLA, BRUNO))
+    ended = call(CARLA, BRUNO)
+    channels(ended)
+    connection_reused(call(CARLA, BRUNO), ended)
     refused(call(CARLA, BRUNO))
     return b"".join(story.capture.octets())
