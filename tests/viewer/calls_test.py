@@ -107,6 +107,8 @@ class Filters(unittest.TestCase):
         self.assertEqual(frames(FAILED, "--party", "CARLA"), [365, 366])
         self.assertEqual(frames(FAILED, "--party", "198.51.100.4"), [367, 368])
         self.assertEqual(calls("--party", "192.0.2.11:50006"), [2])
+        # The messages that precede the one with this port wait for it.
+        self.assertEqual(frames(FAILED, "--party", "192.0.2.11:50006")[:2], [235, 236])
 
     def test_message(self):
         self.assertEqual(frames(CALL, "--message", "Call Proceeding"), frames(CALL, "--message", "callproceeding"))
