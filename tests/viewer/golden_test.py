@@ -60,7 +60,8 @@ class Golden(unittest.TestCase):
     def test_names_of_q931(self):
         def names(summary):
             types, causes = summary.splitlines()[:128], summary.splitlines()[128:]
-            for kind, lines, shown in (("type", types, r"Q\.931  (?!Type)(.+) \(rel"), ("cause", causes, r"cause \d+ (.+)")):
+            for kind, lines, shown in (("type", types, r"Q\.931  (?!Type)(.+) \(rel"),
+                                       ("cause", causes, r"cause \d+ (.+)")):
                 found = (re.search(shown, line) for line in lines)
                 yield from (f"{kind} 0x{n:02X}  {name[1]}\n" for n, name in enumerate(found) if name)
 

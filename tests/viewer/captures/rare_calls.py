@@ -7,7 +7,8 @@ from viewer_test import TOP
 
 sys.path.insert(0, os.path.join(TOP, "samples"))
 import failed_calls as base  # noqa: E402
-from failed_calls import ALICE, BRUNO, CALLED, CALLING, CALL_SIGNALLING, CARLA, GATEKEEPER, H245, Connection  # noqa: E402
+from failed_calls import (ALICE, BRUNO, CALLED, CALLING, CALL_SIGNALLING, CARLA, GATEKEEPER, H245,  # noqa: E402
+                          Connection)
 
 UNKNOWN_H245 = 30246
 SETUP, CONNECT = (base.without_fast_start(message) for message in (base.SETUP, base.CONNECT))
@@ -21,11 +22,11 @@ BANDWIDTH_CONFIRM = ("36fffe0000098001000100", 65535, 1)
 IN_PROGRESS = ("800c60fffe40ff003ad70000fffe", 65535, 3)
 LOCATION_REQUEST = ("4800fffe0383031020788303000288830330029810c000020d071c0040", 65535, 2)
 LOCATION_REJECT = bytes.fromhex("5002c540")
-RESPONSE_TO_ANSWER = ("5a40000001824e2dfffdfffd1038c95b19000000400001800000f0966b114a3d94cf6e8e573e86e173eb01600ffb524203"
-                      "820001000e7808042b06017f0f9c44018001000100", 1, 2)
+RESPONSE_TO_ANSWER = ("5a40000001824e2dfffdfffd1038c95b19000000400001800000f0966b114a3d94cf6e8e573e86e173eb01600ffb52"
+                      "4203820001000e7808042b06017f0f9c44018001000100", 1, 2)
 REPORT = ("5a40b9d90840070008914a00027f0265644080fffd4e2d64ff002e40055d7c1a8c0300{}0e2801000160", 47578, 2)
-RESPONSE = ("5a00fffe018404164e2d00e900414e2d0042ffc52290c60240b14aa233e5fdf71b1989b239d1daf47c30caeaea1746541868271a45f2cd88"
-            "2ec400000f2a010001000340e3100100", 65535, 2)
+RESPONSE = ("5a00fffe018404164e2d00e900414e2d0042ffc52290c60240b14aa233e5fdf71b1989b239d1daf47c30caeaea17465418682"
+            "71a45f2cd882ec400000f2a010001000340e3100100", 65535, 2)
 # These are of the sample call.
 REGISTRATION, ADMISSION, ADMITTED = (base.RRQ.hex(), 2, 2), (base.ARQ.hex(), 3, 2), (base.ACF.hex(), 3, 2)
 DISENGAGE = (base.DRQ.hex(), 4, 1)
@@ -59,7 +60,8 @@ def routed(call):
     call.admit()
     to_gatekeeper = Connection(call.capture, call.client, (GATEKEEPER, CALL_SIGNALLING))
     onward = Connection(call.capture, (GATEKEEPER, 40000), (BRUNO.host, CALL_SIGNALLING))
-    for message, side in ((SETUP, CALLING), (base.ALERTING, CALLED), (CONNECT, CALLED), (base.RELEASE_COMPLETE, CALLED)):
+    for message, side in ((SETUP, CALLING), (base.ALERTING, CALLED), (CONNECT, CALLED),
+                          (base.RELEASE_COMPLETE, CALLED)):
         for connection, reference in ((to_gatekeeper, 0x1001), (onward, 0x2001)):
             call.reference = reference
             signal(call, connection, side, message, turned=message == base.RELEASE_COMPLETE)
@@ -93,7 +95,9 @@ def old(call):
 
 
 def answers(call):
-    """An answer belongs to the latest request of its name and number."""
+    """An answer belongs to the latest request of its name and number. The rejected admission is asked for again."""
+    ras(call, ADMISSION, 699)
+    ras(call, ADMISSION_REJECT, 699, answer=True)
     ras(call, ADMISSION, 700)
     ras(call, IN_PROGRESS, 700, answer=True)
     ras(call, ADMITTED, 700, answer=True)
@@ -156,7 +160,8 @@ def channels(call):
     call.wait(-50)
     signal(call, call.connection, CALLED, CONNECT)
     call.h245 = Connection(call.capture, (CARLA.host, 50901), (BRUNO.host, H245))
-    call.control(CALLED, base.CAPABILITIES)
+    for _ in range(2):
+        call.control(CALLED, base.CAPABILITIES)
     acknowledge = base.FRAMES[34]
     close = base.FRAMES[43]
     for side in (CALLING, CALLED, CALLING):
@@ -191,6 +196,7 @@ def refused(call):
 
 
 def tell():
+    """The octets of the capture."""
     story = base.Story()
     story.capture.in_order = lambda: story.capture.frames  # as the messages were made
     minutes = iter(range(0, 60, 6))
