@@ -107,6 +107,7 @@ class Filters(unittest.TestCase):
         self.assertEqual(frames(FAILED, "--party", "CARLA"), [365, 366])
         self.assertEqual(frames(FAILED, "--party", "198.51.100.4"), [367, 368])
         self.assertEqual(calls("--party", "192.0.2.11:50006"), [2])
+        self.assertEqual(calls("--party", "192.0.2.1:1719"), list(range(1, 14)))  # the gatekeeper
         # The messages that precede the one with this port wait for it.
         self.assertEqual(frames(FAILED, "--party", "192.0.2.11:50006")[:2], [235, 236])
 

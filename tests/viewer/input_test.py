@@ -218,6 +218,7 @@ class HexadecimalText(unittest.TestCase):
         for name, write in DUMPS.items():
             with self.subTest(program=name):
                 self.check(write(CALL) * 3, self.expected * 3)
+                self.check(write(CALL) + "\n" + RELEASE_COMPLETE, self.expected * 2)
 
     def test_text_column_is_not_read_as_octets(self):
         data = bytes.fromhex("0300003308021267") + b"a" * 16 + b"ab cd ef"

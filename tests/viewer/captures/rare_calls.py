@@ -1,9 +1,10 @@
 """Makes a capture of what the calls of samples/ do not show. calls_test.py compares the calls that the viewer finds."""
+import json
 import os
 import struct
 import sys
 
-from viewer_test import TOP
+from viewer_test import TOP, vectors
 
 sys.path.insert(0, os.path.join(TOP, "samples"))
 import failed_calls as base  # noqa: E402
@@ -126,8 +127,8 @@ def odd(call, other):
     call.dial()
     signal(call, call.connection, CALLING, SETUP)
     signal(call, call.connection, CALLED, base.ALERTING, swap(base.BASE_CALL, other.identifier))
-    signal(call, call.connection, CALLED, base.CONNECT)
-    signal(call, call.connection, CALLED, base.CONNECT, swap(base.BASE_CONFERENCE, b"\xEE" * 16))
+    for _ in range(2):
+        signal(call, call.connection, CALLED, base.CONNECT)
     Connection(call.capture, (ALICE.host, 50900), (BRUNO.host, H245)).refused(call.time)
     call.wait(20)
     for payload_type, count in ((0, 1), (8, 2)):
@@ -174,13 +175,19 @@ def channels(call):
 
 
 def connection_reused(call, earlier):
-    """The connection of an earlier call for H.245 serves another."""
+    """The connection of an earlier call for H.245 serves another; Connect names another conference."""
     call.time = earlier.time
     call.dial()
     signal(call, call.connection, CALLING, SETUP)
-    signal(call, call.connection, CALLED, CONNECT)
+    signal(call, call.connection, CALLED, CONNECT, swap(base.BASE_CONFERENCE, b"\xEE" * 16))
     call.h245 = earlier.h245
     call.control(CALLED, base.END_SESSION)
+
+
+def connected_elsewhere(call):
+    """A Connect of tests/data, whose connectedAddress has no text."""
+    connect = next(v["hex"] for v in vectors("q931") if '"connectedAddress": [{' in json.dumps(v))
+    call.send(Connection(call.capture, call.client, (BRUNO.host, CALL_SIGNALLING)), CALLED, bytes.fromhex(connect))
 
 
 def control_alone(call):
@@ -199,7 +206,7 @@ def tell():
     """The octets of the capture."""
     story = base.Story()
     story.capture.in_order = lambda: story.capture.frames  # as the messages were made
-    minutes = iter(range(0, 60, 6))
+    minutes = iter(range(0, 66, 6))
 
     def call(caller, called=None):
         return story.call("", "", (8, next(minutes), 0), caller, called)
@@ -210,6 +217,7 @@ def tell():
     odd(call(ALICE, BRUNO), unreleased)
     repeats(call(CARLA))
     without_setup(call(ALICE._replace(host=GATEKEEPER), BRUNO), unreleased)
+    connected_elsewhere(call(CARLA, BRUNO))
     control_alone(call(CARLA, BRUNO))
     ended = call(CARLA, BRUNO)
     channels(ended)
