@@ -168,9 +168,8 @@ def channels(call):
     for side in (CALLING, CALLED, CALLING):
         call.control(side, base.OPEN_CHANNEL)
         call.control(1 - side, acknowledge)
-    call.control(CALLING, close)
-    call.control(CALLING, close)
-    call.end_session(CALLED)
+    for message in close, close, base.END_SESSION:
+        call.control(CALLING, message)
     signal(call, call.connection, CALLED, base.RELEASE_COMPLETE, turned=True)
 
 
