@@ -298,9 +298,14 @@ class SingleMessages(unittest.TestCase):
         request = f"4800fffe03{data}{public}{private}1044bea5dd00000040"
         self.assertIn(b'to "45", "55", "65"', run("--as", "ras", data=request.encode()).stdout)
 
+    def test_details_of_each_call_in_a_report(self):
+        lines = run("--as", "ras", data="\n".join(v["hex"] for v in vectors("ras")).encode()).stdout
+        self.assertIn(b"  crv 57800  bandwidth 2224758916  crv 65535  bandwidth 2724314798\n", lines)
+
     def test_details_of_h245(self):
         lines = run("--as", "h245", data="\n".join(v["hex"] for v in vectors("h245")).encode()).stdout
         self.assertTrue(b"both h261VideoCapability" in lines and b"seq 18  transmit g729AnnexAwAnnexB\n" in lines)
+        self.assertIn(b"conference terminalJoinedConference  terminal 125/88\n", lines)
         self.assertIn(b"channel 8048  limit 100 bit/s", run("--as", "h245", data=b"70e005001f6f0001").stdout)
 
 

@@ -28,6 +28,7 @@ RESPONSE_TO_ANSWER = ("5a40000001824e2dfffdfffd1038c95b19000000400001800000f0966
 REPORT = ("5a40b9d90840070008914a00027f0265644080fffd4e2d64ff002e40055d7c1a8c0300{}0e2801000160", 47578, 2)
 RESPONSE = ("5a00fffe018404164e2d00e900414e2d0042ffc52290c60240b14aa233e5fdf71b1989b239d1daf47c30caeaea17465418682"
             "71a45f2cd882ec400000f2a010001000340e3100100", 65535, 2)
+OPEN_ENCRYPTED = "0300873ea0401204080f0002088416403fff1400032b06010008ffff1fff0843028002c451"  # of H.245
 # These are of the sample call.
 REGISTRATION, ADMISSION, ADMITTED = (base.RRQ.hex(), 2, 2), (base.ARQ.hex(), 3, 2), (base.ACF.hex(), 3, 2)
 DISENGAGE = (base.DRQ.hex(), 4, 1)
@@ -168,7 +169,7 @@ def channels(call):
     for side in (CALLING, CALLED, CALLING):
         call.control(side, base.OPEN_CHANNEL)
         call.control(1 - side, acknowledge)
-    for message in close, close, base.END_SESSION:
+    for message in close, close, bytes.fromhex(OPEN_ENCRYPTED), base.END_SESSION:
         call.control(CALLING, message)
     signal(call, call.connection, CALLED, base.RELEASE_COMPLETE, turned=True)
 
