@@ -188,6 +188,7 @@ ARRAYS = {
     "xxd -i": lambda data: "unsigned char setup[] = {\n" +
               ",\n".join("  " + ", ".join(f"0x{x:02X}" for x in data[at:at + 12]) for at in range(0, len(data), 12)) +
               f"\n}};\nunsigned int setup_len = {len(data)};\n",
+    "xxd -i -u": lambda data: "SETUP[] = {\n" + ", ".join(f"0X{x:02X}" for x in data) + "\n};\n",
     "string": lambda data: "const char setup[33] =\n" +
               dump(data, 16, lambda at, o: '  "' + "".join(f"\\x{x:02x}" for x in o) + '"')[:-1] + ";\n",
     "octets alone": lambda data: dump(data, 16, lambda at, o: ", ".join(f"0x{x:x}" for x in o) + ","),
@@ -246,7 +247,7 @@ class HexadecimalText(unittest.TestCase):
 
     def test_plain_text_that_starts_with_zeros_is_not_a_dump(self):
         request = "00000001060008914a000410c000020106b7010a00000182010000000000"
-        for group in (2, 4):
+        for group in (1, 2, 4):
             text = spaced(bytes.fromhex(request), group)
             printed = objects(self.read(text + "\n" + text, "ras"))
             self.assertEqual([o["octets"] for o in printed], [len(request) // 2] * 2)

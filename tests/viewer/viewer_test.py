@@ -203,6 +203,7 @@ class SingleMessages(unittest.TestCase):
         self.assertEqual([(o["ok"], o["result"]) for o in objects(decode_hex("ras", "00" * 65535))], [(False, None)])
         self.assertEqual([o["result"] for o in objects(decode_hex("h245", "00" * 65535))], [0])
         self.assertEqual(decode_hex("ras", " " * ((1 << 20) + 1)).returncode, 2)
+        self.assertEqual(decode_hex("ras", ("0x00, " * 100_000 + "\n") * 11).returncode, 2)  # over 2^20 octets
         self.assertEqual(run("--as", "ras", "--input", "raw", data=bytes((1 << 20) + 1)).returncode, 2)
 
     def test_hex_text(self):
