@@ -213,7 +213,7 @@ class HexadecimalText(unittest.TestCase):
             with self.subTest(program=name):
                 text = write(CALL)
                 self.check(text, self.expected)
-                self.check(f"# a comment\n\n{text}\n{text}", self.expected * 2)
+                self.check(f"# a comment\n\n{text}\n# another\n{text}", self.expected * 2)
 
     def test_a_dump_begins_where_the_offset_is_0_again(self):
         for name, write in DUMPS.items():

@@ -210,6 +210,7 @@ class SingleMessages(unittest.TestCase):
         for text in (GATEKEEPER_CONFIRM + "\r\n", "# what it is\n" + GATEKEEPER_CONFIRM, GATEKEEPER_CONFIRM.upper()):
             result = run("--as", "ras", "--format", "json", data=text.encode())
             self.assertEqual((result.returncode, [o["result"] for o in objects(result)]), (0, [27]), text)
+        self.assertEqual(run("--as", "ras", data=b"# nothing but a comment\n").stdout, b"")
         for digit in "0123456789abcdefABCDEF":
             self.assertEqual([o["octets"] for o in objects(decode_hex("h245", digit * 2))], [1], digit)
 
