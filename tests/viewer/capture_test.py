@@ -360,7 +360,7 @@ class Captures(unittest.TestCase):
     def test_fragments_of_two_senders_are_kept_apart(self):
         datagram = udp(RAS)
         begin, end = ethernet(ipv4(17, datagram[:16], 7, 0x2000)), ethernet(ipv4(17, datagram[16:], 7, 2))
-        for at in (29, 33):  # the last octets of the source and destination addresses
+        for at in (23, 29, 33):  # the protocol, the last octets of the source and destination addresses
             other = end[:at] + b"\x63" + end[at + 1:]
             self.assertEqual(self.names(capture([begin, other]), status=1), [])
 

@@ -207,7 +207,8 @@ class SingleMessages(unittest.TestCase):
         self.assertEqual(run("--as", "ras", "--input", "raw", data=bytes((1 << 20) + 1)).returncode, 2)
 
     def test_hex_text(self):
-        for text in (GATEKEEPER_CONFIRM + "\r\n", "# longer, " * 10 + "\n" + GATEKEEPER_CONFIRM, GATEKEEPER_CONFIRM.upper()):
+        comment = "# longer, " * 10 + "\n"
+        for text in (GATEKEEPER_CONFIRM + "\r\n", comment + GATEKEEPER_CONFIRM, GATEKEEPER_CONFIRM.upper()):
             result = run("--as", "ras", "--format", "json", data=text.encode())
             self.assertEqual((result.returncode, [o["result"] for o in objects(result)]), (0, [27]), text)
         self.assertEqual(run("--as", "ras", data=b"# nothing but a comment\n").stdout, b"")
