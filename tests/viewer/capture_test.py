@@ -357,6 +357,10 @@ class Captures(unittest.TestCase):
             frames = [ethernet(ipv4(17, octets, 7, place)) for octets, place in order]
             self.assertEqual(self.names(capture(frames)), ["gatekeeperConfirm"])
 
+        # Of two at one place, the first counts; here the packet then lacks its end.
+        frames = [ethernet(ipv4(17, octets, 7, place)) for octets, place in (begin, (datagram[16:24], more | 2), end)]
+        self.assertEqual(self.names(capture(frames), status=1), [])
+
     def test_fragments_of_two_senders_are_kept_apart(self):
         datagram = udp(RAS)
         begin, end = ethernet(ipv4(17, datagram[:16], 7, 0x2000)), ethernet(ipv4(17, datagram[16:], 7, 2))
