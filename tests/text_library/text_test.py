@@ -104,6 +104,9 @@ class Captures(unittest.TestCase):
         without, _ = self.assert_same_as_viewer(octets)
         lines, _ = self.assert_same_as_viewer(octets, ["ras:1819"], ["--ras-port", "1819"])
         self.assertGreater(len(lines), len(without))
+        octets = octets.replace((1720).to_bytes(2, "big"), (1820).to_bytes(2, "big"))
+        lines, _ = self.assert_same_as_viewer(octets, ["h245:30245"], ["--h245-port", "30245"])
+        self.assertEqual(sum(json.loads(line)["family"] == "h245" for line in lines), 15)
 
     def test_what_is_no_capture_is_refused(self):
         with tempfile.TemporaryDirectory() as folder:
