@@ -143,6 +143,8 @@ class Captures(unittest.TestCase):
     def test_truncated_capture(self):
         data = capture([ethernet(ipv4(17, udp(RAS)))] * 2)
         self.assertEqual(self.names(data[:-5], status=2), ["gatekeeperConfirm"])
+        waiting = segments((1, CALL), (103, CALL), (205, CALL))
+        self.assertEqual(self.names(waiting[:-5], status=2), ["releaseComplete"] * 2)
 
     def test_frames_cut_off_by_the_capture(self):
         signalling = [ethernet(ipv4(17, udp(RAS))), ethernet(ipv4(6, tcp(1, CALL)))]
