@@ -71,8 +71,7 @@ void DecodeAndReleaseRas(const uint8_t* octets, size_t size) {
   Decode<h225::RasMessageRecord> decode(octets, size);
   const intptr_t end = KelvraDecodeRASMessage(decode.Get(), decode.Octets(), static_cast<uint32_t>(size));
   // The address can be past the buffer if a message ends with skipped open types.
-  Require(end == 0 || end > reinterpret_cast<intptr_t>(decode.Octets()),
-          "the end of a message does not lie past its start");
+  Require(end == 0 || end > reinterpret_cast<intptr_t>(decode.Octets()), "the end of a message lies past its start");
   decode.ReadAndRelease(end == 0, KelvraFreeRASMessage);
 }
 
