@@ -73,6 +73,9 @@ class Golden(unittest.TestCase):
     def test_sample_call(self):
         self.check("call.summary", SAMPLE)
         self.check("call.relative", "--relative", SAMPLE)
+        # The page is in the order of calls, so its messages keep their dates.
+        page = run("--format", "html", SAMPLE).stdout
+        self.assertEqual(run("--relative", "--format", "html", SAMPLE).stdout, page)
         self.assertIn(b"  -73133199.987000  192.0.2.10:1719", run("--relative", LATER_SAMPLE, SAMPLE).stdout)
         self.check("call.colored", "--color", "always", SAMPLE)
 

@@ -14,8 +14,7 @@ namespace {
 
 class Html : public CallFormatter {
  public:
-  Html(const Filter& filter, TimeStyle times)
-      : filter_(filter), zone_(ZoneOf(times)), trees_(MakeTree({.times = times, .showsOctets = true})) {}
+  Html(const Filter& filter, TimeZone zone) : filter_(filter), zone_(zone), trees_(MakeTree(TreeOptions(zone))) {}
 
   bool NeedsMessages() const override { return true; }
   void Begin(std::string& html) override { html += kPageBegin; }
@@ -39,6 +38,11 @@ class Html : public CallFormatter {
   }
 
  private:
+  // Relative times would depend on the order of the calls.
+  static FormatOptions TreeOptions(TimeZone zone) {
+    return {.times = zone == TimeZone::kLocal ? TimeStyle::kLocal : TimeStyle::kUtc, .showsOctets = true};
+  }
+
   static std::string DetailId(const Call& call) { return Concat({"call", std::to_string(call.order)}); }
 
   static std::string IdentifierAttribute(const Call& call) {
@@ -103,5 +107,5 @@ class Html : public CallFormatter {
 }  // namespace
 
 std::unique_ptr<CallFormatter> MakeHtml(const Filter& filter, const FormatOptions& options) {
-  return std::make_unique<Html>(filter, options.times);
+  return std::make_unique<Html>(filter, ZoneOf(options.times));
 }
