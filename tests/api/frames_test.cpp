@@ -155,7 +155,7 @@ TEST(RasFrame, KeepsTheLowSixteenBitsOfTheLength) {
   EXPECT_EQ(ras.Bytes(), Octets(sizeof ras.record, 0));
 }
 
-TEST(H245Frame, TellsACompleteMessageFromOneWithOctetsLeftOver) {
+TEST(H245Frame, DistinguishesACompleteMessageFromOneWithOctetsLeftOver) {
   const Octets octets = Hex(kChannel);
   H245 h245;
   EXPECT_EQ(DecodeH245(h245, Buffer(octets)), 1);

@@ -40,7 +40,7 @@ class TraceTest : public testing::Test {
 
 using Traces = std::vector<TraceCall>;
 
-TEST_F(TraceTest, TheReaderTellsItsRefusalsApart) {
+TEST_F(TraceTest, TheReaderDistinguishesItsRefusals) {
   const std::vector<uint8_t> octets = {0xC1, 0x01, 0x02, 0x03, 0x04, 0x05};
   EXPECT_EQ(TracesOf(octets, [](PerReader& r) { PerReadBits(r, 49); }), (Traces{{64, 4, 512, 31, 127}}));
   EXPECT_EQ(TracesOf(octets, [](PerReader& r) { PerReadBits(r, 33); }), (Traces{{64, 4, 512, 31, 134}}));
@@ -75,7 +75,7 @@ TEST_F(TraceTest, WhatFailsOtherwiseIsNotTraced) {
             Traces{});
 }
 
-TEST_F(TraceTest, TheQ931FrameTellsItsEntryAndWhatItLacks) {
+TEST_F(TraceTest, Q931FrameReportsItsEntryAndMissingParts) {
   const TraceCall entry{2, 1, 32768, 38, 0};
   EXPECT_EQ(TracesOf(Family::kQ931, {}), (Traces{entry, {2, 4, 32, 38, 0}}));
   EXPECT_EQ(TracesOf(Family::kQ931, {3, 0, 0, 9, 8, 2, 0, 0, 5}), (Traces{entry, {2, 4, 64, 38, 0}}));

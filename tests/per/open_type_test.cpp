@@ -110,7 +110,7 @@ TEST(OpenType, AnEleventhLevelTakesTheSlotOfTheFirst) {
   EXPECT_EQ(ReadOctet(input.reader), 0xAAu);
 }
 
-TEST(OpenType, GoesOnFromASlotThatAFailureLeftTaken) {
+TEST(OpenType, ContinuesFromASlotLeftTakenByAFailure) {
   Input input(BitWriter().OpenType({1}).OpenType({2, 3}).OpenType({4, 5}).Octets({0x5A}));
   OpenTypeBegin(input.reader);
   ReadOctet(input.reader);

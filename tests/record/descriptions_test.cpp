@@ -411,7 +411,7 @@ const ListedRecord kRecords[] = {
 #undef LIST_RECORD
 };
 
-TEST(DescriptionsTest, TellEveryMemberOfEachRecordInItsPlace) {
+TEST(DescriptionsTest, ReportEveryMemberOfEachRecordInItsPlace) {
   FaultsByRecord known = KnownFaults();
   for (const ListedRecord& record : kRecords) {
     const NameList faults = record.faultsOf({record.alternatives.begin(), record.alternatives.end()});

@@ -55,7 +55,7 @@ class Golden(unittest.TestCase):
         for name, *arguments in (("calls", "--format", "calls"), ("ladder", "--format", "ladder", "--call", "ca06"),
                                  ("stats", "--stats")):
             self.check(f"rare-calls.{name}.txt", "--h245-port", str(rare_calls.UNKNOWN_H245), *arguments,
-                       data=rare_calls.tell())
+                       data=rare_calls.octets())
 
     def test_ladder(self):
         self.check("failed-calls.ladder.txt", "--format", "ladder", "--faulty", FAILED)
@@ -80,7 +80,7 @@ class Bounds(unittest.TestCase):
         data = capture(ethernet(ipv4(17, udp(message))) for message in messages)
         return int(re.search(rb", calls: (\d+)", run("--stats", data=data).stdout)[1])
 
-    def test_oldest_open_call_is_dropped_but_ended_ones_before_it(self):
+    def test_ended_calls_are_dropped_before_the_oldest_open_one(self):
         def asked(number):
             return failed_calls.ARQ.replace(failed_calls.BASE_CALL, (number + 1).to_bytes(16, "big"))
 
@@ -131,7 +131,7 @@ class Filters(unittest.TestCase):
         self.assertEqual(calls("--since", "09:11", "--until", "09:11:00.0"), [6])
         self.assertEqual(calls("--since", "09:11:00.015", "--until", "09:11:00.025"), [6])
         # At that time a call with signalling has nothing but a refused connection.
-        refused = run("--calls", "--since", "08:18:00.1", "--until", "08:18:00.11", data=rare_calls.tell())
+        refused = run("--calls", "--since", "08:18:00.1", "--until", "08:18:00.11", data=rare_calls.octets())
         self.assertEqual(len(refused.stdout.splitlines()), 1)
         for wrong in ("9:17", "-1:17", "24:00", "09:60", "09:17:60", "2026-02-30", "09:17:00x", "", "2026-03-10T"):
             self.assertEqual(run("--since", wrong, FAILED).returncode, 2, wrong)

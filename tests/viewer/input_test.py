@@ -99,7 +99,7 @@ class Files(unittest.TestCase):
         self.assertEqual(sum(line.startswith(names[1].encode() + b": ") for line in lines), 31)
         self.assertNotIn("file", objects(run("--format", "json", data=SAMPLE))[0])
 
-    def test_a_connection_goes_on_in_the_next_file(self):
+    def test_connection_continues_in_the_next_file(self):
         header, *packets = capture_pieces(ethernet(ipv4(6, tcp(*s))) for s in ((1, CALL[:20]), (21, CALL[20:])))
         at_once = packets[0][:8] + packets[1][8:]  # with the same timestamp
         result, names = self.run_on(header + packets[0], header + at_once)

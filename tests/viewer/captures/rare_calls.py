@@ -1,4 +1,4 @@
-"""Makes a capture of what the calls of samples/ do not show. calls_test.py compares the calls that the viewer finds."""
+"""Makes a capture of calls that samples/ does not show; calls_test.py compares what the viewer finds in it."""
 import json
 import os
 import struct
@@ -14,7 +14,7 @@ from failed_calls import (ALICE, BRUNO, CALLED, CALLING, CALL_SIGNALLING, CARLA,
 UNKNOWN_H245 = 30246
 SETUP, CONNECT = (base.without_fast_start(message) for message in (base.SETUP, base.CONNECT))
 
-# RAS messages: their octets, their own requestSeqNum and the octets before it. These are of tests/data.
+# RAS messages of tests/data: their octets, their own requestSeqNum and the number of octets before it.
 ADMISSION_REJECT = ("2c000030", 1, 1)
 BANDWIDTH_REQUEST = ("3100fffe00004120ea7f5c5baa1f82305d5ed5dfb294d8441738b4b38dc6", 65535, 2)
 DISENGAGE_REJECT = ("45fffe50f46c000000", 65535, 1)
@@ -29,7 +29,7 @@ REPORT = ("5a40b9d90840070008914a00027f0265644080fffd4e2d64ff002e40055d7c1a8c030
 RESPONSE = ("5a00fffe018404164e2d00e900414e2d0042ffc52290c60240b14aa233e5fdf71b1989b239d1daf47c30caeaea17465418682"
             "71a45f2cd882ec400000f2a010001000340e3100100", 65535, 2)
 OPEN_ENCRYPTED = "0300873ea0401204080f0002088416403fff1400032b06010008ffff1fff0843028002c451"  # of H.245
-# These are of the sample call.
+# The same of the sample call.
 REGISTRATION, ADMISSION, ADMITTED = (base.RRQ.hex(), 2, 2), (base.ARQ.hex(), 3, 2), (base.ACF.hex(), 3, 2)
 DISENGAGE = (base.DRQ.hex(), 4, 1)
 
@@ -202,7 +202,7 @@ def refused(call):
         Connection(call.capture, (CARLA.host, port), (BRUNO.host, CALL_SIGNALLING)).refused(call.wait(1000))
 
 
-def tell():
+def octets():
     """The octets of the capture."""
     story = base.Story()
     story.capture.in_order = lambda: story.capture.frames  # as the messages were made
