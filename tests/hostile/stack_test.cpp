@@ -9,7 +9,7 @@
 #include "hostile/hostile_messages.h"
 
 // A sanitizer's frames are larger, and partly outside the stack.
-#if !defined(__SANITIZE_ADDRESS__)
+#if !defined(KELVRA_SANITIZED)
 
 namespace kelvra::test {
 namespace {

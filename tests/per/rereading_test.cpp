@@ -18,7 +18,7 @@ void ReadInOpenType(PerReader& reader, uint32_t count) {
 
 TEST(Rereading, IsNoneWhereEachValueEndsWithItsOpenType) {
   Input input(BitWriter().OpenType({1, 2, 3}).OpenType(std::vector<uint8_t>{}).OpenType({4, 5}));
-  for (const uint32_t count : {3, 0, 1}) ReadInOpenType(input.reader, count);
+  for (const uint32_t count : {3u, 0u, 1u}) ReadInOpenType(input.reader, count);
   EXPECT_TRUE(input.AtExactEnd());
   EXPECT_EQ(input.reader.reread, 0U);
 }
