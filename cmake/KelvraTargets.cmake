@@ -50,6 +50,8 @@ function(kelvra_program_options target)
   if(KELVRA_BUILD_TESTS)
     # Test code takes longer to optimize than to run. The library is tested as shipped.
     target_compile_options(${target} PRIVATE -O0 -g1)
+    # GCC would look for garbage as soon as it has loaded the precompiled headers.
+    target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:--param=ggc-min-heapsize=1000000>)
   endif()
 endfunction()
 

@@ -7,7 +7,6 @@
 #include <iterator>
 #include <limits>
 #include <map>
-#include <memory>
 #include <set>
 #include <string>
 #include <vector>
@@ -350,22 +349,22 @@ void CheckListRecord(Record& record, Faults& faults) {
 // The faults of a record whose union has these members.
 template <class Record>
 NameList FaultsOf(const NameList& alternatives) {
-  const auto record = std::make_unique<Record>();
+  Record record = {};
   Faults faults;
   if constexpr (ChoiceOfNulls<Record>) {
     CheckChoiceOfNulls<Record>(faults);
   } else if constexpr (!Described<Record>) {
     if constexpr (ListRecord<Record>) {
-      CheckListRecord(*record, faults);
+      CheckListRecord(record, faults);
     } else if constexpr (!kIsString<Record>) {
       faults.Add("there is no description");
     }
   } else if constexpr (Record::kForm == asn1::TypeForm::kSequence) {
-    CheckSequence(*record, faults);
+    CheckSequence(record, faults);
   } else if constexpr (Record::kForm == asn1::TypeForm::kChoice) {
-    CheckChoice(*record, alternatives, faults);
+    CheckChoice(record, alternatives, faults);
   } else {
-    CheckEnumerated(*record, faults);
+    CheckEnumerated(record, faults);
   }
   return faults.Found();
 }

@@ -8,6 +8,7 @@
 #include <string>
 #include <type_traits>
 #include <typeindex>
+#include <typeinfo>
 #include <utility>
 
 #include "families.h"
@@ -32,14 +33,25 @@ concept HasText = requires(const T& record) {
 
 using NameTable = std::map<std::pair<std::type_index, uint32_t>, std::string>;
 
+struct NamedValue {
+  const std::type_info* type;
+  uint32_t value;
+  const char* name;
+};
+
 // The ASN.1 name of each enumerator.
 const NameTable& Names() {
   using namespace kelvra;
-  static const NameTable names = {
-#define LIST_NAME(record, enumerator, name) {{typeid(record), record::enumerator}, name},
+  static const NamedValue listed[] = {
+#define LIST_NAME(record, enumerator, name) {&typeid(record), record::enumerator, name},
 #include "name_list.inc"
 #undef LIST_NAME
   };
+  static const NameTable names = [] {
+    NameTable table;
+    for (const auto& [type, value, name] : listed) table[{*type, value}] = name;
+    return table;
+  }();
   return names;
 }
 
@@ -51,14 +63,7 @@ class NameCheck : public kelvra::EmptyVisitor {
   template <class R>
   void Check(R& record, const Json& json) {
     if constexpr (HasAlternatives<R>) {
-      const NameTable::key_type alternative(typeid(R), kelvra::AlternativeOf(record));
-      const auto name = Names().find(alternative);
-      if (name != Names().end()) {
-        ASSERT_TRUE(json.is_object() && json.size() == 1) << json;
-        EXPECT_EQ(json.begin().key(), name->second);
-        EXPECT_STREQ(kelvra::NameOf(record), name->second.c_str());
-        seen_.insert(alternative);
-      }
+      CheckName({typeid(R), kelvra::AlternativeOf(record)}, kelvra::NameOf(record), json);
     }
     const Json* outer = std::exchange(json_, &json);
     R::Walk(record, *this);
@@ -67,7 +72,7 @@ class NameCheck : public kelvra::EmptyVisitor {
 
   template <class R>
   void Record(const char* name, R& record) {
-    Check(record, name != nullptr ? At(name) : *element_);
+    Check(record, At(name));
   }
   template <class R>
   void Pointer(const char* name, kelvra::Slot<R> slot) {
@@ -75,7 +80,7 @@ class NameCheck : public kelvra::EmptyVisitor {
   }
   template <class L, class Show>
   void List(const char* name, L list, Show show) {
-    const Json& array = name != nullptr ? At(name) : *element_;
+    const Json& array = At(name);
     size_t index = 0;
     for (auto& element : list) {
       element_ = &array.at(index++);
@@ -91,8 +96,21 @@ class NameCheck : public kelvra::EmptyVisitor {
   }
 
  private:
-  // A list that is a record of its own has a member without a name.
-  const Json& At(const std::string& name) const { return name.empty() ? *json_ : json_->at(name); }
+  // An alternative that is unknown has no name.
+  void CheckName(const NameTable::key_type& alternative, const char* name, const Json& json) {
+    const auto listed = Names().find(alternative);
+    if (listed == Names().end()) return;
+    ASSERT_TRUE(json.is_object() && json.size() == 1) << json;
+    EXPECT_EQ(json.begin().key(), listed->second);
+    EXPECT_STREQ(name, listed->second.c_str());
+    seen_.insert(alternative);
+  }
+
+  // An element has no name. A list that is a record of its own has a member whose name is empty.
+  [[gnu::noinline]] const Json& At(const char* name) const {
+    if (name == nullptr) return *element_;
+    return *name == '\0' ? *json_ : json_->at(name);
+  }
 
   std::set<NameTable::key_type>& seen_;
   const Json* json_ = nullptr;
