@@ -59,7 +59,7 @@ def count(program, workload_file):
 
 
 def print_totals(workloads):
-    print(f"{'workload':24}{'messages':>9}{'octets':>8}{'floor':>9}{'library':>9}{'ratio':>7}   instructions a message")
+    print(f"{'workload':24}{'messages':>9}{'octets':>8}{'floor':>9}{'library':>9}{'ratio':>7}   instructions per message")
     for name, counts in workloads.items():
         messages = counts["messages"]
         print(f"{name:24}{messages:9}{counts['octets'] / messages:8.0f}{counts['floor'] / messages:9.0f}"

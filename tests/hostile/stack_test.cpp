@@ -39,13 +39,17 @@ constexpr uint8_t kPaint = 0xA7;
   return kWatched - unused;
 }
 
-// Keeps the records off the measured stack.
+// Keeps the records off the measured stack, and the dynamic linker, which binds functions at their first call.
 template <class MessageFamily>
 size_t DepthOf(const std::vector<uint8_t>& octets) {
   static typename MessageFamily::Record record;
+  const auto decodeAndRelease = [&octets] {
+    MessageFamily::Decode(&record, octets.data(), octets.size());
+    MessageFamily::Release(&record);
+  };
+  decodeAndRelease();
   Paint();
-  MessageFamily::Decode(&record, octets.data(), octets.size());
-  MessageFamily::Release(&record);
+  decodeAndRelease();
   return Depth();
 }
 

@@ -129,6 +129,7 @@ struct MultiplePayloadStream {
   uint8_t elementsCount;
   MultiplePayloadStreamElement* elements;
   uint32_t isExtended;
+  static constexpr bool kDecodedInPlace = true;
   KELVRA_SEQUENCE
     KELVRA_MEMBER_LIST(elements, SequenceOf(DefinedType()));
     KELVRA_EXTENSION(isExtended);
