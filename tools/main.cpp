@@ -50,7 +50,7 @@ std::unique_ptr<Formatter> MakeFormatter(const Options& options) {
 
 class Printer : public MessageSink {
  public:
-  // With `names_inputs`, each message shows its file.
+  // With `names_inputs`, each message and loss shows its file.
   Printer(std::unique_ptr<Formatter> formatter, bool flushes, bool names_inputs)
       : formatter_(std::move(formatter)), flushes_(flushes), names_inputs_(names_inputs) {}
 
@@ -74,10 +74,10 @@ class Printer : public MessageSink {
     return message.origin ? AnnouncedBy(decoded) : std::vector<Announced>();
   }
 
-  void OnLoss(const std::string& what) override {
+  void OnLoss(const std::string& what, const FileName& file) override {
     any_ = true;
     all_complete_ = false;
-    Complain(what);
+    Complain(names_inputs_ && file ? *file + ": " + what : what);
   }
 
   void OnNotice(const std::string& what) override { Complain(what); }
@@ -118,7 +118,7 @@ class Printer : public MessageSink {
   std::unique_ptr<Formatter> formatter_;
   bool flushes_;
   bool names_inputs_;
-  std::shared_ptr<const std::string> input_;
+  FileName input_;
   std::string text_;
   bool all_complete_ = true;
   bool any_ = false;

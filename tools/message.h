@@ -12,20 +12,23 @@
 
 enum class Family : uint8_t { kRas, kQ931, kH245 };
 
+// Shared, because every message of a file has it.
+using FileName = std::shared_ptr<const std::string>;
+
 // Where in a capture a message was completed.
 struct Origin {
   uint64_t frame = 0;        // from 1
   int64_t microseconds = 0;  // since 1970-01-01 UTC
   Endpoint source;
   Endpoint destination;
-  std::shared_ptr<const std::string> file{};  // the name of the capture
+  FileName file{};  // the capture
 };
 
 struct Message {
   Family family = Family::kRas;
   std::vector<uint8_t> octets;  // for call signalling, with the TPKT header
   std::optional<Origin> origin;
-  std::shared_ptr<const std::string> file{};  // the file of the message; null if there is only one
+  FileName file{};  // null if there is only one
 };
 
 // An address to which a message asks its receiver to open a TCP connection, and what that connection carries.
@@ -41,8 +44,8 @@ class MessageSink {
   virtual void OnInput(const std::string& /*name*/) {}
   // Returns the addresses that the message announces.
   virtual std::vector<Announced> OnMessage(const Message& message) = 0;
-  // Octets that should hold messages could not be split into any.
-  virtual void OnLoss(const std::string& what) = 0;
+  // Octets that should hold messages could not be split into any. `file` is null if more than one file can lack them.
+  virtual void OnLoss(const std::string& what, const FileName& file) = 0;
   // A remark about the whole input; not a loss.
   virtual void OnNotice(const std::string& /*what*/) {}
 

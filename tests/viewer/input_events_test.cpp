@@ -69,7 +69,7 @@ class Recorder : public MessageSink {
     Note("message", *message.origin);
     return announced;
   }
-  void OnLoss(const std::string& what) override { events.push_back("loss " + what); }
+  void OnLoss(const std::string& what, const FileName&) override { events.push_back("loss " + what); }
   void OnNotice(const std::string& what) override { events.push_back("notice " + what); }
   void OnRefusedConnection(const Origin& origin) override { Note("refused", origin); }
   void OnMediaPacket(const Origin& origin, uint8_t payload_type, uint32_t ssrc) override {

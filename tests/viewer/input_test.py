@@ -6,6 +6,7 @@ Usage: input_test.py KELVRA_DUMP [EMULATOR...]
 import gzip
 import json
 import os
+import re
 import queue
 import subprocess
 import sys
@@ -112,6 +113,7 @@ class Files(unittest.TestCase):
         result, names = self.run_on(waiting, SAMPLE)
         self.assertEqual([(o["frame"], o["file"] == names[0]) for o in objects(result) if o["name"] == "releaseComplete"],
                          [(1, True), (48, False), (2, True)])
+        self.assertRegex(result.stderr, re.escape(names[0].encode()) + rb": frame \d+, [^\n]*: segments are missing\n")
 
     def test_a_file_that_cannot_be_read_ends_the_run_after_those_before_it(self):
         result, names = self.run_on(SAMPLE, SAMPLE[:-1], SAMPLE)

@@ -1,5 +1,7 @@
 #include "calls/sections.h"
 
+#include <algorithm>
+
 #include "calls/words.h"
 #include "text/concat.h"
 #include "text/hex.h"
@@ -56,8 +58,10 @@ std::vector<std::string> Times(const Call& call, TimeZone zone) {
 }
 
 std::vector<std::string> Ends(const Call& call) {
+  std::vector<End> ends = call.ends;  // in the order of the capture, which can differ from that of the times
+  std::stable_sort(ends.begin(), ends.end(), [](const End& a, const End& b) { return a.time < b.time; });
   std::vector<std::string> lines;
-  for (const End& end : call.ends) lines.push_back(Concat({Since(call, end.time), "  ", EndText(call, end)}));
+  for (const End& end : ends) lines.push_back(Concat({Since(call, end.time), "  ", EndText(call, end)}));
   if (lines.empty() && call.subject == Subject::kCall) lines.push_back(EndText(call));
   return lines;
 }

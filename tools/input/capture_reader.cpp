@@ -44,7 +44,7 @@ class CaptureReader::Distributor {
 
  private:
   void ReportLoss(const char* what, uint64_t count) {
-    if (count > 0) sink_.OnLoss(what + std::to_string(count));
+    if (count > 0) sink_.OnLoss(what + std::to_string(count), nullptr);
   }
 
   // Returns false if the packet cannot hold signalling.

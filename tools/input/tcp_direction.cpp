@@ -133,5 +133,6 @@ size_t TcpDirection::HeldOctets() const { return stopped_ ? 0 : framer_.Pending(
 
 void TcpDirection::Complain(const std::string& what) {
   sink_.OnLoss("frame " + std::to_string(origin_.frame) + ", " + ToText(origin_.source) + " -> " +
-               ToText(origin_.destination) + ": " + what);
+                   ToText(origin_.destination) + ": " + what,
+               origin_.file);
 }

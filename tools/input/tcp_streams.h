@@ -16,7 +16,7 @@ class AnnouncedAddresses : public MessageSink {
   explicit AnnouncedAddresses(MessageSink& sink) : sink_(sink) {}
 
   std::vector<Announced> OnMessage(const Message& message) override;
-  void OnLoss(const std::string& what) override { sink_.OnLoss(what); }
+  void OnLoss(const std::string& what, const FileName& file) override { sink_.OnLoss(what, file); }
 
   struct Use {
     Family family = Family::kH245;

@@ -84,7 +84,7 @@ struct kelvra_text_capture final : MessageSink {
     waiting_.push_back({KELVRA_TEXT_OK, ToJson(message, decoded)});
     return AnnouncedBy(decoded);
   }
-  void OnLoss(const std::string& what) override { waiting_.push_back({KELVRA_TEXT_LOSS, what}); }
+  void OnLoss(const std::string& what, const FileName&) override { waiting_.push_back({KELVRA_TEXT_LOSS, what}); }
   void OnNotice(const std::string& what) override { waiting_.push_back({KELVRA_TEXT_NOTICE, what}); }
 
  private:
