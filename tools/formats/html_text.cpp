@@ -1,31 +1,33 @@
 #include "formats/html_text.h"
 
-#include <algorithm>
-
 #include "text/utf8.h"
 
 namespace {
 
+// Empty if the character stands for itself.
 std::string_view EntityOf(char character) {
   switch (character) {
     case '&': return "&amp;";
     case '<': return "&lt;";
     case '>': return "&gt;";
     case '"': return "&quot;";
-    default: return "&#39;";
+    case '\'': return "&#39;";
+    default: return {};
   }
 }
 
 }  // namespace
 
 void AppendMarkupEscaped(std::string& html, std::string_view text) {
-  while (true) {
-    const size_t plain = std::min(text.find_first_of("&<>\"'"), text.size());
-    html += text.substr(0, plain);
-    if (plain == text.size()) return;
-    html += EntityOf(text[plain]);
-    text.remove_prefix(plain + 1);
+  size_t appended = 0;
+  for (size_t i = 0; i < text.size(); ++i) {
+    const std::string_view entity = EntityOf(text[i]);
+    if (entity.empty()) continue;
+    html += text.substr(appended, i - appended);
+    html += entity;
+    appended = i + 1;
   }
+  html += text.substr(appended);
 }
 
 std::string Escaped(std::string_view text) {
