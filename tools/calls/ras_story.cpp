@@ -57,7 +57,15 @@ void ForgetRejections(Call& call, const Endpoint& requester) {
                 [&requester](const End& end) { return end.kind == EndKind::kRejected && end.by == requester; });
 }
 
+// A disengage request that is rejected ended nothing.
+void ForgetDisengagement(Call& call, const RasTransaction& request) {
+  std::erase_if(call.ends, [&request](const End& end) {
+    return end.kind == EndKind::kDisengaged && end.by == request.requester && end.time == request.requested;
+  });
+}
+
 void AddOutcome(Call& call, const RasTransaction& transaction, Node body) {
+  if (transaction.request == "disengageRequest" && transaction.isRejected) ForgetDisengagement(call, transaction);
   if (transaction.request == "admissionRequest" && !transaction.isRejected) {
     ForgetRejections(call, transaction.requester);
     AddAddress(ToEndpoint(body["destCallSignalAddress"]), call.called);
