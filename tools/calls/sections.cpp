@@ -61,6 +61,7 @@ std::vector<std::string> Ends(const Call& call) {
   std::vector<End> ends = call.ends;  // in the order of the capture, which can differ from that of the times
   std::stable_sort(ends.begin(), ends.end(), [](const End& a, const End& b) { return a.time < b.time; });
   std::vector<std::string> lines;
+  lines.reserve(ends.size());
   for (const End& end : ends) lines.push_back(Concat({Since(call, end.time), "  ", EndText(call, end)}));
   if (lines.empty() && call.subject == Subject::kCall) lines.push_back(EndText(call));
   return lines;
