@@ -12,8 +12,10 @@ command -v run-clang-tidy >/dev/null || {
   echo "lint: no run-clang-tidy; scripts/setup.sh lint installs it" >&2
   exit 1
 }
-# stderr counts the suppressed warnings of headers.
-if ! run-clang-tidy -quiet -checks=-bugprone-suspicious-include "${shallow[@]}" -p build/lint 2>build/lint/stderr.log; then
+# Findings come last: the list of commands and stderr, which counts the suppressed warnings of headers, would hide them.
+if ! run-clang-tidy -quiet -checks=-bugprone-suspicious-include "${shallow[@]}" -p build/lint \
+  >build/lint/findings.log 2>build/lint/stderr.log; then
   tail -n 20 build/lint/stderr.log >&2
+  grep -v '^clang-tidy' build/lint/findings.log >&2
   exit 1
 fi

@@ -51,11 +51,11 @@ stop_wine() {
 }
 trap stop_wine EXIT
 
+mkdir -p build/test-logs
 results=()
 passed=0 failed=0 skipped=0
 for target in "${targets[@]}"; do
-  log=build/$target/test.log
-  mkdir -p "build/$target"
+  log=build/test-logs/$target.log  # not in the target's folder, which the target may clear
   reason=$(obstacle "$target")
   if [[ -n $reason ]]; then
     skipped=$((skipped + 1))
