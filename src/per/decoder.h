@@ -116,17 +116,25 @@ class ValueReader {
   template <class Place, class Kind>
   [[gnu::always_inline]] Status Read(const char* name, Place&& place, Kind kind) {
     if constexpr (R::kObserves) {
-      const typename R::Component component(r, name, place, kind);
-      return Value(place, kind);
+      return ReadObserved(name, place, kind);
     } else {
       return Value(place, kind);
     }
   }
 
+  // Compiled once per kind and place, not per component: tools can wait, compilers take long.
+  template <class Place, class Kind>
+  [[gnu::noinline]] Status ReadObserved(const char* name, Place& place, Kind kind) {
+    const typename R::Component component(r, name, place, kind);
+    return Value(place, kind);
+  }
+
   // A value in its open type. A failure that propagates leaves its slot in the ring taken.
   template <class Place, class Kind>
   [[gnu::always_inline]] Status ReadOpen(const char* name, Place&& place, Kind kind) {
-    if constexpr (kIsSharedList<Kind> && !R::kObserves) {
+    if constexpr (R::kObserves) {
+      return ReadOpenObserved(name, place, kind);
+    } else if constexpr (kIsSharedList<Kind>) {
       const auto list = ListOf(place);
       return ReadOpenSequenceOf<kReports>(r, Untyped(list), TypeOfElements(list, kind.element));
     } else {
@@ -135,6 +143,11 @@ class ValueReader {
   }
 
  private:
+  template <class Place, class Kind>
+  [[gnu::noinline]] Status ReadOpenObserved(const char* name, Place& place, Kind kind) {
+    return ReadOpenHere(name, place, kind);
+  }
+
   template <class Place, class Kind>
   [[gnu::always_inline]] Status ReadOpenHere(const char* name, Place&& place, Kind kind) {
     OpenTypeBegin(r);
