@@ -110,6 +110,17 @@ NodeData& TreeBuilder::Add(const char* name, NodeKind kind, BitRange bits) {
   return node;
 }
 
+template <class R>
+void TreeBuilder::BuildMessage(R& message) {
+  level_.isChoice = IsChoice<R>();
+  R::Walk(message, *this);
+  Finish(0);
+}
+
+template void TreeBuilder::BuildMessage(kelvra::h225::RasMessageRecord& message);
+template void TreeBuilder::BuildMessage(kelvra::h225::Q931MessageRecord& message);
+template void TreeBuilder::BuildMessage(kelvra::h245::H245MessageRecord& message);
+
 void TreeBuilder::Finish(uint32_t node) { nodes_[node].size = static_cast<uint32_t>(nodes_.size()) - node; }
 
 // Null if the value was not read. A member that the decoder reads without showing it may be unobserved; then it counts

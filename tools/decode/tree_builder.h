@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "decode/tree.h"
+#include "kelvra/kelvra.h"
 #include "kelvra/values.h"
 #include "kelvra/walk.h"
 #include "observer/observer.h"
@@ -61,13 +62,10 @@ class TreeBuilder {
   TreeBuilder(std::vector<NodeData>& nodes, const DecodeLog& log, uint32_t firstBit,
               const FramePlaces* frame = nullptr);
 
-  // Builds the tree of one record. The argument walks it.
-  template <class R>
-  void Build(R& record) {
-    level_.isChoice = IsChoice<R>();
-    R::Walk(record, *this);
-    Finish(0);
-  }
+  // Builds the tree of one message.
+  void Build(kelvra::h225::RasMessageRecord& message) { BuildMessage(message); }
+  void Build(kelvra::h225::Q931MessageRecord& message) { BuildMessage(message); }
+  void Build(kelvra::h245::H245MessageRecord& message) { BuildMessage(message); }
 
   void Number(const char* name, int64_t value);
   void Boolean(const char* name, uint32_t value);
@@ -126,6 +124,9 @@ class TreeBuilder {
     return false;
   }
 
+  // Walks the whole record, which takes long to compile, so only tree_builder.cpp does.
+  template <class R>
+  void BuildMessage(R& message);
   const Entry* Take(const char* name);
   BitRange Placed(BitRange bits) const { return {firstBit_ + bits.first, firstBit_ + bits.end}; }
   bool IsLevelRead() const { return level_.isWhole || (level_.entry != nullptr && level_.entry->isRead); }
