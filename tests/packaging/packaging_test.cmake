@@ -47,7 +47,7 @@ function(use_sources)
     set(fetch ON)
   endif()
   set(options -S ${CMAKE_CURRENT_LIST_DIR}/guest -DKELVRA_SOURCE=${root} -DFETCH=${fetch}
-    -DBUILD_SHARED_LIBS=${SHARED} PARENT_SCOPE)
+    -DBUILD_SHARED_LIBS=${SHARED} -DKELVRA_UNITY=ON PARENT_SCOPE)
   set(ENV{WINEPATH} "${host}/kelvra/bin")
 endfunction()
 
