@@ -1,4 +1,4 @@
-// Compares the names and texts of names.h, alternative.h and text.h with the carried messages.
+// Compares the names of names.h and text.h with those of the carried messages.
 #include <gtest/gtest.h>
 
 #include <cstdint>
@@ -25,10 +25,6 @@ using kelvra::test::Ras;
 template <class T>
 concept HasAlternatives = requires(const T& record) {
   kelvra::AlternativeOf(record);
-};
-template <class T>
-concept HasText = requires(const T& record) {
-  kelvra::TextOf(record);
 };
 
 using NameTable = std::map<std::pair<std::type_index, uint32_t>, std::string>;
@@ -117,19 +113,13 @@ class NameCheck : public kelvra::EmptyVisitor {
   const Json* element_ = nullptr;
 };
 
-// Decodes a buffer of exactly the first `count` octets and what the family wants after them.
-template <class Family>
-void DecodeStart(typename Family::Record& record, const Vector& vector, size_t count) {
-  const ExactBuffer buffer(vector.octets, count, Family::kSpareOctets);
-  Family::Decode(&record, buffer.Data(), buffer.Size());
-}
-
 template <class Family>
 void CheckNames(const std::string& file, std::set<NameTable::key_type>& seen) {
   const auto record = std::make_unique<typename Family::Record>();
   for (const Vector& vector : LoadVectors(file)) {
     SCOPED_TRACE(vector.name);
-    DecodeStart<Family>(*record, vector, vector.octets.size());
+    const ExactBuffer buffer(vector.octets, Family::kSpareOctets);
+    Family::Decode(record.get(), buffer.Data(), buffer.Size());
     NameCheck(seen).Check(*record, vector.expected);
     Family::Release(record.get());
   }
@@ -146,56 +136,6 @@ TEST(Names, AreThoseThatTheDecoderLeadsTo) {
   // The carried messages hold nearly all of the 1,014 names.
   EXPECT_GE(seen.size(), 1000U);
   EXPECT_GE(extensions, 230U);
-}
-
-// Takes every text of a record.
-struct TextVisitor : kelvra::EmptyVisitor {
-  size_t octets = 0;
-
-  void ObjectIdentifier(const char*, const kelvra::ObjectIdentifierValue& value) { Add(kelvra::TextOf(value)); }
-  void WideCharacters(const char*, const kelvra::BMPStringValue& value) { Add(kelvra::TextOf(value)); }
-  void Octets(const char*, kelvra::Slot<uint8_t> slot, uint32_t count, kelvra::OctetNotation notation) {
-    if (notation == kelvra::OctetNotation::kCharacters) Add(kelvra::CharactersOf({count, slot.Get()}));
-    if (notation == kelvra::OctetNotation::kDigits) Add(kelvra::DigitsOf({count, slot.Get()}));
-  }
-  template <class R>
-  void Record(const char*, R& record) {
-    if constexpr (HasText<R>) Add(kelvra::TextOf(record));
-    R::Walk(record, *this);
-  }
-  template <class R>
-  void Pointer(const char* name, kelvra::Slot<R> slot) {
-    if (slot.Get() != nullptr) Record(name, *slot.Get());
-  }
-  template <class L, class Show>
-  void List(const char*, L list, Show show) {
-    for (auto& element : kelvra::ElementsOf(list.Elements().Get(), list.Size())) show(element);
-  }
-  void Add(const std::string& text) { octets += text.size(); }
-};
-
-// Every message, and every remainder of it when cut short, before and after the release.
-template <class Family>
-size_t TextOfCutMessages(const std::string& file) {
-  TextVisitor visitor;
-  const auto record = std::make_unique<typename Family::Record>();
-  for (const Vector& vector : LoadVectors(file)) {
-    for (size_t count = 0; count <= vector.octets.size(); ++count) {
-      DecodeStart<Family>(*record, vector, count);
-      visitor.Record(nullptr, *record);
-      Family::Release(record.get());
-      const size_t before = visitor.octets;
-      visitor.Record(nullptr, *record);
-      EXPECT_EQ(visitor.octets, before) << vector.name << " shows text after its release";
-    }
-  }
-  return visitor.octets;
-}
-
-TEST(Text, OfCutAndReleasedMessagesStaysWithinTheirBlocks) {
-  EXPECT_GT(TextOfCutMessages<Ras>("ras.jsonl"), 0U);
-  EXPECT_GT(TextOfCutMessages<Q931>("q931.jsonl"), 0U);
-  EXPECT_GT(TextOfCutMessages<H245>("h245.jsonl"), 0U);
 }
 
 }  // namespace
