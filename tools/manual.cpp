@@ -29,6 +29,11 @@ constexpr Section kSections[] = {
      "comment. Dumps with offsets (xxd, hexdump -C, packet tools) and C arrays are read too, one message each. Raw "
      "input is one message. Gzip input is unpacked. A call-signalling message starts with its TPKT header; an H.245 "
      "message does not."},
+    {"CALLS",
+     "Messages that share a call identifier, a call reference, a connection or an announced address make a call. A "
+     "call is complete 90 seconds after its end by the times of the capture, or 5 minutes while the gatekeeper still "
+     "counts it as admitted. After 8192 messages a call ends and another begins.\n"
+     "A ladder has at most 64 columns; the last stands for all other hosts."},
     {"EXIT STATUS", kExitStatus},
     {"EXAMPLES",
      "kelvra-dump samples/call.pcap\n"

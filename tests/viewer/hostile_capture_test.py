@@ -154,6 +154,36 @@ class HostileCaptures(unittest.TestCase):
         self.assert_bounded([ethernet(ipv4(17, udp(RAS)))] * 10_000)
 
 
+class EndlessCalls(unittest.TestCase):
+    """A call whose messages do not end, each from another host."""
+    DISENGAGE_REQUEST = bytes.fromhex(
+        "3e00030c0032003100330030005f00650070101112131415161718191a1b1c1d1e1f12672331001100202122232425262728292a2b2c"
+        "2d2e2f09060047004b002d00310100")
+
+    def printed(self, messages, *arguments):
+        frames = []
+        for i in range(messages):
+            packet = ipv4(17, udp(self.DISENGAGE_REQUEST[:1] + struct.pack(">H", i) + self.DISENGAGE_REQUEST[3:]))
+            frames.append(ethernet(packet[:12] + struct.pack(">I", 0x0A000000 + i) + packet[16:]))
+        result = run(*arguments, "-", data=capture(frames))
+        self.assertEqual(result.returncode, 0, result.stderr)
+        return result.stdout.decode("utf-8").splitlines()
+
+    def test_too_many_messages_begin_another_call(self):
+        most = 8192
+        _, first, *others = self.printed(most, "--calls")
+        self.assertIn("10.0.0.0", first)
+        self.assertEqual(others, [])
+        self.assertIn("10.0.32.0", self.printed(most + 1, "--calls")[2])
+
+    def test_too_many_hosts_share_the_last_column(self):
+        for hosts, last in ((62, "10.0.0.61"), (63, "others"), (70, "others")):
+            with self.subTest(hosts=hosts):
+                names, *arrows = self.printed(hosts, "--format", "ladder")[2:]
+                self.assertEqual((len(names.split()), names.split()[-1]), (min(hosts + 1, 64), last))
+                self.assertEqual({len(arrow) for arrow in arrows[:hosts]}, {len(arrows[0])})
+
+
 class HostileText(unittest.TestCase):
     IDENTIFIER = "0047004b002d0031"  # GK-1
 

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -127,7 +128,7 @@ struct Call {
   std::optional<Guid> conference;
   Party caller;  // of other entries: the requester
   Party called;
-  std::vector<Endpoint> endpoints;  // of all messages, each once
+  std::set<Endpoint> endpoints;  // of all messages
   std::vector<RasTransaction> transactions;
   std::vector<Leg> legs;
   std::vector<Step> signalling;

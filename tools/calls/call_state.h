@@ -7,6 +7,7 @@ enum class CallState : uint8_t {
   kOpen,
   kReleased,  // but the gatekeeper still counts it as admitted
   kOver,
+  kFull,  // too many messages for one call
 };
 
 CallState StateOf(const Call& call);

@@ -17,6 +17,8 @@ namespace {
 constexpr int64_t kStaysReleased = 300 * kSecond;
 constexpr int64_t kStaysOver = 90 * kSecond;
 constexpr size_t kMostEntries = 16384;
+// Bounds the memory of a call, and the time to search its lists. What follows begins another call.
+constexpr size_t kMostMessages = 8192;
 // After this time, the same sequence number means a new request.
 constexpr int64_t kRepeatTime = 60 * kSecond;
 
@@ -291,15 +293,16 @@ void CallTracker::IndexMedia(Entry& entry) {
 
 void CallTracker::Touch(Entry& entry, const Origin& origin) {
   entry.call.last = std::max(entry.call.last, origin.microseconds);
-  AddOnce(entry.call.endpoints, origin.source);
-  AddOnce(entry.call.endpoints, origin.destination);
+  entry.call.endpoints.insert({origin.source, origin.destination});
   Entries& from = by_state_[static_cast<size_t>(entry.state)];
-  entry.state = StateOf(entry.call);
+  entry.state = ++entry.messages < kMostMessages ? StateOf(entry.call) : CallState::kFull;
   Entries& to = by_state_[static_cast<size_t>(entry.state)];
   to.splice(to.end(), from, entry.self);
 }
 
 void CallTracker::LetGoBefore(int64_t now) {
+  Entries& full = by_state_[static_cast<size_t>(CallState::kFull)];
+  while (!full.empty()) LetGo(full.front());
   for (const auto& [state, stays] :
        {std::pair(CallState::kOver, kStaysOver), std::pair(CallState::kReleased, kStaysReleased)}) {
     Entries& entries = by_state_[static_cast<size_t>(state)];

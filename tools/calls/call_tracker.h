@@ -35,6 +35,7 @@ class CallTracker {
     Call call;
     CallState state = CallState::kOpen;
     std::vector<CallKey> keys;
+    size_t messages = 0;
     size_t indexed_media = 0;
     Entries::iterator self;
   };
@@ -67,6 +68,6 @@ class CallTracker {
   uint64_t begun_ = 0;
   uint64_t calls_ = 0;
   size_t entries_ = 0;
-  std::array<Entries, 3> by_state_;  // least recently used first
+  std::array<Entries, 4> by_state_;  // least recently used first
   CallIndex<Entry> index_;
 };

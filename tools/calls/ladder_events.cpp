@@ -6,6 +6,8 @@
 
 namespace {
 
+constexpr size_t kMostNamed = 63;
+
 void AddMessage(const Message& message, const DecodedMessage& decoded, bool is_tunnelled,
                 std::vector<LadderEvent>& events) {
   LadderEvent event;
@@ -41,19 +43,24 @@ std::vector<LadderEvent> LadderEventsOf(const Call& call, const Filter& filter) 
   return events;
 }
 
-size_t LadderColumns::IndexOf(const Endpoint& endpoint) const {
-  return static_cast<size_t>(std::find(names.begin(), names.end(), NameOf(endpoint, byPort)) - names.begin());
-}
-
-LadderColumns ColumnsOf(const std::vector<LadderEvent>& events) {
-  LadderColumns columns;
-  columns.byPort = std::all_of(events.begin(), events.end(), [](const LadderEvent& event) {
-    return SameHost(event.origin.source, event.origin.destination);
-  });
+LadderColumns::LadderColumns(const std::vector<LadderEvent>& events)
+    : by_port_(std::all_of(events.begin(), events.end(), [](const LadderEvent& event) {
+        return SameHost(event.origin.source, event.origin.destination);
+      })) {
   for (const LadderEvent& event : events) {
     for (const Endpoint& endpoint : {event.origin.source, event.origin.destination}) {
-      AddOnce(columns.names, NameOf(endpoint, columns.byPort));
+      if (names_.size() > kMostNamed || !indices_.emplace(KeyOf(endpoint), names_.size()).second) continue;
+      names_.push_back(names_.size() < kMostNamed ? NameOf(endpoint, by_port_) : "others");
     }
   }
-  return columns;
+}
+
+size_t LadderColumns::IndexOf(const Endpoint& endpoint) const {
+  const auto known = indices_.find(KeyOf(endpoint));
+  return known == indices_.end() ? kMostNamed : known->second;
+}
+
+Endpoint LadderColumns::KeyOf(Endpoint endpoint) const {
+  if (!by_port_) endpoint.port = 0;
+  return endpoint;
 }

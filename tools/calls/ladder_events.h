@@ -1,7 +1,7 @@
 // Events between the hosts of a call, in order of time.
 #pragma once
 
-#include <optional>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -20,11 +20,18 @@ struct LadderEvent {
 // The messages that pass the filter; tunnelled messages follow their carrier.
 std::vector<LadderEvent> LadderEventsOf(const Call& call, const Filter& filter);
 
-// The columns of a ladder: hosts, or ports if there is only one host.
-struct LadderColumns {
-  std::vector<std::string> names;
-  bool byPort = false;
+// The columns of a ladder: hosts, or ports if there is only one host. The last of too many columns stands for all others.
+class LadderColumns {
+ public:
+  explicit LadderColumns(const std::vector<LadderEvent>& events);
 
+  const std::vector<std::string>& Names() const { return names_; }
   size_t IndexOf(const Endpoint& endpoint) const;
+
+ private:
+  Endpoint KeyOf(Endpoint endpoint) const;
+
+  bool by_port_;
+  std::vector<std::string> names_;
+  std::map<Endpoint, size_t> indices_;
 };
-LadderColumns ColumnsOf(const std::vector<LadderEvent>& events);

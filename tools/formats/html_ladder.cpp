@@ -54,14 +54,14 @@ std::string MessageAnchor(const Call& call, size_t index) {
 }
 
 void AppendSvgLadder(const Call& call, const std::vector<LadderEvent>& events, std::string& html) {
-  const LadderColumns columns = ColumnsOf(events);
-  const size_t width = kLeft + columns.names.size() * kSpacing;
+  const LadderColumns columns(events);
+  const size_t width = kLeft + columns.Names().size() * kSpacing;
   const size_t height = kTop + (events.size() + 1) * kRowHeight;
   html += Concat({"<div class=\"ladder\"><svg role=\"group\" aria-label=\"ladder diagram\" width=\"",
                   std::to_string(width), "\" height=\"", std::to_string(height), "\">\n"});
-  for (size_t i = 0; i < columns.names.size(); ++i) {
+  for (size_t i = 0; i < columns.Names().size(); ++i) {
     const size_t x = kLeft + i * kSpacing;
-    html += Concat({Text(x, kTop - 12, "middle", columns.names[i]), Line(x, kTop, x, height, " class=\"life\""), "\n"});
+    html += Concat({Text(x, kTop - 12, "middle", columns.Names()[i]), Line(x, kTop, x, height, " class=\"life\""), "\n"});
   }
   size_t y = kTop;
   for (const LadderEvent& event : events) {

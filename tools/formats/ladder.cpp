@@ -19,7 +19,7 @@ constexpr size_t kArrowWidth = 6;  // added to the label
 class Diagram {
  public:
   Diagram(const Call& call, std::vector<LadderEvent> events)
-      : call_(call), events_(std::move(events)), columns_(ColumnsOf(events_)), spacing_(Spacing()) {}
+      : call_(call), events_(std::move(events)), columns_(events_), spacing_(Spacing()) {}
 
   void Append(std::string& text) const {
     AppendNames(text);
@@ -33,7 +33,7 @@ class Diagram {
 
   size_t Spacing() const {
     size_t spacing = kLeastSpacing;
-    for (const std::string& name : columns_.names) spacing = std::max(spacing, name.size() + 2);
+    for (const std::string& name : columns_.Names()) spacing = std::max(spacing, name.size() + 2);
     for (const LadderEvent& event : events_) {
       const auto [left, right] = Ends(event);
       const size_t gaps = std::max<size_t>(right - left, 1);
@@ -50,7 +50,7 @@ class Diagram {
 
   void AppendNames(std::string& text) const {
     std::string line(kTimeWidth, ' ');
-    for (const std::string& name : columns_.names) {
+    for (const std::string& name : columns_.Names()) {
       line += name;
       line.append(spacing_ - name.size(), ' ');
     }
@@ -60,9 +60,9 @@ class Diagram {
 
   std::string LifeLines() const {
     std::string line;
-    for (size_t i = 0; i < columns_.names.size(); ++i) {
+    for (size_t i = 0; i < columns_.Names().size(); ++i) {
       line += '|';
-      if (i + 1 < columns_.names.size()) line.append(spacing_ - 1, ' ');
+      if (i + 1 < columns_.Names().size()) line.append(spacing_ - 1, ' ');
     }
     return line;
   }
@@ -80,7 +80,7 @@ class Diagram {
     std::string line = LifeLines();
     const auto [left, right] = Ends(event);
     const std::string label = LabelOf(event);
-    if (left == right) return Concat({line, "  ", label, " (within ", columns_.names[left], ")"});
+    if (left == right) return Concat({line, "  ", label, " (within ", columns_.Names()[left], ")"});
     const size_t start = left * spacing_ + 1;
     const size_t length = (right - left) * spacing_ - 1;
     std::string arrow(length, '-');
