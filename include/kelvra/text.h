@@ -127,7 +127,10 @@ inline std::string TextOf(const ObjectIdentifierValue& value) {
 // An IPv4 address of 4 octets in network order, "192.0.2.1". Empty if the pointer is null.
 inline std::string Ipv4Text(const uint8_t* octets) {
   std::string text;
-  for (const uint8_t octet : ElementsOf(octets, 4)) text += (text.empty() ? "" : ".") + std::to_string(octet);
+  for (const uint8_t octet : ElementsOf(octets, 4)) {
+    if (!text.empty()) text += '.';
+    text += std::to_string(octet);
+  }
   return text;
 }
 

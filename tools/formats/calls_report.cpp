@@ -22,7 +22,7 @@ class CallReport : public Formatter, private CallListener {
   void Print(const Message& message, const DecodedMessage& decoded, std::string& text) override {
     const auto calls = tracker_.OnMessage(message, decoded);
     if (filter_.WantsMessage(message, decoded)) wanted_.insert(calls.begin(), calls.end());
-    text += std::exchange(ready_, {});
+    MoveOnto(text, std::exchange(ready_, {}));
   }
 
   void OnMediaPacket(const Origin& origin, uint8_t payload_type) override {
@@ -33,18 +33,27 @@ class CallReport : public Formatter, private CallListener {
 
   void Finish(std::string& text) override {
     tracker_.Close();
-    for (const auto& waiting : waiting_) ready_ += waiting.second;
+    while (!waiting_.empty()) TakeFirst();
     formatter_->Finish(ready_);
-    text += std::exchange(ready_, {});
+    MoveOnto(text, std::exchange(ready_, {}));
   }
 
  private:
+  // Appends without a copy where it can: a call may take many megabytes of a page.
+  static void MoveOnto(std::string& text, std::string more) {
+    if (text.empty()) {
+      text = std::move(more);
+    } else {
+      text += more;
+    }
+  }
+
   void OnCallEnded(const Call& call) override {
     std::string text;
     if (Wants(call)) formatter_->Print(call, text);
     wanted_.erase(&call);
     if (order_ == CallOrder::kByEnd) {
-      ready_ += text;
+      MoveOnto(ready_, std::move(text));
       return;
     }
     waiting_octets_ += text.size();
@@ -56,7 +65,7 @@ class CallReport : public Formatter, private CallListener {
     auto first = waiting_.extract(waiting_.begin());
     next_ = std::max(next_, first.key() + 1);
     waiting_octets_ -= first.mapped().size();
-    ready_ += first.mapped();
+    MoveOnto(ready_, std::move(first.mapped()));
   }
 
   bool Wants(const Call& call) const {

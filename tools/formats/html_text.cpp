@@ -1,33 +1,37 @@
 #include "formats/html_text.h"
 
+#include <algorithm>
+#include <array>
+#include <cstdint>
+
 #include "text/utf8.h"
 
 namespace {
 
+constexpr auto kEntities = [] {
+  std::array<std::string_view, 256> entities;
+  entities['&'] = "&amp;";
+  entities['<'] = "&lt;";
+  entities['>'] = "&gt;";
+  entities['"'] = "&quot;";
+  entities['\''] = "&#39;";
+  return entities;
+}();
+
 // Empty if the character stands for itself.
-std::string_view EntityOf(char character) {
-  switch (character) {
-    case '&': return "&amp;";
-    case '<': return "&lt;";
-    case '>': return "&gt;";
-    case '"': return "&quot;";
-    case '\'': return "&#39;";
-    default: return {};
-  }
-}
+const std::string_view& EntityOf(char character) { return kEntities[static_cast<uint8_t>(character)]; }
 
 }  // namespace
 
 void AppendMarkupEscaped(std::string& html, std::string_view text) {
-  size_t appended = 0;
-  for (size_t i = 0; i < text.size(); ++i) {
-    const std::string_view entity = EntityOf(text[i]);
-    if (entity.empty()) continue;
-    html += text.substr(appended, i - appended);
-    html += entity;
-    appended = i + 1;
+  const auto is_special = [](char character) { return !EntityOf(character).empty(); };
+  for (auto next = text.begin(); next != text.end();) {
+    const auto special = std::find_if(next, text.end(), is_special);
+    html.append(next, special);
+    if (special == text.end()) return;
+    html += EntityOf(*special);
+    next = special + 1;
   }
-  html += text.substr(appended);
 }
 
 std::string Escaped(std::string_view text) {

@@ -1,6 +1,6 @@
 // One line per member.
 #include <algorithm>
-#include <cstdio>
+#include <array>
 
 #include "decode/message_text.h"
 #include "formats/console_text.h"
@@ -82,14 +82,15 @@ class TreeFormatter : public Formatter {
 
   // "12.3-14.7": first and last bit.
   void AppendPlace(BitRange bits) {
-    std::string place;
+    std::string& text = *text_;
+    const size_t before = text.size();
     if (bits.end > bits.first) {
-      AppendBit(place, bits.first);
-      place += '-';
-      AppendBit(place, bits.end - 1);
+      AppendBit(text, bits.first);
+      text += '-';
+      AppendBit(text, bits.end - 1);
     }
-    place.resize(std::max(place.size() + 1, kGutter), ' ');
-    *text_ += place;
+    const size_t written = text.size() - before;
+    text.append(written < kGutter ? kGutter - written : 1, ' ');
   }
 
   static void AppendBit(std::string& text, uint32_t bit) {
@@ -171,25 +172,29 @@ class TreeFormatter : public Formatter {
   }
 
   void PrintOctets(std::span<const uint8_t> octets) {
-    std::string& text = *text_;
     for (size_t first = 0; first < octets.size(); first += kOctetsInLine) {
-      const auto line = octets.subspan(first, std::min(kOctetsInLine, octets.size() - first));
-      std::string place = std::to_string(first);
-      text.append(place.size() < 6 ? 6 - place.size() : 0, ' ');
-      text += place;
-      text += ' ';
-      for (size_t i = 0; i < kOctetsInLine; ++i) {
-        text += i == kOctetsInLine / 2 ? "  " : " ";
-        if (i < line.size()) {
-          AppendHex(text, line.subspan(i, 1));
-        } else {
-          text += "  ";
-        }
-      }
-      text += "  ";
-      for (const uint8_t octet : line) text += octet >= ' ' && octet <= '~' ? static_cast<char>(octet) : '.';
-      text += '\n';
+      PrintOctetLine(first, octets.subspan(first, std::min(kOctetsInLine, octets.size() - first)));
     }
+  }
+
+  // "    16  00 01 ...  ..": the place of the first octet, all in hexadecimal, and as characters.
+  void PrintOctetLine(size_t first, std::span<const uint8_t> line) {
+    std::array<char, 3 * kOctetsInLine + 1> digits;
+    std::array<char, kOctetsInLine> characters;
+    digits.fill(' ');
+    for (size_t i = 0; i < line.size(); ++i) {
+      WriteHex(&digits[3 * i + (i < kOctetsInLine / 2 ? 1 : 2)], line[i]);
+      characters[i] = line[i] >= ' ' && line[i] <= '~' ? static_cast<char>(line[i]) : '.';
+    }
+    std::string& text = *text_;
+    const std::string place = std::to_string(first);
+    text.append(place.size() < 6 ? 6 - place.size() : 0, ' ');
+    text += place;
+    text += ' ';
+    text.append(digits.data(), digits.size());
+    text += "  ";
+    text.append(characters.data(), line.size());
+    text += '\n';
   }
 
   void PrintTunnelled(const DecodedMessage& tunnelled) {

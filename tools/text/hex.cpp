@@ -24,14 +24,17 @@ std::string ToHex(std::span<const uint8_t> octets) {
 }
 
 void AppendHex(std::string& text, std::span<const uint8_t> octets) {
-  static const char digits[] = "0123456789ABCDEF";
   const size_t before = text.size();
   text.resize(before + 2 * octets.size());
   char* next = text.data() + before;
-  for (const uint8_t octet : octets) {
-    *next++ = digits[octet >> 4];
-    *next++ = digits[octet & 15];
-  }
+  for (const uint8_t octet : octets) next = WriteHex(next, octet);
+}
+
+char* WriteHex(char* place, uint8_t octet) {
+  static const char digits[] = "0123456789ABCDEF";
+  *place++ = digits[octet >> 4];
+  *place++ = digits[octet & 15];
+  return place;
 }
 
 std::vector<uint8_t> FromHex(std::string_view text) {
