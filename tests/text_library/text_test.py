@@ -2,6 +2,7 @@
 """Tests that the C functions of kelvra_text agree with the viewer: text_test.py TEXT_LINES KELVRA_DUMP [EMULATOR...]"""
 import json
 import pathlib
+import re
 import subprocess
 import sys
 import tempfile
@@ -71,7 +72,7 @@ class Captures(unittest.TestCase):
         # Status 1 of the viewer reports incomplete messages and losses.
         self.assertEqual(status, 2 if viewer_status == 2 else 0, errors)
         said = [line.removeprefix("kelvra-dump: ") for line in viewer_errors.splitlines() if "no message found" not in line]
-        heard = [line.removeprefix("loss: ").removeprefix("-3 ") for line in errors.splitlines()]
+        heard = [re.sub("^(loss: |notice: |-3 )", "", line) for line in errors.splitlines()]
         self.assertEqual(heard, said)
         return lines, errors
 
@@ -97,6 +98,11 @@ class Captures(unittest.TestCase):
         octets = octets[:start + 2] + b"\x7f" + octets[start + 3:]  # these octets never arrive
         _, errors = self.assert_same_as_viewer(octets)
         self.assertIn("loss: ", errors)
+
+    def test_a_notice_is_no_loss(self):
+        # Cut after the first segment of a message at an announced address.
+        _, errors = self.assert_same_as_viewer(SAMPLE.read_bytes()[:2139])
+        self.assertRegex(errors, "^loss: .*ends within a message\nnotice: no message was recognised at .*\n$")
 
     def test_further_ports(self):
         # 1719 becomes 1819, which only the option reveals.

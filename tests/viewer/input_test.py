@@ -8,6 +8,7 @@ import json
 import os
 import re
 import queue
+import socket
 import subprocess
 import sys
 import tempfile
@@ -89,6 +90,19 @@ class Files(unittest.TestCase):
                 with open(name, "wb") as file:
                     file.write(content)
             return run(*options, *names), names
+
+    @unittest.skipIf(EMULATED, "a socket of this system shows where each write ends")
+    def test_option_l_writes_each_message_of_a_file_at_once(self):
+        for options, is_at_once in ((("-l",), True), ((), False)):
+            reader, writer = socket.socketpair(socket.AF_UNIX, socket.SOCK_SEQPACKET)
+            with reader, tempfile.NamedTemporaryFile() as file:
+                with writer:
+                    file.write(SAMPLE)
+                    file.flush()
+                    run(*options, "--format", "json", file.name, stdout=writer)
+                writes = list(iter(lambda: reader.recv(1 << 20), b""))
+            self.assertEqual(b"".join(writes).count(b"\n"), 31)
+            self.assertEqual(all(write.find(b"\n") == len(write) - 1 for write in writes), is_at_once)
 
     def test_each_line_names_its_file_and_frames_are_counted_anew(self):
         result, names = self.run_on(SAMPLE, SAMPLE)
