@@ -1,8 +1,8 @@
 # Builds and runs programs that use the library as another project would:
-#   cmake -DHOW=installed|subdirectory|fetched -DBUILD=... -DWORK=... [-DSHARED=...] [-DTOOLCHAIN=...] [-DEMULATOR=...]
+#   cmake -DHOW=installed|subdirectory|fetched -DBUILD=... -DWORK=... [-DTOOLCHAIN=...] [-DEMULATOR=...]
 #     -P packaging_test.cmake
 #
-# BUILD is the build that is installed, WORK a folder of the test's own, SHARED what the project sets BUILD_SHARED_LIBS to.
+# BUILD is the build that is installed, WORK a folder of the test's own.
 set(host ${WORK}/host)
 
 function(run)
@@ -47,8 +47,19 @@ function(use_sources)
     set(fetch ON)
   endif()
   set(options -S ${CMAKE_CURRENT_LIST_DIR}/guest -DKELVRA_SOURCE=${root} -DFETCH=${fetch}
-    -DBUILD_SHARED_LIBS=${SHARED} -DKELVRA_UNITY=ON PARENT_SCOPE)
+    -DKELVRA_UNITY=ON PARENT_SCOPE)
   set(ENV{WINEPATH} "${host}/kelvra/bin")
+endfunction()
+
+function(build_and_run_programs)
+  run(${CMAKE_COMMAND} --build ${host})
+  file(GLOB programs ${host}/bin/*)
+  if(NOT programs)
+    message(FATAL_ERROR "No program was built in ${host}")
+  endif()
+  foreach(program IN LISTS programs)
+    run(${EMULATOR} ${program})
+  endforeach()
 endfunction()
 
 file(REMOVE_RECURSE ${WORK})
@@ -60,8 +71,8 @@ endif()
 if(TOOLCHAIN)
   list(APPEND options -DCMAKE_TOOLCHAIN_FILE=${TOOLCHAIN})
 endif()
-run(${CMAKE_COMMAND} -G Ninja -B ${host} ${options})
-run(${CMAKE_COMMAND} --build ${host})
+run(${CMAKE_COMMAND} -G Ninja -B ${host} -DBUILD_SHARED_LIBS=ON ${options})
+build_and_run_programs()
 
 # A guest is not installed, and writes only to its own folder.
 if(NOT HOW STREQUAL installed)
@@ -75,10 +86,17 @@ if(NOT HOW STREQUAL installed)
   endif()
 endif()
 
-file(GLOB programs ${host}/bin/*)
-if(NOT programs)
-  message(FATAL_ERROR "No program was built in ${host}")
+# Linked again, without the shared library.
+if(NOT HOW STREQUAL installed)
+  file(GLOB_RECURSE shared ${host}/libkelvra.so* ${host}/kelvra.dll)
+  if(NOT shared)
+    message(FATAL_ERROR "BUILD_SHARED_LIBS is on, but no shared library was built")
+  endif()
+  file(REMOVE_RECURSE ${shared} ${host}/bin)
+  run(${CMAKE_COMMAND} -DBUILD_SHARED_LIBS=OFF ${host})
+  build_and_run_programs()
+  file(GLOB_RECURSE shared ${host}/libkelvra.so* ${host}/kelvra.dll)
+  if(shared)
+    message(FATAL_ERROR "BUILD_SHARED_LIBS is off, but a shared library was built")
+  endif()
 endif()
-foreach(program IN LISTS programs)
-  run(${EMULATOR} ${program})
-endforeach()
