@@ -20,9 +20,6 @@ function(_kelvra_common target)
     # The runtime that a C program gets lacks what the library, which is C++, needs of it.
     set_target_properties(${target} PROPERTIES LINKER_LANGUAGE CXX)
   endif()
-  if(KELVRA_FUZZ)
-    target_compile_options(${target} PRIVATE -fsanitize=fuzzer-no-link)
-  endif()
   if(WIN32)
     # A plain Windows has none of the compiler's libraries.
     target_link_options(${target} PRIVATE -static -static-libgcc -static-libstdc++)
@@ -34,6 +31,10 @@ endfunction()
 function(kelvra_library_options target)
   _kelvra_common(${target})
   target_compile_options(${target} PRIVATE -fno-exceptions -fno-rtti)
+  if(KELVRA_FUZZ)
+    # Fuzzers look for inputs that reach new code of the library.
+    target_compile_options(${target} PRIVATE -fsanitize=fuzzer-no-link)
+  endif()
   set_target_properties(${target} PROPERTIES
     CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON
     POSITION_INDEPENDENT_CODE ON)

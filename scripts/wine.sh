@@ -22,6 +22,12 @@ start_server() {
   fi
 }
 
+# Reads the machine type in the PE header.
+is_64_bit() {
+  local header
+  header=$(od -An -tu4 -j60 -N4 "$1" 2>/dev/null) && [[ $(od -An -tx2 -j$((header + 4)) -N2 "$1") == " 8664" ]]
+}
+
 mkdir -p "$WINEPREFIX"
 # Only one of several parallel programs may start it.
 exec 9>"$WINEPREFIX.lock"
@@ -29,4 +35,9 @@ flock 9
 start_server 9>&-
 exec 9>&-
 
-exec wine "$@"
+# Debian's `wine` starts a 64-bit program through the 32-bit loader, which takes four times as long.
+loader=/usr/lib/wine/wine64
+if ! [[ -x $loader ]] || ! is_64_bit "$1"; then
+  loader=wine
+fi
+exec "$loader" "$@"

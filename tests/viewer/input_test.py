@@ -15,14 +15,12 @@ import tempfile
 import threading
 import unittest
 
-from viewer_test import (COMMAND, EMULATED, GATEKEEPER_CONFIRM, RELEASE_COMPLETE, SAMPLE, capture_pieces, ethernet,
-                         ipv4, objects, run, tcp, udp)
+from viewer_test import (COMMAND, EMULATED, GATEKEEPER_CONFIRM, RELEASE_COMPLETE, SAMPLE, SANITIZED, capture_pieces,
+                         ethernet, ipv4, objects, run, tcp, udp)
 
 RAS = bytes.fromhex(GATEKEEPER_CONFIRM)
 CALL = bytes.fromhex(RELEASE_COMPLETE)
 MOST_SECONDS = 30  # for an answer on a busy machine
-with open(sys.argv[1], "rb") as program:
-    SANITIZED = b"__asan_init" in program.read()
 
 
 class Conversation:
