@@ -182,6 +182,12 @@ class EndlessCalls(unittest.TestCase):
                 names, *arrows = self.printed(hosts, "--format", "ladder")[2:]
                 self.assertEqual((len(names.split()), names.split()[-1]), (min(hosts + 1, 64), last))
                 self.assertEqual({len(arrow) for arrow in arrows[:hosts]}, {len(arrows[0])})
+                self.assertTrue(arrows[hosts - 1].endswith("-|"))
+
+    def test_a_call_is_found_by_any_of_its_hosts(self):
+        for host, calls in (("10.0.0.1", 1), ("192.0.2.2", 1), ("192.0.2.3", 0)):
+            _, *lines = self.printed(2, "--calls", "--party", host)
+            self.assertEqual(len(lines), calls, host)
 
 
 class HostileText(unittest.TestCase):
