@@ -6,6 +6,7 @@
 
 namespace {
 
+// Columns with a name of their own.
 constexpr size_t kMostNamed = 63;
 
 void AddMessage(const Message& message, const DecodedMessage& decoded, bool is_tunnelled,
@@ -49,8 +50,9 @@ LadderColumns::LadderColumns(const std::vector<LadderEvent>& events)
       })) {
   for (const LadderEvent& event : events) {
     for (const Endpoint& endpoint : {event.origin.source, event.origin.destination}) {
-      if (names_.size() > kMostNamed || !indices_.emplace(KeyOf(endpoint), names_.size()).second) continue;
-      names_.push_back(names_.size() < kMostNamed ? NameOf(endpoint, by_port_) : "others");
+      if (names_.size() > kMostNamed) return;
+      const bool is_new = indices_.emplace(KeyOf(endpoint), names_.size()).second;
+      if (is_new) names_.push_back(names_.size() < kMostNamed ? NameOf(endpoint, by_port_) : "others");
     }
   }
 }

@@ -19,7 +19,7 @@ constexpr auto kEntities = [] {
 }();
 
 // Empty if the character stands for itself.
-const std::string_view& EntityOf(char character) { return kEntities[static_cast<uint8_t>(character)]; }
+std::string_view EntityOf(char character) { return kEntities[static_cast<uint8_t>(character)]; }
 
 }  // namespace
 
