@@ -16,7 +16,7 @@ class RecordsTest(unittest.TestCase):
         cls.made = records.made_files()
 
     def test_generated_files_match_the_headers(self):
-        self.assertEqual(records.check(self.made), 0, "see above")
+        self.assertEqual(records.check(self.made), 0, "the differences are printed above")
 
     def test_a_file_that_does_not_match_is_refused(self):
         for path, (before, after) in {
