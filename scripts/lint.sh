@@ -15,8 +15,8 @@ command -v run-clang-tidy >/dev/null || {
 # Findings come last: the list of commands and stderr, which counts the suppressed warnings of headers, would hide them.
 # The observed decoders are the plain ones compiled again: their first unit is enough.
 files='^(?!.*/kelvra_observer\.dir/Unity/unity_[1-9])'
-if ! run-clang-tidy -quiet -checks=-bugprone-suspicious-include "${shallow[@]}" -p build/lint "$files" \
-  >build/lint/findings.log 2>build/lint/stderr.log; then
+if ! run-clang-tidy -quiet -j "${CMAKE_BUILD_PARALLEL_LEVEL:-$(nproc)}" -checks=-bugprone-suspicious-include \
+  "${shallow[@]}" -p build/lint "$files" >build/lint/findings.log 2>build/lint/stderr.log; then
   tail -n 20 build/lint/stderr.log >&2
   grep -v '^clang-tidy' build/lint/findings.log >&2
   exit 1

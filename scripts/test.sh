@@ -4,11 +4,13 @@
 #
 #   scripts/test.sh [TARGET...]
 #
-# Ends with one line per target and a count. Fails if a target failed, and in CI also if one was skipped.
+# Two targets run at once, each with half of the processors: many steps of a target cannot use more than one. Ends with
+# one line per target and a count. Fails if a target failed, and in CI also if one was skipped.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
-all_targets=(lint windows-x86 linux-x86 linux-x64 windows-x64 linux-x64-asan linux-x86-asan
+# The longest first, so that both halves end at about the same time.
+all_targets=(linux-x64 windows-x86 linux-x64-asan windows-x64 linux-x86-asan linux-x86 lint
   linux-x64-tsan dist)
 targets=("$@")
 [[ $# -gt 0 ]] || targets=("${all_targets[@]}")
@@ -30,18 +32,58 @@ have() {
   [[ "$(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null)" == installed ]]
 }
 
+# Where the target's output goes; not in its folder, which it may clear.
+log_of() {
+  echo "build/test-logs/$1.log"
+}
+
 run_target() {
-  if [[ $1 == lint ]]; then
-    scripts/lint.sh
+  case $1 in
+    lint) scripts/lint.sh ;;
+    dist) scripts/dist.sh --of-tests && tests/packaging/dist_test.sh build/dist ;;
+    *) cmake --preset "$1" && cmake --build --preset "$1" && ctest --preset "$1" --parallel "$CTEST_PARALLEL_LEVEL" ;;
+  esac
+}
+
+# The packages are made of what other targets have built.
+must_wait() {
+  [[ $1 == dist && " ${target_of[*]} " =~ \ (linux-x64|windows-x86|windows-x64)\  ]]
+}
+
+declare -A started=() target_of=()  # by target; by the process that runs it
+passed=0 failed=0 skipped=0
+results=()
+
+start() {
+  local reason
+  reason=$(obstacle "$1")
+  if [[ -n $reason ]]; then
+    skipped=$((skipped + 1))
+    results+=("$1: skipped: $reason")
     return
   fi
-  if [[ $1 == dist ]]; then
-    scripts/dist.sh --of-tests && tests/packaging/dist_test.sh build/dist
-    return
+  printf '== %s\n' "$1"
+  started[$1]=$SECONDS
+  run_target "$1" >"$(log_of "$1")" 2>&1 &
+  target_of[$!]=$1
+}
+
+finish_one() {
+  local process target status=0
+  wait -n -p process "${!target_of[@]}" || status=$?
+  target=${target_of[$process]}
+  unset "target_of[$process]"
+  if [[ $status -eq 0 ]]; then
+    passed=$((passed + 1))
+    results+=("$target: passed")
+  else
+    failed=$((failed + 1))
+    results+=("$target: failed (see $(log_of "$target"))")
+    tail -n 60 "$(log_of "$target")"
   fi
-  cmake --preset "$1" &&
-    cmake --build --preset "$1" --parallel "$(nproc)" &&
-    ctest --preset "$1"
+  printf -- '-- %s took %d s' "$target" "$((SECONDS - started[$target]))"
+  sed -nE 's/^([0-9]+% tests passed.*)/: \1/p' "$(log_of "$target")" | tr -d '\n'
+  printf '\n'
 }
 
 stop_wine() {
@@ -56,29 +98,14 @@ mkdir -p build/test-logs
 if [[ " ${targets[*]} " == *" windows-"* ]] && command -v wine >/dev/null; then
   scripts/wine.sh hostname >build/test-logs/wine.log 2>&1 &
 fi
-results=()
-passed=0 failed=0 skipped=0
+processors=$(nproc)
+at_once=$((processors > 1 && ${#targets[@]} > 1 ? 2 : 1))
+export CMAKE_BUILD_PARALLEL_LEVEL=$((processors / at_once)) CTEST_PARALLEL_LEVEL=$((processors / at_once))
 for target in "${targets[@]}"; do
-  log=build/test-logs/$target.log  # not in the target's folder, which the target may clear
-  reason=$(obstacle "$target")
-  if [[ -n $reason ]]; then
-    skipped=$((skipped + 1))
-    results+=("$target: skipped: $reason")
-    continue
-  fi
-  printf '== %s\n' "$target"
-  started=$SECONDS
-  if run_target "$target" >"$log" 2>&1; then
-    passed=$((passed + 1))
-    results+=("$target: passed")
-    grep -E '^[0-9]+% tests passed' "$log" || true
-  else
-    failed=$((failed + 1))
-    results+=("$target: failed (see $log)")
-    tail -n 60 "$log"
-  fi
-  printf -- '-- %s took %d s\n' "$target" "$((SECONDS - started))"
+  while [[ ${#target_of[@]} -ge $at_once ]] || must_wait "$target"; do finish_one; done
+  start "$target"
 done
+while [[ ${#target_of[@]} -gt 0 ]]; do finish_one; done
 
 printf '\n'
 printf '%s\n' "${results[@]}"
