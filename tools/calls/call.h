@@ -107,6 +107,18 @@ struct MediaAddress {
   std::map<uint8_t, uint64_t> packets;  // by payload type
 };
 
+// A message, or one that it tunnels, in a ladder.
+struct MessageLine {
+  std::string title;  // "Setup (setup)"
+  std::string fault;  // why it is incomplete, or why the library refuses it
+  bool isMalformed = false;
+};
+
+struct CallMessage {
+  Message message;
+  std::vector<MessageLine> lines;  // its own, then those of the messages that it tunnels
+};
+
 struct MalformedMessage {
   Origin origin;
   std::string title;
@@ -140,7 +152,7 @@ struct Call {
   std::vector<Origin> refusedConnections;
   std::vector<MalformedMessage> malformed;
   std::vector<std::string> remarks;  // contradictions and rejected H.245 requests
-  std::vector<Message> messages;     // if they are kept
+  std::vector<CallMessage> messages;  // those that are kept
 
   // The leg that began the call; null if there is none.
   const Leg* FirstLeg() const { return legs.empty() ? nullptr : &legs.front(); }

@@ -66,9 +66,20 @@ void AddMalformed(Call& call, const Origin& origin, const DecodedMessage& messag
   for (const DecodedMessage& tunnelled : message.tunnelled) AddMalformed(call, origin, tunnelled);
 }
 
+void AddLines(const DecodedMessage& decoded, std::vector<MessageLine>& lines) {
+  lines.push_back({MessageTitle(decoded), FaultText(decoded), !decoded.IsComplete()});
+  for (const DecodedMessage& tunnelled : decoded.tunnelled) AddLines(tunnelled, lines);
+}
+
+void Keep(const Message& message, const DecodedMessage& decoded, Call& call) {
+  CallMessage& kept = call.messages.emplace_back();
+  kept.message = message;
+  AddLines(decoded, kept.lines);
+}
+
 }  // namespace
 
-std::vector<const Call*> CallTracker::OnMessage(const Message& message, const DecodedMessage& decoded) {
+std::vector<const Call*> CallTracker::OnMessage(const Message& message, const DecodedMessage& decoded, bool is_kept) {
   const Origin origin = message.origin.value_or(Origin());
   LetGoBefore(origin.microseconds);
   std::vector<Entry*> entries{&Assign(origin, decoded)};
@@ -78,7 +89,7 @@ std::vector<const Call*> CallTracker::OnMessage(const Message& message, const De
   AddMalformed(entries.front()->call, origin, decoded);
   std::vector<const Call*> calls;
   for (Entry* entry : entries) {
-    if (keeps_messages_) entry->call.messages.push_back(message);
+    if (is_kept) Keep(message, decoded, entry->call);
     Touch(*entry, origin);
     calls.push_back(&entry->call);
   }

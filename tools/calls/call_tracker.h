@@ -19,10 +19,10 @@ class CallListener {
 
 class CallTracker {
  public:
-  CallTracker(CallListener& listener, bool keeps_messages) : listener_(listener), keeps_messages_(keeps_messages) {}
+  explicit CallTracker(CallListener& listener) : listener_(listener) {}
 
-  // Returns the calls, or entries outside calls, that the message belongs to: usually one.
-  std::vector<const Call*> OnMessage(const Message& message, const DecodedMessage& decoded);
+  // Returns the calls, or entries outside calls, that the message belongs to: usually one. They keep it if `is_kept`.
+  std::vector<const Call*> OnMessage(const Message& message, const DecodedMessage& decoded, bool is_kept);
   void OnMediaPacket(const Origin& origin, uint8_t payload_type);
   void OnRefusedConnection(const Origin& origin);
   // Ends every call.
@@ -64,7 +64,6 @@ class CallTracker {
   void KeepBounds();
 
   CallListener& listener_;
-  bool keeps_messages_;
   uint64_t begun_ = 0;
   uint64_t calls_ = 0;
   size_t entries_ = 0;

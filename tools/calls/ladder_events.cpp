@@ -2,24 +2,17 @@
 
 #include <algorithm>
 
-#include "decode/message_text.h"
-
 namespace {
 
 // Columns with a name of their own.
 constexpr size_t kMostNamed = 63;
 
-void AddMessage(const Message& message, const DecodedMessage& decoded, bool is_tunnelled,
-                std::vector<LadderEvent>& events) {
-  LadderEvent event;
-  event.origin = message.origin.value_or(Origin());
-  event.label = MessageTitle(decoded);
-  event.fault = FaultText(decoded);
-  event.isMalformed = !decoded.IsComplete();
-  event.message = &message;
-  event.isTunnelled = is_tunnelled;
-  events.push_back(std::move(event));
-  for (const DecodedMessage& tunnelled : decoded.tunnelled) AddMessage(message, tunnelled, true, events);
+void AddMessage(const CallMessage& message, std::vector<LadderEvent>& events) {
+  const Origin origin = message.message.origin.value_or(Origin());
+  for (const MessageLine& line : message.lines) {
+    const bool is_tunnelled = &line != &message.lines.front();
+    events.push_back({origin, line.title, line.fault, line.isMalformed, &message, is_tunnelled});
+  }
 }
 
 std::string NameOf(const Endpoint& endpoint, bool by_port) {
@@ -31,10 +24,7 @@ std::string NameOf(const Endpoint& endpoint, bool by_port) {
 
 std::vector<LadderEvent> LadderEventsOf(const Call& call, const Filter& filter) {
   std::vector<LadderEvent> events;
-  for (const Message& message : call.messages) {
-    const DecodedMessage decoded = DecodeMessage(message.family, message.octets);
-    if (filter.WantsMessage(message, decoded)) AddMessage(message, decoded, false, events);
-  }
+  for (const CallMessage& message : call.messages) AddMessage(message, events);
   for (const Origin& refused : call.refusedConnections) {
     if (filter.WantsConnection(refused)) events.push_back({refused, "connection refused", {}, false, nullptr, false});
   }

@@ -3,21 +3,24 @@
 
 #include <map>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "calls/call.h"
 #include "calls/filter.h"
 
+// Points into the call.
 struct LadderEvent {
   Origin origin;
-  std::string label;  // "Setup (setup)"
-  std::string fault;  // why the message is incomplete, or why the library refuses it
+  std::string_view label;  // "Setup (setup)"
+  std::string_view fault;  // as in MessageLine
   bool isMalformed = false;
-  const Message* message = nullptr;  // null for a refused connection; the carrier of a tunnelled message
+  const CallMessage* message = nullptr;  // null for a refused connection; the carrier of a tunnelled message
   bool isTunnelled = false;
 };
 
-// The messages that pass the filter; tunnelled messages follow their carrier.
+// The messages that the call has kept, each followed by those that it tunnels, and the refused connections that pass the
+// filter.
 std::vector<LadderEvent> LadderEventsOf(const Call& call, const Filter& filter);
 
 // The columns of a ladder: hosts, or ports if there is only one host. The last of too many columns stands for all others.

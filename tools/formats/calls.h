@@ -11,7 +11,7 @@
 class CallFormatter {
  public:
   virtual ~CallFormatter() = default;
-  // True if it prints messages, so calls must keep theirs.
+  // True if it prints the wanted messages of a call, which must keep them.
   virtual bool NeedsMessages() const { return false; }
   // Each appends to the text.
   virtual void Begin(std::string& /*text*/) {}

@@ -15,13 +15,14 @@ constexpr size_t kMostWaitingOctets = 0x4000000;
 class CallReport : public Formatter, private CallListener {
  public:
   CallReport(std::unique_ptr<CallFormatter> formatter, const Filter& filter, CallOrder order)
-      : formatter_(std::move(formatter)), filter_(filter), order_(order), tracker_(*this, formatter_->NeedsMessages()) {
+      : formatter_(std::move(formatter)), filter_(filter), order_(order), tracker_(*this) {
     formatter_->Begin(ready_);
   }
 
   void Print(const Message& message, const DecodedMessage& decoded, std::string& text) override {
-    const auto calls = tracker_.OnMessage(message, decoded);
-    if (filter_.WantsMessage(message, decoded)) wanted_.insert(calls.begin(), calls.end());
+    const bool is_wanted = filter_.WantsMessage(message, decoded);
+    const auto calls = tracker_.OnMessage(message, decoded, is_wanted && formatter_->NeedsMessages());
+    if (is_wanted) wanted_.insert(calls.begin(), calls.end());
     MoveOnto(text, std::exchange(ready_, {}));
   }
 

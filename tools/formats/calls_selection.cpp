@@ -12,7 +12,7 @@ class Selection : public Formatter, private CallListener {
   Selection(std::unique_ptr<Formatter> formatter, const Filter& filter)
       : formatter_(std::move(formatter)),
         filter_(filter),
-        tracker_(*this, false),
+        tracker_(*this),
         held_(filter,
               [this](const Message& message) { PrintNow(message, DecodeMessage(message.family, message.octets)); }) {}
 
@@ -21,7 +21,7 @@ class Selection : public Formatter, private CallListener {
     if (!filter_.SelectsCalls()) {
       if (is_wanted) PrintNow(message, decoded);
     } else {
-      const auto calls = tracker_.OnMessage(message, decoded);
+      const auto calls = tracker_.OnMessage(message, decoded, false);
       held_.Add(message, calls, is_wanted);
     }
     text += std::exchange(ready_, {});

@@ -22,11 +22,11 @@ class Html : public CallFormatter {
 
   void Print(const Call& call, std::string& html) override {
     const auto faults = Faults(call);
-    html +=
-        Concat({"<tbody", faults.empty() ? "" : " data-faulty", call.subject == Subject::kOther ? " data-outside" : "",
-                " data-identifier=\"", IdentifierAttribute(call), "\">\n"});
+    Append(html,
+           {"<tbody", faults.empty() ? "" : " data-faulty", call.subject == Subject::kOther ? " data-outside" : "",
+            " data-identifier=\"", IdentifierAttribute(call), "\">\n"});
     AppendRow(call, faults, html);
-    html += Concat({"<tr id=\"", DetailId(call), "\" hidden><td colspan=\"8\">\n"});
+    Append(html, {"<tr id=\"", DetailId(call), "\" hidden><td colspan=\"8\">\n"});
     for (const Section& section : SectionsOf(call, zone_)) AppendSection(section, html);
     const auto events = LadderEventsOf(call, filter_);
     AppendSvgLadder(call, events, html);
@@ -64,38 +64,38 @@ class Html : public CallFormatter {
   void AppendRow(const Call& call, const std::vector<std::string>& faults, std::string& html) const {
     const Leg* leg = call.FirstLeg();
     const bool is_call = call.subject == Subject::kCall;
-    html += Concat({"<tr class=\"row\"><td data-value=\"", std::to_string(call.number),
-                    "\"><button class=\"open\" aria-expanded=\"false\" aria-controls=\"", DetailId(call), "\">",
-                    is_call ? std::to_string(call.number) : "RAS", "</button></td>"});
-    html += Concat({Cell(IsoTime(call.first, zone_)), Cell(PartyText(call.caller)), Cell(PartyText(call.called))});
+    Append(html, {"<tr class=\"row\"><td data-value=\"", std::to_string(call.number),
+                  "\"><button class=\"open\" aria-expanded=\"false\" aria-controls=\"", DetailId(call), "\">",
+                  is_call ? std::to_string(call.number) : "RAS", "</button></td>"});
+    Append(html, {Cell(IsoTime(call.first, zone_)), Cell(PartyText(call.caller)), Cell(PartyText(call.called))});
     html += TimeCell(leg != nullptr ? leg->SetupTime() : std::nullopt);
     html += TimeCell(leg != nullptr ? leg->Duration() : std::nullopt);
-    html += Concat({Cell(EndText(call)), "<td class=\"fault\">", Escaped(Joined(faults, "; ")), "</td></tr>\n"});
+    Append(html, {Cell(EndText(call)), "<td class=\"fault\">", Escaped(Joined(faults, "; ")), "</td></tr>\n"});
   }
 
   static void AppendSection(const Section& section, std::string& html) {
     const char* kind = section.title == "faults" ? " class=\"fault\"" : "";
-    html += Concat({"<h2>", section.title, "</h2>\n<ul", kind, ">\n"});
-    for (const std::string& line : section.lines) html += Concat({"<li>", Escaped(line), "</li>\n"});
+    Append(html, {"<h2>", section.title, "</h2>\n<ul", kind, ">\n"});
+    for (const std::string& line : section.lines) Append(html, {"<li>", Escaped(line), "</li>\n"});
     html += "</ul>\n";
   }
 
   void AppendMessage(const Call& call, const LadderEvent& event, std::string& html) {
-    const auto index = static_cast<size_t>(event.message - call.messages.data());
-    html += Concat({"<details id=\"", MessageAnchor(call, index), "\"><summary",
-                    event.isMalformed ? " class=\"fault\"" : "", ">",
-                    Escaped(Concat({Since(call, event.origin.microseconds), "  ", ToText(event.origin.source), " -> ",
-                                    ToText(event.origin.destination), "  ", event.label,
-                                    event.fault.empty() ? "" : "  ! ", event.fault})),
-                    "</summary><pre>"});
-    AppendTree(*event.message, html);
+    Append(html, {"<details id=\"", MessageAnchor(call, *event.message), "\"><summary",
+                  event.isMalformed ? " class=\"fault\"" : "", ">", Since(call, event.origin.microseconds), "  ",
+                  ToText(event.origin.source), " -&gt; ", ToText(event.origin.destination), "  "});
+    AppendEscaped(html, event.label);
+    if (!event.fault.empty()) html += "  ! ";
+    AppendEscaped(html, event.fault);
+    html += "</summary><pre>";
+    AppendTree(event.message->message, html);
     html += "</pre></details>\n";
   }
 
   void AppendTree(const Message& message, std::string& html) {
     tree_.clear();
     trees_->Print(message, DecodeMessage(message.family, message.octets), tree_);
-    AppendMarkupEscaped(html, tree_);
+    AppendMarkup(html, tree_);
   }
 
   const Filter& filter_;

@@ -13,8 +13,6 @@ constexpr auto kEntities = [] {
   entities['&'] = "&amp;";
   entities['<'] = "&lt;";
   entities['>'] = "&gt;";
-  entities['"'] = "&quot;";
-  entities['\''] = "&#39;";
   return entities;
 }();
 
@@ -23,7 +21,7 @@ std::string_view EntityOf(char character) { return kEntities[static_cast<uint8_t
 
 }  // namespace
 
-void AppendMarkupEscaped(std::string& html, std::string_view text) {
+void AppendMarkup(std::string& html, std::string_view text) {
   const auto is_special = [](char character) { return !EntityOf(character).empty(); };
   for (auto next = text.begin(); next != text.end();) {
     const auto special = std::find_if(next, text.end(), is_special);
@@ -34,8 +32,10 @@ void AppendMarkupEscaped(std::string& html, std::string_view text) {
   }
 }
 
+void AppendEscaped(std::string& html, std::string_view text) { AppendMarkup(html, Printable(text)); }
+
 std::string Escaped(std::string_view text) {
   std::string escaped;
-  AppendMarkupEscaped(escaped, Printable(text));
+  AppendEscaped(escaped, text);
   return escaped;
 }

@@ -4,8 +4,9 @@
 #include <string>
 #include <string_view>
 
-// Escapes everything special to HTML, also inside attributes.
-void AppendMarkupEscaped(std::string& html, std::string_view text);
+// Escapes what is special between tags; not for attributes, in which quotes are special too.
+void AppendMarkup(std::string& html, std::string_view text);
 
 // Also escapes the control characters, line feeds included.
+void AppendEscaped(std::string& html, std::string_view text);
 std::string Escaped(std::string_view text);

@@ -51,12 +51,15 @@ std::string ResponsesText(const std::map<std::string, Responses>& responses) {
 
 class StatisticsReport : public Formatter, private CallListener {
  public:
-  explicit StatisticsReport(const Filter& filter) : filter_(filter), tracker_(*this, filter.SelectsCalls()) {}
+  explicit StatisticsReport(const Filter& filter) : filter_(filter), tracker_(*this) {}
 
   void Print(const Message& message, const DecodedMessage& decoded, std::string& /*text*/) override {
-    if (!filter_.SelectsCalls()) Count(message, decoded);
-    const auto calls = tracker_.OnMessage(message, decoded);
-    if (filter_.WantsMessage(message, decoded)) wanted_.insert(calls.begin(), calls.end());
+    const bool is_wanted = filter_.WantsMessage(message, decoded);
+    const bool is_counted = is_wanted && (!filter_.faulty || IsFaulty(decoded));
+    // Whether its calls are selected may not be known yet.
+    if (is_counted && !filter_.SelectsCalls()) statistics_.Add(decoded);
+    const auto calls = tracker_.OnMessage(message, decoded, is_counted && filter_.SelectsCalls());
+    if (is_wanted) wanted_.insert(calls.begin(), calls.end());
   }
 
   void OnMediaPacket(const Origin& origin, uint8_t payload_type) override {
@@ -80,16 +83,11 @@ class StatisticsReport : public Formatter, private CallListener {
   }
 
  private:
-  void Count(const Message& message, const DecodedMessage& decoded) {
-    if (filter_.faulty && !IsFaulty(decoded)) return;
-    if (filter_.WantsMessage(message, decoded)) statistics_.Add(decoded);
-  }
-
   void OnCallEnded(const Call& call) override {
     if (wanted_.erase(&call) == 0 || filter_.WantsCall(call) != Wanted::kYes) return;
     if (filter_.faulty && Faults(call).empty()) return;
     statistics_.Add(call);
-    for (const Message& message : call.messages) Count(message, DecodeMessage(message.family, message.octets));
+    for (const auto& [message, lines] : call.messages) statistics_.Add(DecodeMessage(message.family, message.octets));
   }
 
   const Filter& filter_;

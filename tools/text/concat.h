@@ -5,11 +5,15 @@
 #include <string>
 #include <string_view>
 
+inline void Append(std::string& text, std::initializer_list<std::string_view> parts) {
+  for (const std::string_view part : parts) text += part;
+}
+
 inline std::string Concat(std::initializer_list<std::string_view> parts) {
   size_t size = 0;
   for (const std::string_view part : parts) size += part.size();
   std::string text;
   text.reserve(size);
-  for (const std::string_view part : parts) text += part;
+  Append(text, parts);
   return text;
 }
