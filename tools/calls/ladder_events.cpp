@@ -8,10 +8,11 @@ namespace {
 constexpr size_t kMostNamed = 63;
 
 void AddMessage(const CallMessage& message, std::vector<LadderEvent>& events) {
-  const Origin origin = message.message.origin.value_or(Origin());
+  static const Origin kNone;
+  const Origin& origin = message.message.origin ? *message.message.origin : kNone;
   for (const MessageLine& line : message.lines) {
     const bool is_tunnelled = &line != &message.lines.front();
-    events.push_back({origin, line.title, line.fault, line.isMalformed, &message, is_tunnelled});
+    events.push_back({&origin, line.title, line.fault, line.isMalformed, &message, is_tunnelled});
   }
 }
 
@@ -26,20 +27,20 @@ std::vector<LadderEvent> LadderEventsOf(const Call& call, const Filter& filter) 
   std::vector<LadderEvent> events;
   for (const CallMessage& message : call.messages) AddMessage(message, events);
   for (const Origin& refused : call.refusedConnections) {
-    if (filter.WantsConnection(refused)) events.push_back({refused, "connection refused", {}, false, nullptr, false});
+    if (filter.WantsConnection(refused)) events.push_back({&refused, "connection refused", {}, false, nullptr, false});
   }
   std::stable_sort(events.begin(), events.end(), [](const LadderEvent& a, const LadderEvent& b) {
-    return a.origin.microseconds < b.origin.microseconds;
+    return a.origin->microseconds < b.origin->microseconds;
   });
   return events;
 }
 
 LadderColumns::LadderColumns(const std::vector<LadderEvent>& events)
     : by_port_(std::all_of(events.begin(), events.end(), [](const LadderEvent& event) {
-        return SameHost(event.origin.source, event.origin.destination);
+        return SameHost(event.origin->source, event.origin->destination);
       })) {
   for (const LadderEvent& event : events) {
-    for (const Endpoint& endpoint : {event.origin.source, event.origin.destination}) {
+    for (const Endpoint& endpoint : {event.origin->source, event.origin->destination}) {
       if (names_.size() > kMostNamed) return;
       const bool is_new = indices_.emplace(KeyOf(endpoint), names_.size()).second;
       if (is_new) names_.push_back(names_.size() < kMostNamed ? NameOf(endpoint, by_port_) : "others");

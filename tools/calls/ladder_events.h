@@ -11,7 +11,7 @@
 
 // Points into the call.
 struct LadderEvent {
-  Origin origin;
+  const Origin* origin = nullptr;
   std::string_view label;  // "Setup (setup)"
   std::string_view fault;  // as in MessageLine
   bool isMalformed = false;

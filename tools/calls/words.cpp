@@ -90,9 +90,10 @@ std::string Milliseconds(int64_t microseconds) { return std::to_string(Rounded(m
 
 std::string Seconds(int64_t microseconds) {
   const int64_t milliseconds = Rounded(microseconds);
-  const std::string fraction = std::to_string(1000 + std::abs(milliseconds % 1000)).substr(1);
-  const char* sign = milliseconds < 0 ? "-" : "";
-  return Concat({sign, std::to_string(std::abs(milliseconds / 1000)), ".", fraction, " s"});
+  std::string digits = std::to_string(std::abs(milliseconds));
+  if (digits.size() < 4) digits.insert(0, 4 - digits.size(), '0');
+  digits.insert(digits.size() - 3, 1, '.');
+  return Concat({milliseconds < 0 ? "-" : "", digits, " s"});
 }
 
 std::string Since(const Call& call, int64_t time) {

@@ -6,8 +6,16 @@
 
 namespace {
 
-std::optional<Endpoint> EndpointOf(Node host, Node port) {
-  if (!host.Is(NodeKind::kOctets) || !port.Is(NodeKind::kNumber)) return std::nullopt;
+// Most names already differ in their first character.
+bool IsNamed(const char* name, std::string_view wanted) {
+  return *name == wanted.front() && std::string_view(name) == wanted;
+}
+
+std::optional<Endpoint> EndpointIn(Node address, std::string_view host_name, std::string_view port_name) {
+  const Node host = address[host_name];
+  if (!host.Is(NodeKind::kOctets)) return std::nullopt;
+  const Node port = address[port_name];
+  if (!port.Is(NodeKind::kNumber)) return std::nullopt;
   const auto octets = host.Octets();
   if (octets.size() != 4 && octets.size() != 16) return std::nullopt;
   return MakeEndpoint(octets, static_cast<uint16_t>(*port.Number()));
@@ -17,7 +25,7 @@ std::optional<Endpoint> EndpointOf(Node host, Node port) {
 
 Node Node::operator[](std::string_view member) const {
   for (const Node child : *this) {
-    if (child.Name() == member) return child;
+    if (IsNamed(child.data_->name, member)) return child;
   }
   return {};
 }
@@ -98,7 +106,7 @@ void Node::AppendText(std::string& text) const {
 }
 
 std::optional<Endpoint> ToEndpoint(Node address) {
-  if (auto endpoint = EndpointOf(address["ip"], address["port"])) return endpoint;
-  if (auto endpoint = EndpointOf(address["network"], address["tsapIdentifier"])) return endpoint;
+  if (auto endpoint = EndpointIn(address, "ip", "port")) return endpoint;
+  if (auto endpoint = EndpointIn(address, "network", "tsapIdentifier")) return endpoint;
   return address.Is(NodeKind::kRecord) && address.Count() == 1 ? ToEndpoint(address.Chosen()) : std::nullopt;
 }

@@ -78,7 +78,7 @@ TreeBuilder::TreeBuilder(std::vector<NodeData>& nodes, const DecodeLog& log, uin
                          const FramePlaces* frame)
     : nodes_(nodes), entries_(log.Entries().data()), firstBit_(firstBit), frame_(frame) {
   const auto count = static_cast<uint32_t>(log.Entries().size());
-  nodes_.reserve(count + 32);  // alternatives that are empty have a node and no entry
+  nodes_.reserve(count + count / 4 + 2);  // alternatives that are empty have a node and no entry
   level_.end = count;
   level_.isFrame = frame != nullptr;
   if (!level_.isFrame && count > 0) {

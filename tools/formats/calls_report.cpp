@@ -19,11 +19,15 @@ class CallReport : public Formatter, private CallListener {
     formatter_->Begin(ready_);
   }
 
+  CallReport(const CallReport&) = delete;
+  CallReport& operator=(const CallReport&) = delete;
+
   void Print(const Message& message, const DecodedMessage& decoded, std::string& text) override {
-    const bool is_wanted = filter_.WantsMessage(message, decoded);
-    const auto calls = tracker_.OnMessage(message, decoded, is_wanted && formatter_->NeedsMessages());
-    if (is_wanted) wanted_.insert(calls.begin(), calls.end());
-    MoveOnto(text, std::exchange(ready_, {}));
+    PrintInto(text, [&] {
+      const bool is_wanted = filter_.WantsMessage(message, decoded);
+      const auto calls = tracker_.OnMessage(message, decoded, is_wanted && formatter_->NeedsMessages());
+      if (is_wanted) wanted_.insert(calls.begin(), calls.end());
+    });
   }
 
   void OnMediaPacket(const Origin& origin, uint8_t payload_type) override {
@@ -33,40 +37,43 @@ class CallReport : public Formatter, private CallListener {
   void OnRefusedConnection(const Origin& origin) override { tracker_.OnRefusedConnection(origin); }
 
   void Finish(std::string& text) override {
-    tracker_.Close();
-    while (!waiting_.empty()) TakeFirst();
-    formatter_->Finish(ready_);
-    MoveOnto(text, std::exchange(ready_, {}));
+    PrintInto(text, [&] {
+      tracker_.Close();
+      while (!waiting_.empty()) TakeFirst();
+      formatter_->Finish(text);
+    });
   }
 
  private:
-  // Appends without a copy where it can: a call may take many megabytes of a page.
-  static void MoveOnto(std::string& text, std::string more) {
-    if (text.empty()) {
-      text = std::move(more);
-    } else {
-      text += more;
-    }
+  // Runs `action` with calls that end meanwhile printed straight into the text: a call may take many megabytes of a page.
+  template <class Action>
+  void PrintInto(std::string& text, Action action) {
+    text += std::exchange(ready_, {});
+    output_ = &text;
+    action();
+    output_ = &ready_;
   }
 
   void OnCallEnded(const Call& call) override {
-    std::string text;
+    const bool is_next = order_ == CallOrder::kByEnd || call.order == next_;
+    std::string late;
+    std::string& text = is_next ? *output_ : late;
     if (Wants(call)) formatter_->Print(call, text);
     wanted_.erase(&call);
-    if (order_ == CallOrder::kByEnd) {
-      MoveOnto(ready_, std::move(text));
-      return;
+    if (is_next) {
+      next_ = call.order + 1;
+    } else {
+      waiting_octets_ += late.size();
+      waiting_.emplace(call.order, std::move(late));
     }
-    waiting_octets_ += text.size();
-    waiting_.emplace(call.order, std::move(text));
     while (!waiting_.empty() && (waiting_.begin()->first <= next_ || waiting_octets_ > kMostWaitingOctets)) TakeFirst();
   }
 
   void TakeFirst() {
-    auto first = waiting_.extract(waiting_.begin());
+    const auto first = waiting_.extract(waiting_.begin());
     next_ = std::max(next_, first.key() + 1);
     waiting_octets_ -= first.mapped().size();
-    MoveOnto(ready_, std::move(first.mapped()));
+    *output_ += first.mapped();
   }
 
   bool Wants(const Call& call) const {
@@ -91,7 +98,8 @@ class CallReport : public Formatter, private CallListener {
   std::map<uint64_t, std::string> waiting_;
   size_t waiting_octets_ = 0;
   uint64_t next_ = 0;  // the next call in order
-  std::string ready_;
+  std::string ready_;  // what was printed between messages
+  std::string* output_ = &ready_;
 };
 
 }  // namespace

@@ -82,8 +82,8 @@ class Html : public CallFormatter {
 
   void AppendMessage(const Call& call, const LadderEvent& event, std::string& html) {
     Append(html, {"<details id=\"", MessageAnchor(call, *event.message), "\"><summary",
-                  event.isMalformed ? " class=\"fault\"" : "", ">", Since(call, event.origin.microseconds), "  ",
-                  ToText(event.origin.source), " -&gt; ", ToText(event.origin.destination), "  "});
+                  event.isMalformed ? " class=\"fault\"" : "", ">", Since(call, event.origin->microseconds), "  ",
+                  ToText(event.origin->source), " -> ", ToText(event.origin->destination), "  "});
     AppendEscaped(html, event.label);
     if (!event.fault.empty()) html += "  ! ";
     AppendEscaped(html, event.fault);

@@ -1,7 +1,5 @@
 #include "formats/html_ladder.h"
 
-#include <initializer_list>
-
 #include "calls/words.h"
 #include "formats/html_text.h"
 #include "text/concat.h"
@@ -14,39 +12,34 @@ constexpr size_t kTop = 30;
 constexpr size_t kRowHeight = 32;
 constexpr size_t kHead = 8;
 
-void AppendLine(size_t x1, size_t y1, size_t x2, size_t y2, std::string_view attributes, std::string& html) {
-  Append(html, {"<line x1=\"", std::to_string(x1), "\" y1=\"", std::to_string(y1), "\" x2=\"", std::to_string(x2),
-                "\" y2=\"", std::to_string(y2), "\"", attributes, "/>"});
+size_t Place(size_t column) { return kLeft + column * kSpacing; }
+
+// What stands before a label: an arrow, unless both ends are in one column. The row is at y = 0.
+void AppendArrow(size_t source, size_t destination, std::string& html) {
+  if (source == destination) {
+    Append(html, {"<text class=\"within\" x=\"", std::to_string(Place(source) + kHead), "\" y=\"-5\">"});
+    return;
+  }
+  const std::string from = std::to_string(Place(source));
+  const std::string to = std::to_string(Place(destination));
+  const std::string back = std::to_string(source < destination ? Place(destination) - kHead : Place(destination) + kHead);
+  const std::string middle = std::to_string((Place(source) + Place(destination)) / 2);
+  Append(html, {"<line x1=\"", from, "\" x2=\"", to, "\"/><polygon points=\"", to, ",0 ", back, ",-4 ", back,
+                ",4\"/><text x=\"", middle, "\" y=\"-5\">"});
 }
 
-void AppendText(size_t x, size_t y, std::string_view anchor, std::initializer_list<std::string_view> parts,
-                std::string& html) {
-  Append(html, {"<text x=\"", std::to_string(x), "\" y=\"", std::to_string(y), "\" text-anchor=\"", anchor, "\">"});
-  for (const std::string_view part : parts) AppendEscaped(html, part);
-  html += "</text>";
-}
-
-void AppendHead(size_t x, size_t y, bool points_right, std::string& html) {
-  const std::string back = std::to_string(points_right ? x - kHead : x + kHead);
-  Append(html, {"<polygon points=\"", std::to_string(x), ",", std::to_string(y), " ", back, ",",
-                std::to_string(y - kHead / 2), " ", back, ",", std::to_string(y + kHead / 2), "\"/>"});
-}
-
-// If both ends are in one column, only the label.
-void AppendArrow(size_t source, size_t destination, size_t y, std::initializer_list<std::string_view> label,
-                 std::string& html) {
-  const size_t from = kLeft + source * kSpacing;
-  const size_t to = kLeft + destination * kSpacing;
-  if (from == to) return AppendText(from + kHead, y - 5, "start", label, html);
-  AppendLine(from, y, to, y, "", html);
-  AppendHead(to, y, from < to, html);
-  AppendText((from + to) / 2, y - 5, "middle", label, html);
-}
-
-// Makes the whole row clickable.
-void AppendGround(size_t y, size_t width, std::string& html) {
-  Append(html, {"<rect y=\"", std::to_string(y - kRowHeight / 2), "\" width=\"", std::to_string(width), "\" height=\"",
-                std::to_string(kRowHeight), "\" fill=\"transparent\"/>"});
+void AppendRow(const Call& call, const LadderEvent& event, const LadderColumns& columns, size_t y, std::string& html) {
+  const bool is_message = event.message != nullptr;
+  const char* kind = event.isMalformed || !is_message ? " class=\"fault\"" : "";
+  const std::string link = is_message ? Concat({"a href=\"#", MessageAnchor(call, *event.message), "\""}) : "g";
+  // The rectangle, of kRowHeight, makes the whole row clickable.
+  Append(html, {"<", link, kind, " transform=\"translate(0,", std::to_string(y),
+                ")\"><rect y=\"-16\" width=\"100%\" height=\"32\"/><text class=\"time\" x=\"90\">",
+                Since(call, event.origin->microseconds), "</text>"});
+  AppendArrow(columns.IndexOf(event.origin->source), columns.IndexOf(event.origin->destination), html);
+  if (event.isTunnelled) html += "+ ";
+  AppendEscaped(html, event.label);
+  Append(html, {event.isMalformed ? " !" : "", "</text></", is_message ? "a" : "g", ">\n"});
 }
 
 }  // namespace
@@ -57,31 +50,18 @@ std::string MessageAnchor(const Call& call, const CallMessage& message) {
 
 void AppendSvgLadder(const Call& call, const std::vector<LadderEvent>& events, std::string& html) {
   const LadderColumns columns(events);
-  const size_t width = kLeft + columns.Names().size() * kSpacing;
+  const size_t width = Place(columns.Names().size());
   const size_t height = kTop + (events.size() + 1) * kRowHeight;
   Append(html, {"<div class=\"ladder\"><svg role=\"group\" aria-label=\"ladder diagram\" width=\"",
                 std::to_string(width), "\" height=\"", std::to_string(height), "\">\n"});
+  const std::string top = std::to_string(kTop);
+  const std::string bottom = std::to_string(height);
   for (size_t i = 0; i < columns.Names().size(); ++i) {
-    const size_t x = kLeft + i * kSpacing;
-    AppendText(x, kTop - 12, "middle", {columns.Names()[i]}, html);
-    AppendLine(x, kTop, x, height, " class=\"life\"", html);
-    html += '\n';
+    const std::string x = std::to_string(Place(i));
+    Append(html, {"<text x=\"", x, "\" y=\"18\">", columns.Names()[i], "</text><line class=\"life\" x1=\"", x,
+                  "\" y1=\"", top, "\" x2=\"", x, "\" y2=\"", bottom, "\"/>\n"});
   }
   size_t y = kTop;
-  for (const LadderEvent& event : events) {
-    y += kRowHeight;
-    const bool is_message = event.message != nullptr;
-    const char* kind = event.isMalformed || !is_message ? " class=\"fault\"" : "";
-    if (is_message) {
-      Append(html, {"<a href=\"#", MessageAnchor(call, *event.message), "\"", kind, ">"});
-    } else {
-      Append(html, {"<g", kind, ">"});
-    }
-    AppendGround(y, width, html);
-    AppendText(kLeft - 80, y, "end", {Since(call, event.origin.microseconds)}, html);
-    AppendArrow(columns.IndexOf(event.origin.source), columns.IndexOf(event.origin.destination), y,
-                {event.isTunnelled ? "+ " : "", event.label, event.isMalformed ? " !" : ""}, html);
-    html += is_message ? "</a>\n" : "</g>\n";
-  }
+  for (const LadderEvent& event : events) AppendRow(call, event, columns, y += kRowHeight, html);
   html += "</svg></div>\n";
 }

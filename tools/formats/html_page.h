@@ -28,7 +28,10 @@ h2 { font-size: 1em; margin: .8rem 0 .2rem; }
 ul { margin: 0; padding-left: 1.2rem; }
 pre { overflow-x: auto; margin: .3rem 0 .8rem; }
 .ladder { overflow-x: auto; }
-svg text { fill: CanvasText; font-size: 12px; }
+svg text { fill: CanvasText; font-size: 12px; text-anchor: middle; }
+svg .time { text-anchor: end; }
+svg .within { text-anchor: start; }
+svg rect { fill: transparent; }
 svg line { stroke: CanvasText; }
 svg polygon { fill: CanvasText; }
 svg .life { stroke: var(--line); }

@@ -1,34 +1,25 @@
 #include "formats/html_text.h"
 
 #include <algorithm>
-#include <array>
-#include <cstdint>
 
 #include "text/utf8.h"
 
-namespace {
-
-constexpr auto kEntities = [] {
-  std::array<std::string_view, 256> entities;
-  entities['&'] = "&amp;";
-  entities['<'] = "&lt;";
-  entities['>'] = "&gt;";
-  return entities;
-}();
-
-// Empty if the character stands for itself.
-std::string_view EntityOf(char character) { return kEntities[static_cast<uint8_t>(character)]; }
-
-}  // namespace
-
+// Finding one character at a time is many times faster than looking at each.
 void AppendMarkup(std::string& html, std::string_view text) {
-  const auto is_special = [](char character) { return !EntityOf(character).empty(); };
-  for (auto next = text.begin(); next != text.end();) {
-    const auto special = std::find_if(next, text.end(), is_special);
-    html.append(next, special);
-    if (special == text.end()) return;
-    html += EntityOf(*special);
-    next = special + 1;
+  size_t ampersand = text.find('&');
+  size_t bracket = text.find('<');
+  for (size_t done = 0;;) {
+    const size_t special = std::min(ampersand, bracket);
+    html += text.substr(done, special - done);
+    if (special == std::string_view::npos) return;
+    done = special + 1;
+    if (special == ampersand) {
+      html += "&amp;";
+      ampersand = text.find('&', done);
+    } else {
+      html += "&lt;";
+      bracket = text.find('<', done);
+    }
   }
 }
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-// Escapes what is special between tags; not for attributes, in which quotes are special too.
+// Escapes what is special between tags; attributes would need more.
 void AppendMarkup(std::string& html, std::string_view text);
 
 // Also escapes the control characters, line feeds included.

@@ -43,8 +43,8 @@ class Diagram {
   }
 
   std::pair<size_t, size_t> Ends(const LadderEvent& event) const {
-    const size_t source = columns_.IndexOf(event.origin.source);
-    const size_t destination = columns_.IndexOf(event.origin.destination);
+    const size_t source = columns_.IndexOf(event.origin->source);
+    const size_t destination = columns_.IndexOf(event.origin->destination);
     return std::minmax(source, destination);
   }
 
@@ -68,7 +68,7 @@ class Diagram {
   }
 
   void AppendEvent(const LadderEvent& event, std::string& text) const {
-    std::string line = Since(call_, event.origin.microseconds);
+    std::string line = Since(call_, event.origin->microseconds);
     line.insert(0, kTimeWidth - 2 - std::min(kTimeWidth - 2, line.size()), ' ');
     text += Concat({line, "  ", ArrowLine(event), "\n"});
     if (!event.fault.empty()) {
@@ -85,7 +85,7 @@ class Diagram {
     const size_t length = (right - left) * spacing_ - 1;
     std::string arrow(length, '-');
     arrow.replace((length - label.size()) / 2 - 1, label.size() + 2, Concat({" ", label, " "}));
-    const bool points_right = columns_.IndexOf(event.origin.source) == left;
+    const bool points_right = columns_.IndexOf(event.origin->source) == left;
     const char head = event.message == nullptr ? 'X' : points_right ? '>' : '<';
     arrow[points_right ? length - 1 : 0] = head;
     return line.replace(start, length, arrow);

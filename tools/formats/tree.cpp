@@ -1,6 +1,7 @@
 // One line per member.
 #include <algorithm>
 #include <array>
+#include <charconv>
 
 #include "decode/message_text.h"
 #include "formats/console_text.h"
@@ -37,6 +38,7 @@ class TreeFormatter : public Formatter {
 
  private:
   static constexpr size_t kGutter = 16;
+  static constexpr size_t kLongestPlace = 2 * sizeof "536870911.7";
   static constexpr size_t kOctetsInLine = 16;
 
   void PrintHeader(const Message& message, const DecodedMessage& decoded) {
@@ -82,21 +84,22 @@ class TreeFormatter : public Formatter {
 
   // "12.3-14.7": first and last bit.
   void AppendPlace(BitRange bits) {
-    std::string& text = *text_;
-    const size_t before = text.size();
+    std::array<char, kLongestPlace + 1> place;
+    place.fill(' ');
+    char* end = place.data();
     if (bits.end > bits.first) {
-      AppendBit(text, bits.first);
-      text += '-';
-      AppendBit(text, bits.end - 1);
+      end = WriteBit(end, bits.first);
+      *end++ = '-';
+      end = WriteBit(end, bits.end - 1);
     }
-    const size_t written = text.size() - before;
-    text.append(written < kGutter ? kGutter - written : 1, ' ');
+    text_->append(place.data(), std::max<size_t>(kGutter, static_cast<size_t>(end - place.data()) + 1));
   }
 
-  static void AppendBit(std::string& text, uint32_t bit) {
-    AppendNumber(text, bit / 8);
-    text += '.';
-    text += static_cast<char>('0' + bit % 8);
+  static char* WriteBit(char* place, uint32_t bit) {
+    place = std::to_chars(place, place + kLongestPlace, bit / 8).ptr;
+    *place++ = '.';
+    *place++ = static_cast<char>('0' + bit % 8);
+    return place;
   }
 
   // `before` precedes the name.

@@ -5,6 +5,7 @@
 
 #include "kelvra/text.h"
 #include "text/concat.h"
+#include "text/number.h"
 
 Endpoint MakeEndpoint(std::span<const uint8_t> address, uint16_t port) {
   if (address.size() != 4 && address.size() != 16) throw std::invalid_argument("address size");
@@ -16,7 +17,9 @@ Endpoint MakeEndpoint(std::span<const uint8_t> address, uint16_t port) {
 }
 
 std::string ToText(const Endpoint& endpoint) {
-  const std::string port = std::to_string(endpoint.port);
-  return endpoint.v6 ? Concat({"[", kelvra::Ipv6Text(endpoint.address.data()), "]:", port})
-                     : Concat({kelvra::Ipv4Text(endpoint.address.data()), ":", port});
+  std::string text = endpoint.v6 ? Concat({"[", kelvra::Ipv6Text(endpoint.address.data()), "]"})
+                                 : kelvra::Ipv4Text(endpoint.address.data());
+  text += ':';
+  AppendNumber(text, endpoint.port);
+  return text;
 }
