@@ -151,7 +151,7 @@ struct Call {
   std::vector<MediaAddress> media;
   std::vector<Origin> refusedConnections;
   std::vector<MalformedMessage> malformed;
-  std::vector<std::string> remarks;  // contradictions and rejected H.245 requests
+  std::vector<std::string> remarks;   // contradictions and rejected H.245 requests
   std::vector<CallMessage> messages;  // those that are kept
 
   // The leg that began the call; null if there is none.

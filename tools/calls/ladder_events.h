@@ -19,11 +19,12 @@ struct LadderEvent {
   bool isTunnelled = false;
 };
 
-// The messages that the call has kept, each followed by those that it tunnels, and the refused connections that pass the
-// filter.
+// The messages that the call has kept, each followed by those that it tunnels, and the refused connections that the
+// filter wants.
 std::vector<LadderEvent> LadderEventsOf(const Call& call, const Filter& filter);
 
-// The columns of a ladder: hosts, or ports if there is only one host. The last of too many columns stands for all others.
+// The columns of a ladder: hosts, or ports if there is only one host. The last of too many columns stands for all
+// others.
 class LadderColumns {
  public:
   explicit LadderColumns(const std::vector<LadderEvent>& events);

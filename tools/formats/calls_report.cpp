@@ -45,7 +45,8 @@ class CallReport : public Formatter, private CallListener {
   }
 
  private:
-  // Runs `action` with calls that end meanwhile printed straight into the text: a call may take many megabytes of a page.
+  // Runs `action` with calls that end meanwhile printed straight into the text: a call may take many megabytes of a
+  // page.
   template <class Action>
   void PrintInto(std::string& text, Action action) {
     text += std::exchange(ready_, {});

@@ -22,7 +22,8 @@ void AppendArrow(size_t source, size_t destination, std::string& html) {
   }
   const std::string from = std::to_string(Place(source));
   const std::string to = std::to_string(Place(destination));
-  const std::string back = std::to_string(source < destination ? Place(destination) - kHead : Place(destination) + kHead);
+  const std::string back =
+      std::to_string(source < destination ? Place(destination) - kHead : Place(destination) + kHead);
   const std::string middle = std::to_string((Place(source) + Place(destination)) / 2);
   Append(html, {"<line x1=\"", from, "\" x2=\"", to, "\"/><polygon points=\"", to, ",0 ", back, ",-4 ", back,
                 ",4\"/><text x=\"", middle, "\" y=\"-5\">"});
