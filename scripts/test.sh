@@ -64,7 +64,9 @@ start() {
   fi
   printf '== %s\n' "$1"
   started[$1]=$SECONDS
-  run_target "$1" >"$(log_of "$1")" 2>&1 &
+  set -m  # a process group of its own, so that stop_all can end it
+  run_target "$1" </dev/null >"$(log_of "$1")" 2>&1 &
+  set +m
   target_of[$!]=$1
 }
 
@@ -86,12 +88,14 @@ finish_one() {
   printf '\n'
 }
 
-stop_wine() {
+stop_all() {
+  local process
+  for process in "${!target_of[@]}"; do kill -- "-$process" || true; done
   if command -v wineserver >/dev/null && [[ -d build/wine-prefix ]]; then
     WINEPREFIX=$PWD/build/wine-prefix wineserver -k || true  # none may run
   fi
 }
-trap stop_wine EXIT
+trap stop_all EXIT
 
 mkdir -p build/test-logs
 # Wine takes a while to set up its prefix; other targets can run meanwhile.
