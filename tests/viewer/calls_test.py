@@ -66,6 +66,7 @@ class Golden(unittest.TestCase):
         self.check("call-13.stats.txt", "--stats", "--call", "13", FAILED)
         faulty = run("--stats", "--faulty", FAILED).stdout  # as many calls as in test_faulty
         self.assertIn(b"messages: 2, calls: 7, refused connections: 1\n", faulty)
+        self.assertIn(b"messages: 1, calls: 1,", run("--stats", "--call", "7", "--faulty", FAILED).stdout)
 
     def test_calls_from_a_pipe_are_the_same_in_the_order_of_their_ends(self):
         with open(FAILED, "rb") as capture:
@@ -118,6 +119,8 @@ class Filters(unittest.TestCase):
         self.assertEqual(calls("--message", "openLogicalChannelReject"), [8])
         self.assertEqual(calls("--message", "terminalCapabilitySetReject"), [11])  # tunnelled
         self.assertEqual(calls("--message", "admissionReject", "--party", "2002"), [])
+        ladder = run("--format", "ladder", "--message", "setup", CALL).stdout
+        self.assertEqual(re.findall(rb"- (.+) -", ladder), [b"Setup (setup)"])
 
     def test_family(self):
         families = {family: frames(CALL, "--family", family) for family in ("ras", "q931", "h245")}

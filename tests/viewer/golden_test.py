@@ -78,6 +78,7 @@ class Golden(unittest.TestCase):
         self.assertEqual(run("--relative", "--format", "html", SAMPLE).stdout, page)
         self.assertIn(b"  -73133199.987000  192.0.2.10:1719", run("--relative", LATER_SAMPLE, SAMPLE).stdout)
         self.check("call.colored", "--color", "always", SAMPLE)
+        self.check("call.octets", "--format", "tree", "--octets", "--message", "gatekeeperRequest", SAMPLE)
 
     def test_page(self):
         def body(page):

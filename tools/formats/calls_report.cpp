@@ -39,7 +39,6 @@ class CallReport : public Formatter, private CallListener {
   void Finish(std::string& text) override {
     PrintInto(text, [&] {
       tracker_.Close();
-      while (!waiting_.empty()) TakeFirst();
       formatter_->Finish(text);
     });
   }
