@@ -125,7 +125,8 @@ class Captures(unittest.TestCase):
             for order in ([(0, 102)], [(0, 2), (2, 60), (60, 102)], [(60, 102), (2, 60), (0, 2)], [(0, 60), (40, 102)]):
                 with self.subTest(first=first, order=order):
                     self.assertEqual(self.names(segments(opening, *(piece(*o) for o in order))), expected)
-            for order in ([(0, 30), (60, 102), (30, 60)], [(30, 102), (0, 30)], [(0, 102), (0, 102)]):
+            for order in ([(0, 30), (60, 102), (30, 60)], [(30, 102), (0, 30)], [(0, 102), (0, 102)],
+                          [(30, 60), (30, 102), (0, 30)]):
                 with self.subTest(first=first, joined=order):
                     self.assertEqual(self.names(segments(*(piece(*o) for o in order))), expected)
 
@@ -358,6 +359,12 @@ class Captures(unittest.TestCase):
         for order in ((begin, middle, end), (end, middle, begin), (begin, begin, end), (middle, end, end, begin)):
             frames = [ethernet(ipv4(17, octets, 7, place)) for octets, place in order]
             self.assertEqual(self.names(capture(frames)), ["gatekeeperConfirm"])
+
+        # The last fragment says where the packet ends.
+        longer = CALL + bytes(4) + CALL[:4]
+        frames = [ethernet(ipv4(6, tcp(1, longer), 7, 0x2000)), ethernet(ipv4(6, tcp(1, longer)[56:71], 7, 7))]
+        self.assertEqual(self.names(capture([*frames, ethernet(ipv4(6, tcp(1 + len(CALL), CALL)))])),
+                         ["releaseComplete"] * 2)
 
         # Of two at one place, the first counts; here the packet then lacks its end.
         frames = [ethernet(ipv4(17, octets, 7, place)) for octets, place in (begin, (datagram[16:24], more | 2), end)]

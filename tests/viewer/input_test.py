@@ -152,6 +152,8 @@ class Files(unittest.TestCase):
             result = run("--format", "json", data=wrong)
             self.assertEqual(result.returncode, 2)
             self.assertIn(complaint, result.stderr)
+        not_compressed = run("--as", "h245", data=b"\x1f\x8b\x08\xe0")
+        self.assertEqual((not_compressed.returncode, not_compressed.stderr), (1, b""))
 
     @unittest.skipIf(EMULATED or SANITIZED, "the memory of Wine or of a sanitizer would be measured")
     def test_gzip_bomb_takes_no_memory(self):

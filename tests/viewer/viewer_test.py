@@ -184,6 +184,12 @@ class SingleMessages(unittest.TestCase):
         self.assertIn(b"Release Complete (releaseComplete), 51 octets", result.stdout)
         self.assertIn(b"\n  callReferenceValue: 4711\n", result.stdout)
 
+    def test_single_octet_elements_have_no_length_and_the_first_of_a_kind_counts(self):
+        text = RELEASE_COMPLETE.replace("03000033", "0300003a").replace("675a08028090", "675a8090a1080280900802809f")
+        result = run("--as", "q931", "--format", "tree", "--octets", data=text.encode())
+        self.assertEqual(result.returncode, 0)
+        self.assertRegex(result.stdout, rb"12\.0-15\.7 +causeValue: ")
+
     def test_summary_of_octets_that_are_no_message(self):
         result = run("--as", "q931", data=b"0300000508")
         self.assertRegex(result.stdout, rb"Q\.931 +\(nothing decoded\) +"
