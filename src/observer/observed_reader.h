@@ -102,7 +102,7 @@ class ObservedReader : public PerReader {
   static constexpr size_t kUsualDepth = 32;
 
   struct Step {
-    const kelvra::Component* component;
+    const kelvra::Component* component = nullptr;
     uint32_t elements = 0;  // begun so far
     uint32_t index = 0;     // among the elements of its list
     bool isRead = true;

@@ -17,14 +17,16 @@ constexpr uint32_t kLastVersion = 4;             // whose additions the descript
 void ObservedReader::Begin(const kelvra::Component& component, bool hasBits) {
   // The enclosing component moved the reader to its end, for example at the index of a CHOICE.
   if (!isStopped_ && cause != PerCause::kNone && !steps_.empty()) Report(cause, steps_.back().component->firstBit);
-  Step step{&component};
-  step.isRead = !isStopped_;
+  uint32_t index = 0;
   if (!steps_.empty()) {
     Step& holder = steps_.back();
-    if (component.name == nullptr) step.index = holder.elements++;
+    if (component.name == nullptr) index = holder.elements++;
     if (holder.isAtAdditions) SettleUnknownAdditions(holder);
   }
-  steps_.push_back(step);
+  Step& step = steps_.emplace_back();
+  step.component = &component;
+  step.index = index;
+  step.isRead = !isStopped_;
   observer_.Begin(component);
   if (!isStopped_ && hasBits && PerAtEnd(*this)) Report(PerCause::kEndOfMessage, component.firstBit);
 }

@@ -43,8 +43,9 @@ const char* FamilyKeyword(Family family) {
 
 std::string MessageTitle(const DecodedMessage& message) {
   std::string name(message.name.empty() ? "(nothing decoded)" : message.name);
+  if (message.family != Family::kQ931) return name;
   const auto type = message.Root()["messageType"].Number();
-  if (message.family != Family::kQ931 || !type) return name;
+  if (!type) return name;
   const std::string typeName = MessageTypeName(static_cast<unsigned>(*type));
   return message.name.empty() ? typeName : typeName + " (" + name + ")";
 }

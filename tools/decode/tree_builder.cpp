@@ -44,7 +44,11 @@ void DecodeLog::Clear() {
 void DecodeLog::Begin(const kelvra::Component& component) {
   const auto first = static_cast<uint32_t>(component.firstBit);
   const auto index = static_cast<uint32_t>(entries_.size());
-  entries_.push_back({component.name, {first, first}, open_, false, !isStopped_, false});
+  Entry& entry = entries_.emplace_back();
+  entry.name = component.name;
+  entry.bits = {first, first};
+  entry.end = open_;
+  entry.isReached = !isStopped_;
   open_ = index;
 }
 
@@ -70,7 +74,7 @@ void DecodeLog::Resumed(uint64_t) {
 // --- TreeBuilder ---
 
 TreeBuilder::TreeBuilder(std::vector<NodeData>& nodes) : nodes_(nodes) {
-  level_.isWhole = true;
+  level_->isWhole = true;
   Add("", NodeKind::kRecord, {});
 }
 
@@ -79,20 +83,20 @@ TreeBuilder::TreeBuilder(std::vector<NodeData>& nodes, const DecodeLog& log, uin
     : nodes_(nodes), entries_(log.Entries().data()), firstBit_(firstBit), frame_(frame) {
   const auto count = static_cast<uint32_t>(log.Entries().size());
   nodes_.reserve(count + count / 4 + 2);  // alternatives that are empty have a node and no entry
-  level_.end = count;
-  level_.isFrame = frame != nullptr;
-  if (!level_.isFrame && count > 0) {
-    level_.entry = entries_;
-    level_.next = 1;
+  level_->end = count;
+  level_->isFrame = frame != nullptr;
+  if (!level_->isFrame && count > 0) {
+    level_->entry = entries_;
+    level_->next = 1;
   }
-  Add("", NodeKind::kRecord, level_.entry != nullptr ? Placed(level_.entry->bits) : BitRange());
+  Add("", NodeKind::kRecord, level_->entry != nullptr ? Placed(level_->entry->bits) : BitRange());
 }
 
 // Finds the entry of a member, which may be absent. Entries before it belong to members that the record does not hold.
 const TreeBuilder::Entry* TreeBuilder::Take(const char* name) {
-  for (uint32_t i = level_.next; i < level_.end; i = entries_[i].end) {
+  for (uint32_t i = level_->next; i < level_->end; i = entries_[i].end) {
     if (!IsSame(entries_[i].name, name)) continue;
-    level_.next = entries_[i].end;
+    level_->next = entries_[i].end;
     return &entries_[i];
   }
   return nullptr;
@@ -112,7 +116,7 @@ NodeData& TreeBuilder::Add(const char* name, NodeKind kind, BitRange bits) {
 
 template <class R>
 void TreeBuilder::BuildMessage(R& message) {
-  level_.isChoice = IsChoice<R>();
+  level_->isChoice = IsChoice<R>();
   R::Walk(message, *this);
   Finish(0);
 }
@@ -126,29 +130,28 @@ void TreeBuilder::Finish(uint32_t node) { nodes_[node].size = static_cast<uint32
 // Null if the value was not read. A member that the decoder reads without showing it may be unobserved; then it counts
 // as read if its container was.
 NodeData* TreeBuilder::AddValue(const char* name, NodeKind kind, bool mayBeUnobserved) {
-  BitRange bits = nodes_[level_.node].bits;
-  if (level_.isFrame) {
+  BitRange bits = nodes_[level_->node].bits;
+  if (level_->isFrame) {
     const auto place = frame_->Find(name);
     if (!place) return nullptr;
     bits = *place;
-  } else if (!level_.isWhole) {
+  } else if (!level_->isWhole) {
     const Entry* entry = Take(name);
     if (entry == nullptr ? !(mayBeUnobserved && IsLevelRead()) : !entry->isRead) return nullptr;
     if (entry != nullptr) bits = Placed(entry->bits);
   }
-  ++nodes_[level_.node].count;
+  ++nodes_[level_->node].count;
   return &Add(name, kind, bits);
 }
 
-bool TreeBuilder::Enter(const char* name, NodeKind kind) {
-  Level inner;
-  BitRange bits = nodes_[level_.node].bits;
-  if (level_.isWhole) {
+bool TreeBuilder::Enter(const char* name, NodeKind kind, Level& inner) {
+  BitRange bits = nodes_[level_->node].bits;
+  if (level_->isWhole) {
     inner.isWhole = true;
-  } else if (level_.isFrame) {  // the whole log belongs to the H323-UserInformation
-    inner.entry = level_.end > 0 ? entries_ : nullptr;
+  } else if (level_->isFrame) {  // the whole log belongs to the H323-UserInformation
+    inner.entry = level_->end > 0 ? entries_ : nullptr;
     inner.next = 1;
-    inner.end = level_.end;
+    inner.end = level_->end;
     if (inner.entry == nullptr) return false;
     bits = Placed(inner.entry->bits);
   } else if (const Entry* entry = Take(name); entry != nullptr) {
@@ -162,23 +165,24 @@ bool TreeBuilder::Enter(const char* name, NodeKind kind) {
   }
   inner.isMerged = name != nullptr && *name == '\0';
   if (inner.isMerged) {
-    inner.node = level_.node;
+    inner.node = level_->node;
     nodes_[inner.node].kind = kind;
   } else {
     inner.node = static_cast<uint32_t>(nodes_.size());
-    ++nodes_[level_.node].count;
+    ++nodes_[level_->node].count;
     Add(name, kind, bits);
   }
-  level_ = inner;
+  inner.outer = level_;
+  level_ = &inner;
   return true;
 }
 
 // Drops what was not read. Of an empty record, only whether it was chosen is known.
-void TreeBuilder::Leave(const Level& outer) {
-  const Level inner = level_;
-  const uint32_t next = inner.entry != nullptr ? inner.entry->end : 0;
-  level_ = outer;
-  if (inner.entry != nullptr && !outer.isFrame) level_.next = next;
+void TreeBuilder::Leave() {
+  const Level& inner = *level_;
+  Level& outer = *inner.outer;
+  level_ = &outer;
+  if (inner.entry != nullptr && !outer.isFrame) outer.next = inner.entry->end;
   if (inner.isMerged) return;
   Finish(inner.node);
   const NodeData& node = nodes_[inner.node];
@@ -201,7 +205,7 @@ void TreeBuilder::Boolean(const char* name, uint32_t value) {
 // The record of an ENUMERATED holds nothing else.
 void TreeBuilder::EnumeratedValue(uint32_t value, const char* identifier) {
   if (!IsLevelRead()) return;
-  NodeData& node = nodes_[level_.node];
+  NodeData& node = nodes_[level_->node];
   node.kind = NodeKind::kEnumerated;
   node.length = value;
   node.identifier = identifier;
@@ -216,9 +220,9 @@ void TreeBuilder::UnknownExtension(uint32_t index) {
 
 void TreeBuilder::UnknownRoot(uint32_t index) {
   static const NumberedNames names("unknown-");
-  if (level_.entry == nullptr || !level_.entry->hasUndefinedIndex) return Null(names.Of(index));
-  ++nodes_[level_.node].count;
-  Add(names.Of(index), NodeKind::kNull, nodes_[level_.node].bits);
+  if (level_->entry == nullptr || !level_->entry->hasUndefinedIndex) return Null(names.Of(index));
+  ++nodes_[level_->node].count;
+  Add(names.Of(index), NodeKind::kNull, nodes_[level_->node].bits);
 }
 
 void TreeBuilder::ObjectIdentifier(const char* name, const kelvra::ObjectIdentifierValue& value) {

@@ -16,9 +16,9 @@
 class DecodeLog : public kelvra::DecodeObserver {
  public:
   struct Entry {
-    const char* name;  // null for a list element
+    const char* name = nullptr;  // null for a list element
     BitRange bits;
-    uint32_t end;  // the entry after the last member
+    uint32_t end = 0;  // the entry after the last member
     bool isRead = false;
     bool isReached = true;  // it began before the decode stopped
     bool hasUndefinedIndex = false;
@@ -82,11 +82,11 @@ class TreeBuilder {
 
   template <class R>
   void Record(const char* name, R& record) {
-    const Level outer = level_;
-    if (!Enter(name, NodeKind::kRecord)) return;
-    level_.isChoice = IsChoice<R>();
+    Level inner;
+    if (!Enter(name, NodeKind::kRecord, inner)) return;
+    inner.isChoice = IsChoice<R>();
     R::Walk(record, *this);
-    Leave(outer);
+    Leave();
   }
   template <class R>
   void Pointer(const char* name, kelvra::Slot<R> slot) {
@@ -94,13 +94,13 @@ class TreeBuilder {
   }
   template <class L, class Show>
   void List(const char* name, L list, Show show) {
-    const Level outer = level_;
-    if (!Enter(name, NodeKind::kList)) return;
+    Level inner;
+    if (!Enter(name, NodeKind::kList, inner)) return;
     for (auto& element : list) {
       if (!HasMore()) break;
       show(element);
     }
-    Leave(outer);
+    Leave();
   }
 
  private:
@@ -108,6 +108,7 @@ class TreeBuilder {
 
   // The record or list being walked.
   struct Level {
+    Level* outer = nullptr;
     uint32_t node = 0;
     uint32_t next = 0;  // the first entry that its members can have
     uint32_t end = 0;
@@ -129,17 +130,18 @@ class TreeBuilder {
   void BuildMessage(R& message);
   const Entry* Take(const char* name);
   BitRange Placed(BitRange bits) const { return {firstBit_ + bits.first, firstBit_ + bits.end}; }
-  bool IsLevelRead() const { return level_.isWhole || (level_.entry != nullptr && level_.entry->isRead); }
+  bool IsLevelRead() const { return level_->isWhole || (level_->entry != nullptr && level_->entry->isRead); }
   NodeData& Add(const char* name, NodeKind kind, BitRange bits);
   void Finish(uint32_t node);
   NodeData* AddValue(const char* name, NodeKind kind, bool mayBeUnobserved = false);
-  bool Enter(const char* name, NodeKind kind);
-  void Leave(const Level& outer);
-  bool HasMore() const { return level_.isWhole || level_.next < level_.end; }
+  bool Enter(const char* name, NodeKind kind, Level& inner);
+  void Leave();
+  bool HasMore() const { return level_->isWhole || level_->next < level_->end; }
 
   std::vector<NodeData>& nodes_;
   const Entry* entries_ = nullptr;
   uint32_t firstBit_ = 0;
   const FramePlaces* frame_ = nullptr;
-  Level level_;
+  Level whole_;  // of the message
+  Level* level_ = &whole_;
 };

@@ -1,5 +1,8 @@
 #include "text/utf8.h"
 
+#include <algorithm>
+#include <array>
+
 #include "kelvra/text.h"
 
 namespace {
@@ -37,12 +40,15 @@ Control LeadingControl(std::string_view text) {
   return {};
 }
 
-// True if a character may be a control or start one, or is one that JSON escapes.
-bool NeedsLook(char character) {
-  const auto octet = static_cast<unsigned char>(character);
-  return octet < 0x20 || octet == '"' || octet == '\\' || octet == 0x7F || octet == 0xC2 || octet == 0xD8 ||
-         octet == 0xE2;
-}
+// The characters that may be a control or start one, and those that JSON escapes.
+constexpr auto kNeedsLook = [] {
+  std::array<bool, 256> needs_look{};
+  std::fill_n(needs_look.begin(), 0x20, true);
+  for (const unsigned octet : {0x22U, 0x5CU, 0x7FU, 0xC2U, 0xD8U, 0xE2U}) needs_look[octet] = true;
+  return needs_look;
+}();
+
+bool NeedsLook(char character) { return kNeedsLook[static_cast<unsigned char>(character)]; }
 
 // Appends the text with its controls escaped. `appendShort` sees each candidate first and may append its own escape.
 template <class AppendShort>
