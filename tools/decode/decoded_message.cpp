@@ -27,12 +27,19 @@ constexpr uint32_t kLastVersion = 4;
 
 constexpr kelvra::ObserverRules kRules{true, true};
 
+// The last record that was released, for the next message: the heap is slow with blocks as large.
+template <class Record>
+thread_local std::unique_ptr<Record> spare_record;
+
 template <class Record, void(KELVRA_CALL* kRelease)(Record*)>
 Record& NewRecord(DecodedMessage& decoded) {
-  auto* record = new Record{};
+  if (!spare_record<Record>) spare_record<Record> = std::make_unique<Record>();
+  Record* record = spare_record<Record>.release();
   decoded.record = {record, RecordDeleter{[](void* released) {
-                      kRelease(static_cast<Record*>(released));
-                      delete static_cast<Record*>(released);
+                      auto* used = static_cast<Record*>(released);
+                      kRelease(used);
+                      *used = {};
+                      spare_record<Record>.reset(used);
                     }}};
   return *record;
 }
