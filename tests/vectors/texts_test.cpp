@@ -47,14 +47,14 @@ struct TextVisitor : kelvra::EmptyVisitor {
   void Add(const std::string& text) { octets += text.size(); }
 };
 
-// Every message, and every remainder of it when cut short, before and after the release.
+// Every message, whole and cut at every third octet, before and after the release.
 template <class Family>
 size_t TextOfCutMessages(const std::string& file) {
   TextVisitor visitor;
   const auto record = std::make_unique<typename Family::Record>();
   for (const Vector& vector : LoadVectors(file)) {
-    for (size_t count = 0; count <= vector.octets.size(); ++count) {
-      const ExactBuffer buffer(vector.octets, count, Family::kSpareOctets);
+    for (size_t cut = 0; cut <= vector.octets.size(); cut += 3) {
+      const ExactBuffer buffer(vector.octets, vector.octets.size() - cut, Family::kSpareOctets);
       Family::Decode(record.get(), buffer.Data(), buffer.Size());
       visitor.Record(nullptr, *record);
       Family::Release(record.get());
