@@ -5,6 +5,7 @@
 #include <array>
 #include <cstdio>
 #include <filesystem>
+#include <stdexcept>
 
 #if defined(_WIN32)
 #include <fcntl.h>
@@ -19,6 +20,10 @@ namespace {
 constexpr int kInput = 0;
 constexpr int kOutput = 1;
 #endif
+
+void Require(bool is_written) {
+  if (!is_written) throw std::runtime_error("the output cannot be written");
+}
 
 }  // namespace
 
@@ -38,6 +43,10 @@ bool OutputIsTerminal() {
   return isatty(STDOUT_FILENO) != 0;
 #endif
 }
+
+void WriteOutput(std::string_view text) { Require(std::fwrite(text.data(), 1, text.size(), stdout) == text.size()); }
+
+void FlushOutput() { Require(std::fflush(stdout) == 0); }
 
 bool IsRegularFile(const std::string& path) {
   if (path != "-") return std::filesystem::is_regular_file(path);

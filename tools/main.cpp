@@ -42,7 +42,7 @@ std::unique_ptr<Formatter> MakeFormatter(const Options& options) {
   if (auto calls = MakeCallFormatter(options)) {
     const bool ends = std::all_of(options.files.begin(), options.files.end(), IsRegularFile);
     const CallOrder order = ends ? CallOrder::kByBeginning : CallOrder::kByEnd;
-    return MakeCallReport(std::move(calls), options.filter, order);
+    return MakeCallReport(std::move(calls), options.filter, order, WriteOutput);
   }
   auto messages = MakeMessageFormatter(options.format, options.formatting);
   return options.filter.IsEmpty() ? std::move(messages) : MakeSelection(std::move(messages), options.filter);
@@ -96,7 +96,7 @@ class Printer : public MessageSink {
     text_.clear();
     formatter_->Finish(text_);
     Write();
-    if (std::fflush(stdout) != 0) throw std::runtime_error(kUnwritable);
+    FlushOutput();
   }
 
   bool AllComplete() const { return all_complete_; }
@@ -104,15 +104,13 @@ class Printer : public MessageSink {
   bool Any() const { return any_; }
 
  private:
-  static constexpr const char* kUnwritable = "the output cannot be written";
-
   static bool AreComplete(const DecodedMessage& decoded) {
     return decoded.IsComplete() && std::all_of(decoded.tunnelled.begin(), decoded.tunnelled.end(), AreComplete);
   }
 
   void Write() {
-    const size_t written = std::fwrite(text_.data(), 1, text_.size(), stdout);
-    if (written < text_.size() || (flushes_ && std::fflush(stdout) != 0)) throw std::runtime_error(kUnwritable);
+    WriteOutput(text_);
+    if (flushes_) FlushOutput();
   }
 
   std::unique_ptr<Formatter> formatter_;

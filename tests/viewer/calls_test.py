@@ -10,6 +10,7 @@ import os
 import re
 import struct
 import sys
+import tempfile
 import unittest
 
 from captures import rare_calls
@@ -75,22 +76,45 @@ class Golden(unittest.TestCase):
         self.assertEqual(sorted(piped), sorted(lines))
 
 
+def asked(number, sequence=1):
+    """An admission request of the call with this number."""
+    request = failed_calls.ARQ.replace(failed_calls.BASE_CALL, number.to_bytes(16, "big"))
+    return request[:2] + struct.pack(">H", sequence) + request[4:]
+
+
+def ras_capture(messages):
+    return capture(ethernet(ipv4(17, udp(message))) for message in messages)
+
+
 class Bounds(unittest.TestCase):
     def calls_of(self, *messages):
         """The number of calls among these RAS messages, which come all at once."""
-        data = capture(ethernet(ipv4(17, udp(message))) for message in messages)
-        return int(re.search(rb", calls: (\d+)", run("--stats", data=data).stdout)[1])
+        return int(re.search(rb", calls: (\d+)", run("--stats", data=ras_capture(messages)).stdout)[1])
 
     def test_ended_calls_are_dropped_before_the_oldest_open_one(self):
-        def asked(number):
-            return failed_calls.ARQ.replace(failed_calls.BASE_CALL, (number + 1).to_bytes(16, "big"))
-
         disengage = failed_calls.DRQ.replace(failed_calls.BASE_CALL, (1).to_bytes(16, "big"))
         most = 16384
-        self.assertEqual(self.calls_of(*map(asked, range(most)), disengage), most)
-        self.assertEqual(self.calls_of(*map(asked, range(most + 1)), disengage), most + 2)
+        self.assertEqual(self.calls_of(*map(asked, range(1, most + 1)), disengage), most)
+        self.assertEqual(self.calls_of(*map(asked, range(1, most + 2)), disengage), most + 2)
         registrations = (failed_calls.RRQ[:2] + struct.pack(">H", n) + failed_calls.RRQ[4:] for n in range(most + 1))
-        self.assertEqual(self.calls_of(asked(0), *registrations, disengage), 1)
+        self.assertEqual(self.calls_of(asked(1), *registrations, disengage), 1)
+
+    def test_parts_of_a_long_page_come_once_and_in_order(self):
+        messages = 300
+        data = ras_capture([asked(1), *(asked(2, sequence) for sequence in range(messages)), asked(1, 2)])
+        with tempfile.NamedTemporaryFile(suffix=".pcap") as file:
+            file.write(data)
+            file.flush()
+            of_file = run("--format", "html", file.name).stdout.decode()
+        of_pipe = run("--format", "html", "-", data=data).stdout.decode()
+        # The second call ends before the first one.
+        for page, order in ((of_file, [1, 2]), (of_pipe, [2, 1])):
+            self.assertEqual([int(call, 16) for call in re.findall(r'data-identifier="(\w+)"', page)], order)
+            shown = re.findall(r"<pre>frame (\d+) ", page)
+            first = ["1", str(messages + 2)]
+            second = [str(frame) for frame in range(2, messages + 2)]
+            self.assertEqual(shown, first + second if order == [1, 2] else second + first)
+            self.assertTrue(page.startswith("<!doctype html>\n") and page.endswith("</html>\n"))
 
 
 class Filters(unittest.TestCase):

@@ -7,6 +7,7 @@
 #include "calls/call.h"
 #include "calls/filter.h"
 #include "formats/formats.h"
+#include "formats/output.h"
 
 class CallFormatter {
  public:
@@ -15,7 +16,7 @@ class CallFormatter {
   virtual bool NeedsMessages() const { return false; }
   // Each appends to the text.
   virtual void Begin(std::string& /*text*/) {}
-  virtual void Print(const Call& call, std::string& text) = 0;
+  virtual void Print(const Call& call, Output& output) = 0;
   virtual void Finish(std::string& /*text*/) {}
 };
 
@@ -27,10 +28,11 @@ std::unique_ptr<CallFormatter> MakeLadder(const Filter& filter, const FormatOpti
 // One page.
 std::unique_ptr<CallFormatter> MakeHtml(const Filter& filter, const FormatOptions& options);
 
-// Prints calls instead of messages, in order of their start or each as soon as it ends.
+// Prints calls instead of messages, in order of their start or each as soon as it ends. Parts of a long call go
+// straight to `write`.
 enum class CallOrder : uint8_t { kByBeginning, kByEnd };
 std::unique_ptr<Formatter> MakeCallReport(std::unique_ptr<CallFormatter> formatter, const Filter& filter,
-                                          CallOrder order);
+                                          CallOrder order, Output::Write write);
 
 // Prints the messages that pass the filter.
 std::unique_ptr<Formatter> MakeSelection(std::unique_ptr<Formatter> formatter, const Filter& filter);

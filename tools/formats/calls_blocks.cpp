@@ -11,7 +11,8 @@ class CallBlocks : public CallFormatter {
  public:
   explicit CallBlocks(TimeZone zone) : zone_(zone) {}
 
-  void Print(const Call& call, std::string& text) override {
+  void Print(const Call& call, Output& output) override {
+    std::string& text = output.Text();
     text += Concat({Printable(Heading(call)), "\n"});
     for (const Section& section : SectionsOf(call, zone_)) {
       text += Concat({"  ", section.title, "\n"});

@@ -14,8 +14,8 @@ constexpr size_t kMostWaitingOctets = 0x4000000;
 
 class CallReport : public Formatter, private CallListener {
  public:
-  CallReport(std::unique_ptr<CallFormatter> formatter, const Filter& filter, CallOrder order)
-      : formatter_(std::move(formatter)), filter_(filter), order_(order), tracker_(*this) {
+  CallReport(std::unique_ptr<CallFormatter> formatter, const Filter& filter, CallOrder order, Output::Write write)
+      : formatter_(std::move(formatter)), filter_(filter), order_(order), tracker_(*this), write_(std::move(write)) {
     formatter_->Begin(ready_);
   }
 
@@ -44,21 +44,21 @@ class CallReport : public Formatter, private CallListener {
   }
 
  private:
-  // Runs `action` with calls that end meanwhile printed straight into the text: a call may take many megabytes of a
-  // page.
+  // Runs `action` with calls that end meanwhile printed straight into the text.
   template <class Action>
   void PrintInto(std::string& text, Action action) {
     text += std::exchange(ready_, {});
-    output_ = &text;
+    Output output(text, write_);
+    output_ = &output;
     action();
-    output_ = &ready_;
+    output_ = &between_;
   }
 
   void OnCallEnded(const Call& call) override {
     const bool is_next = order_ == CallOrder::kByEnd || call.order == next_;
     std::string late;
-    std::string& text = is_next ? *output_ : late;
-    if (Wants(call)) formatter_->Print(call, text);
+    Output waiting(late);
+    if (Wants(call)) formatter_->Print(call, is_next ? *output_ : waiting);
     wanted_.erase(&call);
     if (is_next) {
       next_ = call.order + 1;
@@ -73,7 +73,7 @@ class CallReport : public Formatter, private CallListener {
     const auto first = waiting_.extract(waiting_.begin());
     next_ = std::max(next_, first.key() + 1);
     waiting_octets_ -= first.mapped().size();
-    *output_ += first.mapped();
+    output_->Text() += first.mapped();
   }
 
   bool Wants(const Call& call) const {
@@ -99,12 +99,14 @@ class CallReport : public Formatter, private CallListener {
   size_t waiting_octets_ = 0;
   uint64_t next_ = 0;  // the next call in order
   std::string ready_;  // what was printed between messages
-  std::string* output_ = &ready_;
+  Output between_{ready_};
+  Output* output_ = &between_;
+  Output::Write write_;
 };
 
 }  // namespace
 
 std::unique_ptr<Formatter> MakeCallReport(std::unique_ptr<CallFormatter> formatter, const Filter& filter,
-                                          CallOrder order) {
-  return std::make_unique<CallReport>(std::move(formatter), filter, order);
+                                          CallOrder order, Output::Write write) {
+  return std::make_unique<CallReport>(std::move(formatter), filter, order, std::move(write));
 }

@@ -18,14 +18,14 @@ class CallTable : public CallFormatter {
     AppendLine({"#", "start", "from", "to", "setup", "duration", "end"}, "faults", text);
   }
 
-  void Print(const Call& call, std::string& text) override {
+  void Print(const Call& call, Output& output) override {
     if (call.subject == Subject::kOther) return NoteOther(call);
     const Leg* leg = call.FirstLeg();
     const auto time = [](const std::optional<int64_t>& span) { return span ? Seconds(*span) : "-"; };
     AppendLine({std::to_string(call.number), StartText(call), PartyText(call.caller), PartyText(call.called),
                 time(leg != nullptr ? leg->SetupTime() : std::nullopt),
                 time(leg != nullptr ? leg->Duration() : std::nullopt), EndText(call)},
-               Joined(Faults(call), "; "), text);
+               Joined(Faults(call), "; "), output.Text());
   }
 
   void Finish(std::string& text) override {

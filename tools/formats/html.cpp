@@ -20,7 +20,8 @@ class Html : public CallFormatter {
   void Begin(std::string& html) override { html += kPageBegin; }
   void Finish(std::string& html) override { html += kPageEnd; }
 
-  void Print(const Call& call, std::string& html) override {
+  void Print(const Call& call, Output& output) override {
+    std::string& html = output.Text();
     const auto faults = Faults(call);
     Append(html,
            {"<tbody", faults.empty() ? "" : " data-faulty", call.subject == Subject::kOther ? " data-outside" : "",
@@ -32,7 +33,9 @@ class Html : public CallFormatter {
     AppendSvgLadder(call, events, html);
     html += "<h2>messages</h2>\n";
     for (const LadderEvent& event : events) {
-      if (event.message != nullptr && !event.isTunnelled) AppendMessage(call, event, html);
+      if (event.message == nullptr || event.isTunnelled) continue;
+      AppendMessage(call, event, html);
+      output.EndPart();
     }
     html += "</td></tr>\n</tbody>\n";
   }

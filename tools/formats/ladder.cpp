@@ -103,7 +103,8 @@ class Ladder : public CallFormatter {
 
   bool NeedsMessages() const override { return true; }
 
-  void Print(const Call& call, std::string& text) override {
+  void Print(const Call& call, Output& output) override {
+    std::string& text = output.Text();
     text += Concat({Printable(Heading(call)), "\n", IsoTime(call.first, zone_), "\n"});
     Diagram(call, LadderEventsOf(call, filter_)).Append(text);
     if (call.subject == Subject::kCall) text += Concat({"end: ", Printable(EndText(call)), "\n"});
