@@ -31,13 +31,15 @@ std::string OfUnits(const std::vector<uint16_t>& units) {
 TEST(TextTest, WideCharactersBecomeUtf8) {
   EXPECT_EQ(OfUnits({'G', 'K', 0}), std::string("GK\0", 3));
   EXPECT_EQ(OfUnits({0x7F, 0x80, 0x7FF, 0x800, 0xFFFF}), "\x7F\xC2\x80\xDF\xBF\xE0\xA0\x80\xEF\xBF\xBF");
-  EXPECT_EQ(OfUnits({0xD83D, 0xDE00, 0xDBFF, 0xDFFF}), "\xF0\x9F\x98\x80\xF4\x8F\xBF\xBF");
+  EXPECT_EQ(OfUnits({0xD800, 0xDC00, 0xDBFF, 0xDFFF}), "\xF0\x90\x80\x80\xF4\x8F\xBF\xBF");
 }
 
 TEST(TextTest, SurrogatesWithoutPartnerAreReplaced) {
   const std::string replacement = "\xEF\xBF\xBD";
-  EXPECT_EQ(OfUnits({0xD83D}), replacement);
-  EXPECT_EQ(OfUnits({0xDE00, 0xD83D}), replacement + replacement);
+  for (const int unit : {0xD800, 0xDBFF, 0xDC00, 0xDFFF})
+    EXPECT_EQ(OfUnits({static_cast<uint16_t>(unit)}), replacement) << unit;
+  EXPECT_EQ(OfUnits({0xD7FF, 0xE000}), "\xED\x9F\xBF\xEE\x80\x80");
+  EXPECT_EQ(OfUnits({0xDC00, 0xDFFF}), replacement + replacement);
   EXPECT_EQ(OfUnits({0xD83D, 'x', 0xD83D, 0xD83D, 0xDE00}), replacement + "x" + replacement + "\xF0\x9F\x98\x80");
 }
 
@@ -70,11 +72,12 @@ TEST(TextTest, Ipv6AddressesFollowRfc5952) {
   EXPECT_EQ(OfGroups({0xFFFF, 0x10, 0x200, 0xF, 1, 2, 3, 0}), "ffff:10:200:f:1:2:3:0");
 }
 
+// With the alternative of this number, as AlternativeOf counts them.
 template <class Record>
-Record With(uint8_t tag, bool isExtension = false) {
+Record With(uint32_t alternative) {
   Record record{};
-  record.choiceTag = tag;
-  record.isExtension = isExtension ? 1 : 0;
+  record.choiceTag = static_cast<uint8_t>(alternative);
+  record.isExtension = alternative >= asn1::kFirstExtension ? 1 : 0;
   return record;
 }
 
@@ -93,20 +96,78 @@ TEST(TextTest, AddressesHaveTheirPort) {
 
   h245::TransportAddress h245{};
   h245.choiceTag = h245::TransportAddress::kUnicastAddress;
-  h245.unicastAddress.choiceTag = h245::UnicastAddress::kIPAddress;
-  h245.unicastAddress.iPAddress.networkLength = 4;
-  h245.unicastAddress.iPAddress.network = v4.get();
-  h245.unicastAddress.iPAddress.tsapIdentifier = 5004;
+  auto& unicast = h245.unicastAddress;
+  unicast.choiceTag = h245::UnicastAddress::kIPAddress;
+  unicast.iPAddress.networkLength = 4;
+  unicast.iPAddress.network = v4.get();
+  unicast.iPAddress.tsapIdentifier = 5004;
   EXPECT_EQ(TextOf(h245), "192.0.2.1:5004");
-  h245.unicastAddress = {};
-  h245.unicastAddress.choiceTag = h245::UnicastAddress::kIP6Address;
-  h245.unicastAddress.iP6Address.network.data = v6.get();
-  EXPECT_EQ(TextOf(h245), "[2001:db8::1]:0");
+  unicast = {};
+  unicast.choiceTag = h245::UnicastAddress::kIP6Address;
+  unicast.iP6Address.network.data = v6.get();
+  unicast.iP6Address.tsapIdentifier = 5005;
+  EXPECT_EQ(TextOf(h245), "[2001:db8::1]:5005");
+  unicast = {};
+  unicast.choiceTag = h245::UnicastAddress::kIPSourceRouteAddress;
+  unicast.iPSourceRouteAddress.network.data = v4.get();
+  unicast.iPSourceRouteAddress.tsapIdentifier = 5006;
+  EXPECT_EQ(TextOf(h245), "192.0.2.1:5006");
+
   h245 = {};
   h245.choiceTag = h245::TransportAddress::kMulticastAddress;
-  h245.multicastAddress.choiceTag = h245::MulticastAddress::kIPAddress;
-  h245.multicastAddress.iPAddress.network = {4, v4.get()};
-  EXPECT_EQ(TextOf(h245), "192.0.2.1:0");
+  auto& multicast = h245.multicastAddress;
+  multicast.choiceTag = h245::MulticastAddress::kIPAddress;
+  multicast.iPAddress.network = {4, v4.get()};
+  multicast.iPAddress.tsapIdentifier = 5007;
+  EXPECT_EQ(TextOf(h245), "192.0.2.1:5007");
+  multicast = {};
+  multicast.choiceTag = h245::MulticastAddress::kIP6Address;
+  multicast.iP6Address.network = {16, v6.get()};
+  multicast.iP6Address.tsapIdentifier = 5008;
+  EXPECT_EQ(TextOf(h245), "[2001:db8::1]:5008");
+}
+
+TEST(TextTest, EachKindOfAliasAndPartyNumber) {
+  using h225::AliasAddress;
+  using h225::PartyNumber;
+  const auto codes = Block<uint8_t>({4, 5});
+  const auto units = Block<uint16_t>({'a', 'b'});
+  const auto characters = Block<uint8_t>({'c', 'd'});
+  const auto v4 = Block<uint8_t>({192, 0, 2, 1});
+  const OctetStringValue digits{2, codes.get()};
+  const OctetStringValue string{2, characters.get()};
+
+  auto number = With<PartyNumber>(PartyNumber::kE164Number);
+  number.e164Number.publicNumberDigits = digits;
+  EXPECT_EQ(TextOf(number), "12");
+  for (const auto kind :
+       {PartyNumber::kDataPartyNumber, PartyNumber::kTelexPartyNumber, PartyNumber::kNationalStandardPartyNumber}) {
+    number = With<PartyNumber>(kind);
+    number.dataPartyNumber = digits;
+    EXPECT_EQ(TextOf(number), "12") << kind;
+  }
+  number = With<PartyNumber>(PartyNumber::kPrivateNumber);
+  number.privateNumber.privateNumberDigits = digits;
+  EXPECT_EQ(TextOf(number), "12");
+
+  auto alias = With<AliasAddress>(AliasAddress::kDialedDigits);
+  alias.dialedDigits = digits;
+  EXPECT_EQ(TextOf(alias), "12");
+  alias = With<AliasAddress>(AliasAddress::kH323ID);
+  alias.h323ID = {2, units.get()};
+  EXPECT_EQ(TextOf(alias), "ab");
+  for (const auto kind : {AliasAddress::kUrlID, AliasAddress::kEmailID}) {
+    alias = With<AliasAddress>(kind);
+    alias.urlID = string;
+    EXPECT_EQ(TextOf(alias), "cd") << kind;
+  }
+  alias = With<AliasAddress>(AliasAddress::kTransportID);
+  alias.transportID.choiceTag = h225::TransportAddress::kIpAddress;
+  alias.transportID.ipAddress.ip = {4, v4.get()};
+  EXPECT_EQ(TextOf(alias), "192.0.2.1:0");
+  alias = With<AliasAddress>(AliasAddress::kPartyNumber);
+  alias.partyNumber = number;
+  EXPECT_EQ(TextOf(alias), "12");
 }
 
 TEST(TextTest, AddressesOfAnotherLengthAreEmpty) {
@@ -114,7 +175,7 @@ TEST(TextTest, AddressesOfAnotherLengthAreEmpty) {
   for (const uint32_t length : {0U, 3U, 5U, 15U, 17U, 0xFFFFFFFFU}) {
     for (const auto tag : {h225::TransportAddress::kIpAddress, h225::TransportAddress::kIp6Address,
                            h225::TransportAddress::kIpSourceRoute}) {
-      auto address = With<h225::TransportAddress>(static_cast<uint8_t>(tag));
+      auto address = With<h225::TransportAddress>(tag);
       address.ipAddress.ip = {length, octets.get()};
       EXPECT_EQ(TextOf(address), "") << length;
     }
@@ -153,16 +214,17 @@ TEST(TextTest, NullPointersWithACountAreEmpty) {
 
 TEST(TextTest, UnknownAlternativesHaveNeitherNameNorText) {
   for (const bool isExtension : {false, true}) {
-    for (int tag = 0; tag < 256; ++tag) {
-      const auto alias = With<h225::AliasAddress>(static_cast<uint8_t>(tag), isExtension);
+    for (uint32_t tag = 0; tag < 256; ++tag) {
+      const uint32_t alternative = (isExtension ? asn1::kFirstExtension : 0) + tag;
+      const auto alias = With<h225::AliasAddress>(alternative);
       EXPECT_EQ(TextOf(alias), "");
-      EXPECT_EQ(NameOf(alias) != nullptr, tag < (isExtension ? 5 : 2)) << tag;
-      const auto number = With<h225::PartyNumber>(static_cast<uint8_t>(tag), isExtension);
+      EXPECT_EQ(NameOf(alias) != nullptr, tag < (isExtension ? 5U : 2U)) << tag;
+      const auto number = With<h225::PartyNumber>(alternative);
       EXPECT_EQ(TextOf(number), "");
-      EXPECT_EQ(NameOf(number) != nullptr, tag < (isExtension ? 0 : 5)) << tag;
-      const auto reason = With<h225::FacilityReason>(static_cast<uint8_t>(tag), isExtension);
-      EXPECT_EQ(NameOf(reason) != nullptr, tag < (isExtension ? 7 : 4)) << tag;
-      EXPECT_EQ(AlternativeOf(reason), (isExtension ? 0x10000U : 0U) + static_cast<uint32_t>(tag));
+      EXPECT_EQ(NameOf(number) != nullptr, tag < (isExtension ? 0U : 5U)) << tag;
+      const auto reason = With<h225::FacilityReason>(alternative);
+      EXPECT_EQ(NameOf(reason) != nullptr, tag < (isExtension ? 7U : 4U)) << tag;
+      EXPECT_EQ(AlternativeOf(reason), alternative);
     }
   }
   for (uint32_t value = 0; value < 8; ++value) {
