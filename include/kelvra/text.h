@@ -275,7 +275,6 @@ struct NameVisitor {
   void ObjectIdentifier(const char* shown, const ObjectIdentifierValue&) { name = shown; }
   void WideCharacters(const char* shown, const BMPStringValue&) { name = shown; }
   void Octets(const char* shown, Slot<uint8_t>, uint32_t, OctetNotation) { name = shown; }
-  void EmbeddedOctets(const char* shown, const uint8_t*, uint32_t, OctetNotation) { name = shown; }
   template <class R>
   void Record(const char* shown, R&) {
     name = shown;
