@@ -1,4 +1,6 @@
 """Tests the package with the library that KELVRA_TEXT_LIBRARY names."""
+import ctypes
+import ctypes.util
 import gc
 import os
 import pathlib
@@ -10,6 +12,7 @@ import tempfile
 import textwrap
 import threading
 import unittest
+import unittest.mock
 import warnings
 
 import kelvra
@@ -67,15 +70,18 @@ class Decode(unittest.TestCase):
         with self.assertRaises(kelvra.MalformedMessage) as raised:
             kelvra.decode("ras", REJECT[:8], strict=True)
         self.assertEqual(raised.exception.message, cut)
-        self.assertIn("gatekeeperReject: ", str(raised.exception))
-        self.assertIn(cut["fault"]["cause"], str(raised.exception))
+        self.assertEqual(str(raised.exception), "gatekeeperReject: a length announces more octets than there are in "
+                                                "protocolIdentifier at octet 5")
+        with self.assertRaisesRegex(kelvra.MalformedMessage, "^a message: .*, after 0 octets at octet 0$"):
+            kelvra.decode("q931", b"", strict=True)
         self.assertTrue(kelvra.decode("ras", REJECT, strict=True)["complete"])
 
     def test_wrong_arguments(self):
         with self.assertRaisesRegex(ValueError, "no family: 'sip'"):
             kelvra.decode("sip", REJECT)
-        with self.assertRaises(TypeError):
-            kelvra.decode("ras", "0800")
+        for octets in ("0800", 8, [8, 0]):
+            with self.assertRaises(TypeError):
+                kelvra.decode("ras", octets)
 
     def test_threads_decode_as_one_alone(self):
         expected = kelvra.decode("ras", REJECT)
@@ -142,7 +148,8 @@ class ReadCapture(FolderCase):
         other = self.file(SAMPLE.read_bytes().replace(struct.pack(">H", 1719), struct.pack(">H", 1819)))
         without = list(kelvra.read_capture(other))
         self.assertGreater(len(list(kelvra.read_capture(other, ports={"ras": [1819]}))), len(without))
-        for wrong in ({"ras": [0]}, {"ras": [65536]}, {"sip": [5060]}):
+        list(kelvra.read_capture(other, ports={"q931": [1, 65535]}))
+        for wrong in ({"ras": [0]}, {"ras": [65537]}, {"ras": [-1]}, {"sip": [5060]}):
             with self.assertRaises(ValueError):
                 kelvra.read_capture(other, ports=wrong)
 
@@ -158,6 +165,67 @@ class ReadCapture(FolderCase):
         self.assertEqual([message["complete"] for message in kelvra.read_capture(cut)], [False])
         with self.assertRaises(kelvra.MalformedMessage):
             list(kelvra.read_capture(cut, strict=True))
+
+
+class StandIn:
+    """Stands in for the library: each call of it returns the next status and text."""
+
+    def __init__(self, *answers):
+        self.answers = list(answers)
+        self.texts = []  # not freed
+
+    def answer(self, place):
+        status, octets = self.answers.pop(0)
+        if octets is not None:
+            self.texts.append(ctypes.create_string_buffer(octets))
+            place._obj.value = ctypes.addressof(self.texts[-1])
+        return status
+
+    def kelvra_text_decode(self, _family, _octets, _size, text):
+        return self.answer(text)
+
+    def kelvra_text_open_capture(self, _path, _capture, text):
+        return self.answer(text)
+
+    def kelvra_text_next(self, _capture, text):
+        return self.answer(text)
+
+    def kelvra_text_close_capture(self, _capture):
+        pass
+
+    def kelvra_text_free(self, text):
+        self.texts = [held for held in self.texts if ctypes.addressof(held) != text.value]
+        text.value = None
+
+
+class Statuses(unittest.TestCase):
+    def loaded(self, *answers):
+        library = StandIn(*answers)
+        replaced = unittest.mock.patch("kelvra._library._loaded", library)
+        replaced.start()
+        self.addCleanup(replaced.stop)
+        return library
+
+    def test_of_a_decode(self):
+        for status, text, error, words in ((-1, b"broken \xff", kelvra.LibraryError, r"broken \\xff"),
+                                           (-2, None, MemoryError, ""), (-9, None, kelvra.KelvraError, "-9")):
+            library = self.loaded((status, text))
+            with self.assertRaisesRegex(error, words):
+                kelvra.decode("ras", REJECT)
+            self.assertEqual(library.texts, [])
+
+    def test_of_a_capture(self):
+        library = self.loaded((0, None), (3, b"a remark"), (0, b'{"complete": true}'), (2, b"a loss"),
+                              (9, b"of a later library"), (1, None))
+        with warnings.catch_warnings(record=True) as caught:
+            warnings.simplefilter("always")
+            messages = list(kelvra.read_capture("any"))
+        self.assertEqual(messages, [{"complete": True}])
+        self.assertEqual([(warning.category, str(warning.message)) for warning in caught],
+                         [(kelvra.CaptureNotice, "a remark"), (kelvra.CaptureLoss, "a loss"),
+                          (kelvra.CaptureNotice, "of a later library")])
+        self.assertEqual({warning.filename for warning in caught}, {__file__})  # where the capture is read
+        self.assertEqual(library.texts, [])
 
 
 class Library(FolderCase):
@@ -185,6 +253,11 @@ class Library(FolderCase):
         self.copy_package()
         self.assertEqual(python(self.DECODE, folder=self.folder).stdout, "h245\n")
 
+    def test_the_places_of_the_system_are_searched(self):
+        other = shutil.copy(library_file(), self.folder / "libelsewhere.so")
+        run = python(f"import ctypes.util\nctypes.util.find_library = lambda name: {str(other)!r}\n{self.DECODE}")
+        self.assertEqual(run.stdout, "h245\n", run.stderr)
+
     def test_a_path_is_stronger_than_the_environment(self):
         run = python(f"import kelvra; kelvra.load_library({str(library_file())!r});{self.DECODE}",
                      library=self.folder / "nothing.so")
@@ -195,7 +268,6 @@ class Library(FolderCase):
         self.assertEqual(run.stdout, "('ras', 'q931', 'h245')\n", run.stderr)
 
     def test_another_library_is_refused(self):
-        import ctypes.util
         another = ctypes.util.find_library("c")
         run = python(f"import kelvra\ntry: kelvra.load_library({another!r})\nexcept kelvra.LibraryError as e: print(e)")
         self.assertIn("is not kelvra_text", run.stdout)
