@@ -103,14 +103,11 @@ const TreeBuilder::Entry* TreeBuilder::Take(const char* name) {
 }
 
 NodeData& TreeBuilder::Add(const char* name, NodeKind kind, BitRange bits) {
-  NodeData& node = nodes_.emplace_back();
+  NodeData& node = nodes_.emplace_back();  // all zero
   node.name = name != nullptr ? name : "";
   node.kind = kind;
-  node.count = 0;
   node.size = 1;
-  node.length = 0;
   node.bits = bits;
-  node.number = 0;
   return node;
 }
 
@@ -182,7 +179,6 @@ void TreeBuilder::Leave() {
   const Level& inner = *level_;
   Level& outer = *inner.outer;
   level_ = &outer;
-  if (inner.entry != nullptr && !outer.isFrame) outer.next = inner.entry->end;
   if (inner.isMerged) return;
   Finish(inner.node);
   const NodeData& node = nodes_[inner.node];
