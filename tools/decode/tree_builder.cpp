@@ -182,10 +182,9 @@ void TreeBuilder::Leave() {
   if (inner.isMerged) return;
   Finish(inner.node);
   const NodeData& node = nodes_[inner.node];
-  const bool isEmpty = node.count == 0 && node.kind != NodeKind::kEnumerated;
   const bool isUnread = inner.entry != nullptr && !inner.entry->isRead;
   const bool isChosen = outer.isChoice && inner.entry != nullptr && inner.entry->isReached;
-  if (!isEmpty || !isUnread || isChosen) return;
+  if (node.count > 0 || !isUnread || isChosen) return;
   nodes_.resize(inner.node);
   --nodes_[outer.node].count;
 }
@@ -195,7 +194,7 @@ void TreeBuilder::Number(const char* name, int64_t value) {
 }
 
 void TreeBuilder::Boolean(const char* name, uint32_t value) {
-  if (NodeData* node = AddValue(name, NodeKind::kBoolean)) node->number = value != 0 ? 1 : 0;
+  if (NodeData* node = AddValue(name, NodeKind::kBoolean)) node->number = value;
 }
 
 // The record of an ENUMERATED holds nothing else.
