@@ -190,6 +190,13 @@ class SingleMessages(unittest.TestCase):
         self.assertEqual(result.returncode, 0)
         self.assertRegex(result.stdout, rb"12\.0-15\.7 +causeValue: ")
 
+    def test_elements_after_the_user_information_are_read(self):
+        (whole,) = objects(decode_hex("q931", RELEASE_COMPLETE))
+        cause = "08028090"
+        (moved,) = objects(decode_hex("q931", RELEASE_COMPLETE.replace(cause, "") + cause))
+        self.assertEqual(moved, whole)
+        self.assertEqual(whole["message"]["causeValue"], 144)
+
     def test_summary_of_octets_that_are_no_message(self):
         result = run("--as", "q931", data=b"0300000508")
         self.assertRegex(result.stdout, rb"Q\.931 +\(nothing decoded\) +"
