@@ -213,11 +213,12 @@ void AddFrameFaults(DecodedMessage& decoded, const Q931Elements& elements, uint3
   const auto announced = elements.AnnouncedOctets();
   const bool isCut = !announced || *announced > size;
   const bool hasStopped = !decoded.faults.empty();
+  const auto userUser = elements.UserUser();
   if (announced && *announced < size) {
     AddLeftOver(decoded, size - *announced, uint64_t{*announced} * 8, " after the TPKT packet");
   }
   if (const auto element = elements.CutOff(); element && !isCut) {
-    const bool isUserUser = elements.UserUser() && elements.UserUser()->position == element->position;
+    const bool isUserUser = userUser && userUser->position == element->position;
     AddFault(decoded, Verdict::kClaimsTooMuch, isUserUser ? "h323-UserInformation" : "",
              uint64_t{element->position} * 8, "an information element announces more octets than there are");
   }
@@ -225,8 +226,11 @@ void AddFrameFaults(DecodedMessage& decoded, const Q931Elements& elements, uint3
     const std::string all = announced ? " of " + std::to_string(*announced) : "";
     AddFault(decoded, Verdict::kEndedEarly, "", uint64_t{size} * 8,
              "the message ends here, after " + std::to_string(size) + all + " octets");
-  } else if (!isCut && !elements.UserUser()) {
+  } else if (!isCut && !userUser) {
     AddFault(decoded, Verdict::kMalformed, "h323-UserInformation", uint64_t{size} * 8, "there is no user-user element");
+  } else if (!isCut && userUser->length == 0) {
+    AddFault(decoded, Verdict::kMalformed, "h323-UserInformation", uint64_t{userUser->position} * 8,
+             "the user-user element is empty");
   }
 }
 
