@@ -42,7 +42,7 @@ Status DecodeByHand(PrivateMessage& m, R& r) {
   if (PerOctetsLeft(r) < 2) return kMalformed;
   m.messageType = PerReadNumber<uint8_t>(r, 0, 255);
   if (m.hasPayload) KELVRA_TRY(DecodePrivatePayload(m.payload, r));
-  if (m.isExtended) PerSkipExtensionAdditions(r);
+  if (m.isExtended) SkipExtensionAdditions(r);
   return kDecoded;
 }
 
@@ -96,7 +96,7 @@ Status DecodeByHand(H245NonStandardMessageRecord& m, R& r) {
   m.isExtended = PerReadBit(r);
   // Only a failure of private data ends the message.
   KELVRA_TRY((ValueReader<true, R>(r).Read("nonStandardData", m.nonStandardData, NonStandardDataKind{{}, m})));
-  if (m.isExtended) PerSkipExtensionAdditions(r);
+  if (m.isExtended) SkipExtensionAdditions(r);
   return kDecoded;
 }
 

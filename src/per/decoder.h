@@ -47,6 +47,29 @@ static Status DecodeInline(T& m, R& r);
 template <class T, class R>
 [[gnu::always_inline]] inline Status DecodeType(T& m, R& r);
 
+// --- Open types that are not decoded ---
+
+// Skips unknown open types.
+template <class R>
+[[gnu::always_inline]] inline void SkipOpenTypes(R& r, int32_t count) {
+  PerSkipOpenTypes(r, count);
+  if constexpr (R::kObserves) r.LeftOpenType();
+}
+
+// Skips the open type of a known NULL.
+template <class R>
+[[gnu::always_inline]] inline void PassOverOpenType(R& r) {
+  PerPassOverOpenType(r);
+  if constexpr (R::kObserves) r.LeftOpenType();
+}
+
+// Skips the additions of a SEQUENCE with no known ones.
+template <class R>
+[[gnu::always_inline]] inline void SkipExtensionAdditions(R& r) {
+  PerSkipExtensionAdditions(r);
+  if constexpr (R::kObserves) r.LeftOpenType();
+}
+
 // --- Lists ---
 
 // The properties of a list's elements.
@@ -246,7 +269,7 @@ class ValueReader {
   [[gnu::always_inline]] Status Value(T& record, asn1::ExtendedInlineTypeKind kind) {
     kind.flag.Set(PerReadBit(r));
     KELVRA_TRY(Value(record, asn1::InlineType()));
-    if (kind.flag.Get() != 0) PerSkipExtensionAdditions(r);
+    if (kind.flag.Get() != 0) SkipExtensionAdditions(r);
     return kDecoded;
   }
   template <class Place, class Kind>
@@ -333,13 +356,6 @@ class ValueReader {
 
   R& r;
 };
-
-// Skips unknown open types.
-template <class R>
-[[gnu::always_inline]] inline void SkipOpenTypes(R& r, int32_t count) {
-  PerSkipOpenTypes(r, count);
-  if constexpr (R::kObserves) r.LeftOpenType();
-}
 
 // --- SEQUENCE ---
 
@@ -500,8 +516,7 @@ template <class T, class R>
 [[gnu::always_inline]] inline Status DecodeAdditions(T& m, R& r, const FlagCount& count) {
   constexpr bool kReports = kReportsFailures<T>;
   if (count.additions == 0) {
-    PerSkipExtensionAdditions(r);
-    if constexpr (R::kObserves) r.LeftOpenType();
+    SkipExtensionAdditions(r);
     return kDecoded;
   }
   int32_t bitmap = PerReadBitmapLength(r);
@@ -569,10 +584,7 @@ struct AlternativePass {
   }
   [[gnu::always_inline]] bool NullAlternative(const char*) {
     if (chosen != next++) return true;
-    if (next > asn1::kFirstExtension) {
-      PerPassOverOpenType(r);
-      if constexpr (R::kObserves) r.LeftOpenType();
-    }
+    if (next > asn1::kFirstExtension) PassOverOpenType(r);
     return false;
   }
   [[gnu::always_inline]] bool PassedOver(const char*) {
@@ -651,8 +663,7 @@ Status DecodeNull(R& r, uint32_t index, bool isExtension) {
     return index < kRoots ? kDecoded : kMalformed;
   }
   if (index < kExtensions) {
-    PerPassOverOpenType(r);
-    if constexpr (R::kObserves) r.LeftOpenType();
+    PassOverOpenType(r);
   } else {
     SkipOpenTypes(r, 1);
   }

@@ -44,14 +44,20 @@ bool Agree(Outcome<Record>& plain, Outcome<Record>& observed) {
          plain.end.isAtEnd == observed.end.isAtEnd && plain.DigestOfRecord() == observed.DigestOfRecord();
 }
 
+struct FaultListener : DecodeObserver {
+  bool heard = false;
+  void Stopped(const Fault&) override { heard = true; }
+};
+
 template <class Record, class Observe>
 bool Compare(PerReader& reader, Observe observe) {
   const auto plain = std::make_unique<Outcome<Record>>();
   const auto observed = std::make_unique<Outcome<Record>>();
   DecodePlainly(*plain, reader);
-  DecodeObserver nobody;
-  observed->end = observe(observed->record, nobody);
-  return Agree(*plain, *observed);
+  FaultListener faults;
+  observed->end = observe(observed->record, faults);
+  const bool goesPastTheEnd = reader.position > reader.end;
+  return Agree(*plain, *observed) && (faults.heard || !goesPastTheEnd);
 }
 
 }  // namespace
@@ -63,10 +69,10 @@ bool ObservedDecodeAgrees(Family family, const uint8_t* octets, size_t size) {
   switch (family) {
     case Family::kRas:
       return Compare<h225::RasMessageRecord>(
-          reader, [&](auto& record, DecodeObserver& nobody) { return ObserveRas(record, octets, length, nobody); });
+          reader, [&](auto& record, DecodeObserver& faults) { return ObserveRas(record, octets, length, faults); });
     case Family::kH245:
       return Compare<h245::H245MessageRecord>(
-          reader, [&](auto& record, DecodeObserver& nobody) { return ObserveH245(record, octets, length, nobody); });
+          reader, [&](auto& record, DecodeObserver& faults) { return ObserveH245(record, octets, length, faults); });
     case Family::kQ931: break;
   }
   const auto frameLength = static_cast<int32_t>(size);
@@ -74,8 +80,8 @@ bool ObservedDecodeAgrees(Family family, const uint8_t* octets, size_t size) {
   h225::Q931Element element{};
   if (h225::FindQ931Element(&frame, h225::kUserUser, &element) != h225::kQ931Decoded) return true;
   h225::BeginUserInformation(reader, frame, element);
-  return Compare<h225::H323UserInformation>(reader, [&](auto& record, DecodeObserver& nobody) {
-    return ObserveUserInformation(record, octets, frameLength, nobody);
+  return Compare<h225::H323UserInformation>(reader, [&](auto& record, DecodeObserver& faults) {
+    return ObserveUserInformation(record, octets, frameLength, faults);
   });
 }
 

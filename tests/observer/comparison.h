@@ -8,7 +8,8 @@
 
 namespace kelvra::test {
 
-// True if both leave the same record and blocks, the same status and the same position.
+// True if both leave the same record and blocks, the same status and the same position, and the observed decode reports
+// a fault if this is past the end.
 bool ObservedDecodeAgrees(Family family, const uint8_t* octets, size_t size);
 
 }  // namespace kelvra::test

@@ -46,6 +46,11 @@ TEST(ObservedDecode, AgreesWithThePlainDecodeOfFlippedBits) {
   }
 }
 
+// The additions of a NonStandardMessage are skipped, and the last one claims more octets than there are.
+TEST(ObservedDecode, ReportsASkippedAdditionThatGoesPastTheEnd) {
+  EXPECT_TRUE(Agrees(Family::kH245, Hex("00d8000040000003608648d80000400000")));
+}
+
 // Writes one line per event.
 class Listener : public DecodeObserver {
  public:

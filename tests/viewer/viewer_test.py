@@ -197,6 +197,24 @@ class SingleMessages(unittest.TestCase):
         self.assertEqual(moved, whole)
         self.assertEqual(whole["message"]["causeValue"], 144)
 
+    def test_empty_user_information_does_not_reach_into_the_next_element(self):
+        (printed,) = objects(decode_hex("q931", "03000010" "080212675a" "7e0000" "08028090"))
+        self.assertEqual(printed["fault"], {"octet": 9, "bit": 72, "member": "h323-UserInformation",
+                                            "cause": "the user-user element is empty"})
+        self.assertEqual(printed["message"], {"protocolDiscriminator": 8, "callReferenceValue": 4711,
+                                              "messageType": 90, "causeValue": 144})
+
+    def test_skipped_addition_that_claims_too_much_is_a_fault(self):
+        # The additions of a NonStandardMessage are all unknown; the last one goes past the end.
+        (printed,) = objects(decode_hex("h245", "00d8000040000003608648d80000400000"))
+        self.assertEqual(printed["fault"]["member"], "request.nonStandard")
+        self.assertEqual(printed["fault"]["cause"], "a length announces more octets than there are")
+
+    def test_chosen_alternative_is_shown_though_an_earlier_open_type_has_a_fault(self):
+        (printed,) = objects(decode_hex("ras", "52421103a802030000800100"))
+        self.assertEqual(len(printed["faults"]), 2)
+        self.assertEqual(printed["message"]["locationReject"]["cryptoTokens"], [{"cryptoEPPwdHash": {}}])
+
     def test_summary_of_octets_that_are_no_message(self):
         result = run("--as", "q931", data=b"0300000508")
         self.assertRegex(result.stdout, rb"Q\.931 +\(nothing decoded\) +"
