@@ -1,6 +1,7 @@
 // The reader of an observed decode (observer/observer.h). per/decoder.h reports each component to it.
 #pragma once
 
+#include <algorithm>
 #include <vector>
 
 #include "kelvra/h225/common/protocol_identifier.h"
@@ -14,7 +15,7 @@ class ObservedReader : public PerReader {
   static constexpr bool kObserves = true;
 
   ObservedReader(const PerReader& reader, DecodeObserver& observer, const ObserverRules& rules)
-      : PerReader(reader), observer_(observer), rules_(rules), start_(reader.position) {
+      : PerReader(reader), observer_(observer), rules_(rules), start_(reader.position), last_(reader.end) {
     steps_.reserve(kUsualDepth);
   }
 
@@ -23,16 +24,16 @@ class ObservedReader : public PerReader {
   void Depart() { departed_ = true; }
   bool Departed() const { return departed_; }
 
-  uint64_t Bit() const {
-    return uint64_t{reinterpret_cast<uintptr_t>(position) - reinterpret_cast<uintptr_t>(start_)} * 8 + bitOffset;
-  }
+  uint64_t Bit() const { return BitOf(position) + bitOffset; }
+  // The same, but never past the message or the open type around it.
+  uint64_t BoundedBit() const { return std::min({Bit(), BitOf(last_), EndAround()}); }
 
   // Marks a component as being read while it lives.
   class Component {
    public:
     template <class Place, class Kind>
     Component(ObservedReader& reader, const char* name, Place& place, Kind kind)
-        : reader_(reader), component_{name, KindOf(kind), reader.Bit(), AddressOf(place)} {
+        : reader_(reader), component_{name, KindOf(kind), reader.BoundedBit(), AddressOf(place)} {
       reader_.Begin(component_, HasBits(place, kind));
       NoteOctets(place, kind);
     }
@@ -85,6 +86,9 @@ class ObservedReader : public PerReader {
 
   // The decode stops in the innermost component, for a reason that does not move the reader to its end.
   void Stop(PerCause reason);
+  // An open type begins, of which the innermost component is the value, or the next component.
+  void EnteredOpenType() { steps_.back().end = std::min(EndAround(), EndOfOpenType()); }
+  void EnteredOpenTypeOfNext() { endOfNext_ = EndOfOpenType(); }
   // An open type was left, which may have brought the reader back from its end.
   void LeftOpenType();
 
@@ -108,10 +112,15 @@ class ObservedReader : public PerReader {
     bool isRead = true;
     bool isAtAdditions = false;  // the bitmap is read, but no addition
     int32_t unknown = -1;        // unknown additions; below 0: the decoder's count
+    uint64_t end = kNoOpenType;  // the bit at which the innermost open type around it ends
   };
 
   static constexpr int32_t kUnset = -1;
+  static constexpr uint64_t kNoOpenType = UINT64_MAX;
 
+  uint64_t BitOf(const uint8_t* octet) const {
+    return uint64_t{reinterpret_cast<uintptr_t>(octet) - reinterpret_cast<uintptr_t>(start_)} * 8;
+  }
   void SettleUnknownAdditions(Step& step);
 
   template <class T>
@@ -183,12 +192,17 @@ class ObservedReader : public PerReader {
   std::string Path() const;
   // The bit that a read had reached before the reader moved to its end; 0: it did not move.
   uint64_t Reached() const;
+  // Of the open type that has just begun.
+  uint64_t EndOfOpenType() const { return Bit() + uint64_t{openTypes.lengths[openTypes.index]} * 8; }
+  uint64_t EndAround() const { return steps_.empty() ? kNoOpenType : steps_.back().end; }
   void Report(PerCause reason, uint64_t bit);
 
   DecodeObserver& observer_;
   ObserverRules rules_;
   const uint8_t* start_;
-  std::vector<Step> steps_;  // innermost last
+  const uint8_t* last_;               // the end of the message; `end` may be nearer for a while
+  std::vector<Step> steps_;           // innermost last
+  uint64_t endOfNext_ = kNoOpenType;  // of the open type that holds the next component
   bool isStopped_ = false;
   bool departed_ = false;
   int32_t sharedCount_ = 0;  // the message's counter, saved while a SEQUENCE's additions begin

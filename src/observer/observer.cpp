@@ -1,6 +1,7 @@
 #include "observer/observer.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "h225/call/q931_frame.h"
 #include "h225/common/protocol_version.h"
@@ -17,6 +18,7 @@ constexpr uint32_t kLastVersion = 4;             // whose additions the descript
 void ObservedReader::Begin(const kelvra::Component& component, bool hasBits) {
   // The enclosing component moved the reader to its end, for example at the index of a CHOICE.
   if (!isStopped_ && cause != PerCause::kNone && !steps_.empty()) Report(cause, steps_.back().component->firstBit);
+  const uint64_t endOfOpenType = std::min(EndAround(), std::exchange(endOfNext_, kNoOpenType));
   uint32_t index = 0;
   if (!steps_.empty()) {
     Step& holder = steps_.back();
@@ -27,17 +29,25 @@ void ObservedReader::Begin(const kelvra::Component& component, bool hasBits) {
   step.component = &component;
   step.index = index;
   step.isRead = !isStopped_;
+  step.end = endOfOpenType;
   observer_.Begin(component);
-  if (!isStopped_ && hasBits && PerAtEnd(*this)) Report(PerCause::kEndOfMessage, component.firstBit);
+  if (isStopped_ || !hasBits) return;
+  if (PerAtEnd(*this)) {
+    Report(PerCause::kEndOfMessage, component.firstBit);
+  } else if (component.firstBit >= step.end) {
+    Report(PerCause::kEndOfOpenType, component.firstBit);
+  }
 }
 
 void ObservedReader::End(const kelvra::Component& component, uint64_t endOfOctets) {
   if (!isStopped_ && endOfOctets > Bit()) Report(PerCause::kEndOfMessage, component.firstBit);
   // This component moved the reader to its end, and nothing has reported it yet.
   if (!isStopped_ && cause != PerCause::kNone) Report(cause, component.firstBit);
+  if (!isStopped_ && Bit() > steps_.back().end) Report(PerCause::kEndOfOpenType, component.firstBit);
   const bool isRead = steps_.back().isRead;
+  const uint64_t endBit = BoundedBit();
   steps_.pop_back();
-  observer_.End(component, Bit(), isRead);
+  observer_.End(component, endBit, isRead);
 }
 
 void ObservedReader::Stop(PerCause reason) {
@@ -50,7 +60,7 @@ void ObservedReader::LeftOpenType() {
     if (position > end) Report(PerCause::kLengthPastEnd, Bit());
     return;
   }
-  if (PerAtEnd(*this)) return;
+  if (PerAtEnd(*this) || Bit() > EndAround()) return;
   isStopped_ = false;
   cause = PerCause::kNone;
   observer_.Resumed(Bit());
@@ -86,12 +96,13 @@ int32_t ObservedReader::UnknownAdditions(int32_t counted) {
 void ObservedReader::Report(PerCause reason, uint64_t bit) {
   isStopped_ = true;
   for (Step& step : steps_) step.isRead = false;
-  observer_.Stopped({Path(), bit, std::max(bit, Reached()), reason});
+  const uint64_t reached = reason == PerCause::kEndOfOpenType ? steps_.back().end : Reached();
+  observer_.Stopped({Path(), bit, std::max(bit, reached), reason});
 }
 
 uint64_t ObservedReader::Reached() const {
   if (!PerAtEnd(*this) || stoppedAt == nullptr) return 0;
-  return uint64_t{reinterpret_cast<uintptr_t>(stoppedAt) - reinterpret_cast<uintptr_t>(start_)} * 8;
+  return BitOf(stoppedAt);
 }
 
 std::string ObservedReader::Path() const {

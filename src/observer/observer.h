@@ -24,7 +24,8 @@ enum class ComponentKind : uint8_t {
   kString,
 };
 
-// Positions are in bits from the first octet of the decode's input.
+// Positions are in bits from the first octet of the decode's input. None is past the end of the input, or past the open
+// type that holds the component.
 struct Component {
   const char* name;  // the ASN.1 identifier; null: an element of a list
   ComponentKind kind;

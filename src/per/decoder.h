@@ -174,6 +174,7 @@ class ValueReader {
   template <class Place, class Kind>
   [[gnu::always_inline]] Status ReadOpenHere(const char* name, Place&& place, Kind kind) {
     OpenTypeBegin(r);
+    if constexpr (R::kObserves) r.EnteredOpenTypeOfNext();
     const Status status = Read(name, place, kind);
     if constexpr (kReports) KELVRA_TRY(status);
     OpenTypeEnd(r);
@@ -254,6 +255,7 @@ class ValueReader {
   template <class T>
   [[gnu::always_inline]] Status Value(T& record, asn1::ContainingKind) {
     OpenTypeBegin(r);
+    if constexpr (R::kObserves) r.EnteredOpenType();
     static_cast<void>(Decode(record, r));
     OpenTypeEnd(r);
     if constexpr (R::kObserves) r.LeftOpenType();

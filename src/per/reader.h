@@ -52,6 +52,7 @@ enum class PerCause : uint8_t {
   kTooDeep,           // types nest too deep
   kTooMuchRereading,  // more octets are reread than allowed
   kUnknownVersion,    // a registration names an unknown version
+  kEndOfOpenType,     // the bits lie past the open type; only an observed decode stops there
 };
 
 // There is no error flag: a failed read moves `position` to `end`, and every later read yields 0. An open type's length

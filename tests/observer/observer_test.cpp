@@ -134,17 +134,31 @@ TEST(Observer, NamesElementsByTheirIndex) {
   EXPECT_NE(heard.find("stopped at locationRequest.destinationInfo[1] bit 64 cause 1\n"), std::string::npos) << heard;
 }
 
-// The open type of a requestInProgress holds two octets; the message reads three and wants more: the decode stops, and
+// The open type of a requestInProgress holds two octets, and its requestSeqNum wants a third: the decode stops, and
 // resumes after the open type.
 TEST(Observer, ResumesAfterAnOpenType) {
   const Octets octets = BitWriter().Bit(true).NormallySmall(0).OpenType({0x00, 0x00}).Octets({0x5A});
   EXPECT_EQ(HeardOfRas(octets),
-            "requestSeqNum 21-40\n"
-            "stopped at requestInProgress.delay bit 40 cause 1\n"
-            "delay 40-40 unread\n"
-            "requestInProgress 16-40 unread\n"
+            "stopped at requestInProgress.requestSeqNum bit 21 cause 11\n"
+            "requestSeqNum 21-32 unread\n"
+            "delay 32-32 unread\n"
+            "requestInProgress 16-32 unread\n"
             "resumed at 32\n"
             " 0-32 unread\n");
+}
+
+// An unknown addition inside goes past the open type, but not past the message.
+TEST(Observer, StopsWhereAnAdditionGoesPastTheOpenTypeAroundIt) {
+  const Octets value =
+      BitWriter().Bit(true).Bits(0, 4).Align().Bits(89, 16).Bits(9, 16).NormallySmall(0).Bit(true).Length(5).Octets(
+          {1, 2});
+  EXPECT_EQ(HeardOfRas(BitWriter().Bit(true).NormallySmall(0).OpenType(value).Octets({3, 4, 5, 6})),
+            "requestSeqNum 21-40\n"
+            "delay 40-56\n"
+            "stopped at requestInProgress bit 16 cause 11\n"
+            "requestInProgress 16-88 unread\n"
+            "resumed at 88\n"
+            " 0-88 unread\n");
 }
 
 TEST(Observer, NamesAStringWhoseOctetsAreMissing) {

@@ -210,10 +210,24 @@ class SingleMessages(unittest.TestCase):
         self.assertEqual(printed["fault"]["member"], "request.nonStandard")
         self.assertEqual(printed["fault"]["cause"], "a length announces more octets than there are")
 
-    def test_chosen_alternative_is_shown_though_an_earlier_open_type_has_a_fault(self):
-        (printed,) = objects(decode_hex("ras", "52421103a802030000800100"))
-        self.assertEqual(len(printed["faults"]), 2)
-        self.assertEqual(printed["message"]["locationReject"]["cryptoTokens"], [{"cryptoEPPwdHash": {}}])
+    def test_chosen_alternative_is_shown_though_an_earlier_member_has_a_fault(self):
+        (printed,) = objects(decode_hex("h245", "0800320400590800032208c000"))
+        self.assertEqual([fault["cause"] for fault in printed["faults"]],
+                         ["no alternative has this index", "the message ends here"])
+        self.assertEqual(printed["message"]["request"]["requestMode"]["requestedModes"][1][1],
+                         {"type": {"nonStandard": {}}})
+
+    def test_value_that_goes_past_its_open_type_is_a_fault_and_not_shown(self):
+        # The callIdentifier is an octet short; the decoder takes the next one for its last.
+        text = (RELEASE_COMPLETE.replace("03000033", "03000032").replace("7e0023", "7e0022")
+                .replace("880011002021", "880010002021").replace("2e2f", "2e"))
+        (printed,) = objects(decode_hex("q931", text))
+        self.assertEqual((printed["ok"], printed["complete"]), (True, False))
+        self.assertEqual(printed["fault"], {"octet": 46, "bit": 368, "member": "callIdentifier.guid", "resumed": True,
+                                            "cause": "the open type around it ends here"})
+        pdu = printed["message"]["h323-UserInformation"]["h323-uu-pdu"]
+        self.assertNotIn("callIdentifier", pdu["h323-message-body"]["releaseComplete"])
+        self.assertFalse(pdu["h245Tunnelling"])
 
     def test_summary_of_octets_that_are_no_message(self):
         result = run("--as", "q931", data=b"0300000508")

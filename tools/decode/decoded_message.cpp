@@ -55,6 +55,7 @@ struct Words {
 
 Words WordsOf(PerCause cause) {
   switch (cause) {
+    case PerCause::kEndOfOpenType: return {Verdict::kMalformed, "the open type around it ends here"};
     case PerCause::kLengthPastEnd: return {Verdict::kClaimsTooMuch, "a length announces more octets than there are"};
     case PerCause::kFragmentedLength: return {Verdict::kClaimsTooMuch, "a length in fragments, which is not read"};
     case PerCause::kNumberTooWide: return {Verdict::kMalformed, "a number or length is too large"};

@@ -19,7 +19,9 @@ enum class Verdict : uint8_t {
   kClaimsTooMuch,   // a length that goes past the end, or is fragmented
   kVersionRefused,  // a registration with a protocol version unknown to the library
   kLimitReached,
-  kMalformed,  // an undefined index, a number out of range, or a Q.931 frame without a required part
+  // An undefined index, a number out of range, a value past the open type around it, or a Q.931 frame without a
+  // required part.
+  kMalformed,
   kTooLong,    // for the exports
 };
 
