@@ -34,14 +34,22 @@ inline Status DecodePrivatePayload(OctetStringValue& m, PerReader& r) {
   return length != 0 && m.data == nullptr ? kRefused : kDecoded;
 }
 
+struct PrivatePayloadKind {};
+
+template <class R>
+Status DecodeKind(OctetStringValue& m, R& r, PrivatePayloadKind) {
+  return DecodePrivatePayload(m, r);
+}
+
 template <class R>
 Status DecodeByHand(PrivateMessage& m, R& r) {
   PerFlags flags = PerReadFlags(r, 2);
   m.isExtended = flags.Next();
   m.hasPayload = flags.Next();
   if (PerOctetsLeft(r) < 2) return kMalformed;
-  m.messageType = PerReadNumber<uint8_t>(r, 0, 255);
-  if (m.hasPayload) KELVRA_TRY(DecodePrivatePayload(m.payload, r));
+  ValueReader<true, R> reader(r);
+  KELVRA_TRY(reader.Read("messageType", asn1::Scalar<uint8_t>(&m.messageType), asn1::Integer(0, 255)));
+  if (m.hasPayload) KELVRA_TRY(reader.Read("payload", m.payload, PrivatePayloadKind()));
   if (m.isExtended) SkipExtensionAdditions(r);
   return kDecoded;
 }
@@ -51,51 +59,68 @@ inline bool IsPrivate(const NonStandardIdentifier& m) {
   return m.choiceTag == 1 && vendor.t35CountryCode == 86 && vendor.t35Extension == 1 && vendor.manufacturerCode == 1;
 }
 
-// Decodes a private message of `length` octets. The reader is bounded to them, so its claims count against the
-// allowance of the whole message; it resumes past them, whatever was consumed.
+// A private message of `length` octets.
+struct PrivateMessageKind : asn1::DefinedTypeKind {
+  uint32_t length;
+};
+
+// The reader is bounded to the message, so its claims count against the allowance of the whole message; it resumes past
+// the message, whatever was consumed.
 template <class R>
-Status DecodeBounded(PrivateMessage& m, R& r, uint32_t length) {
+Status DecodeKind(PrivateMessage& m, R& r, PrivateMessageKind kind) {
   Status status = kDecoded;
   {
-    const PerBounds bounds(r, length);
+    const PerBounds bounds(r, kind.length);
     status = DecodeByHand(m, r);
   }
   if (status != kDecoded) PerMoveToEnd(r, PerCause::kLengthPastEnd);
   return status;
 }
 
-// Data of length 0 holds no message, which is not a failure.
+// The length of data that hold a private message.
+struct PrivateLengthKind {
+  uint32_t& length;
+};
+
 template <class R>
-Status DecodePrivateData(H245NonStandardMessageRecord& m, R& r) {
-  const uint32_t length = PerReadLength(r);
-  if (length == 0) return kDecoded;
+Status DecodeKind(Slot<uint8_t>&, R& r, PrivateLengthKind kind) {
+  kind.length = PerReadLength(r);
   if constexpr (R::kObserves) {
-    if (length > PerOctetsLeft(r)) r.Stop(PerCause::kLengthPastEnd);
+    if (kind.length > PerOctetsLeft(r)) r.Stop(PerCause::kLengthPastEnd);
   }
-  if (m.messageClass > kIndication) return kMalformed;
-  KELVRA_TRY(DecodeBounded(m.privateMessage, r, length));
-  m.privateMessageDecoded = 1;
   return kDecoded;
 }
 
-// A NonStandardParameter whose data may hold a private message.
+// A NonStandardParameter. Of data that hold a private message only the length is read; other data leave it 0.
 struct NonStandardDataKind : asn1::DefinedTypeKind {
-  H245NonStandardMessageRecord& message;
+  uint32_t& privateLength;
 };
 
 template <class R>
 Status DecodeKind(NonStandardParameter& m, R& r, NonStandardDataKind kind) {
   ValueReader<false, R> reader(r);
   KELVRA_TRY(reader.Read("nonStandardIdentifier", m.nonStandardIdentifier, asn1::DefinedType()));
-  if (IsPrivate(m.nonStandardIdentifier)) return DecodePrivateData(kind.message, r);
-  return reader.Read("data", Slot<uint8_t>(&m.data), asn1::OctetStringOf(asn1::Scalar<uint32_t>(&m.dataLength)));
+  Slot<uint8_t> data(&m.data);
+  if (IsPrivate(m.nonStandardIdentifier)) return reader.Read("data", data, PrivateLengthKind{kind.privateLength});
+  return reader.Read("data", data, asn1::OctetStringOf(asn1::Scalar<uint32_t>(&m.dataLength)));
+}
+
+template <class R>
+Status DecodePrivateMessage(H245NonStandardMessageRecord& m, R& r, uint32_t length) {
+  if (m.messageClass > kIndication) return kMalformed;
+  KELVRA_TRY((ValueReader<true, R>(r).Read("privateMessage", m.privateMessage, PrivateMessageKind{{}, length})));
+  m.privateMessageDecoded = 1;
+  return kDecoded;
 }
 
 template <class R>
 Status DecodeByHand(H245NonStandardMessageRecord& m, R& r) {
   m.isExtended = PerReadBit(r);
-  // Only a failure of private data ends the message.
-  KELVRA_TRY((ValueReader<true, R>(r).Read("nonStandardData", m.nonStandardData, NonStandardDataKind{{}, m})));
+  uint32_t privateLength = 0;
+  KELVRA_TRY(
+      (ValueReader<true, R>(r).Read("nonStandardData", m.nonStandardData, NonStandardDataKind{{}, privateLength})));
+  // Only a failure of a private message ends the message; data of length 0 hold none.
+  if (privateLength != 0) KELVRA_TRY(DecodePrivateMessage(m, r, privateLength));
   if (m.isExtended) SkipExtensionAdditions(r);
   return kDecoded;
 }
